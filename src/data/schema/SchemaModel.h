@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace sandogh {
+
+// Neutral column types; each backend's dialect names them in its own DDL.
+enum class ColumnType {
+    Int,       // 32-bit integer
+    BigInt,    // 64-bit integer
+    Money,     // amounts and quantities: exact decimal, 4 fraction digits
+    Float,     // double precision
+    Text,      // bounded text; length in ColumnDef::length (0 = 255)
+    LongText,  // unbounded text
+    Bool,      // 0/1, kept as a small integer
+    Blob,
+};
+
+struct ColumnDef {
+    QString name;
+    ColumnType type = ColumnType::Int;
+    int length = 0;           // for Text
+    bool nullable = true;
+    bool identity = false;    // database-allocated row number (at most one per table)
+    QString defaultValue;     // literal SQL default, empty for none ("0", "''")
+};
+
+// A table. database is empty for the shop database, or the name of another
+// database on the same server (the scale vendors' "MizanNet", "Sadr", "OnlineSales").
+struct TableDef {
+    QString name;
+    QList<ColumnDef> columns;
+    QStringList primaryKey;
+    QString database;
+};
+
+struct IndexDef {
+    QString name;
+    QString table;
+    QStringList columns;
+    bool unique = false;
+    QString database;
+};
+
+struct ForeignKeyDef {
+    QString name;
+    QString table;
+    QStringList columns;
+    QString refTable;
+    QStringList refColumns;
+};
+
+struct AddColumnDef {
+    QString table;
+    ColumnDef column;
+    QString database;
+};
+
+// One numbered, append-only step of the schema. Steps are applied in order,
+// each in its own transaction, and SchemaVersion records the last one applied.
+struct MigrationStep {
+    int version = 0;
+    QString description;
+    QList<TableDef> tables;
+    QList<AddColumnDef> addColumns;
+    QList<IndexDef> indexes;
+    QList<ForeignKeyDef> foreignKeys;
+    QStringList seedStatements;  // portable statements without values, run after the DDL
+};
+
+}  // namespace sandogh

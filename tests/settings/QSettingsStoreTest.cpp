@@ -1,0 +1,248 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include "SettingsTestSupport.h"
+#include "settings/QSettingsStore.h"
+
+namespace sandogh {
+namespace {
+
+using testing::fileText;
+using testing::ScopedEnv;
+using testing::writeFile;
+
+class QSettingsStoreTest : public ::testing::Test {
+protected:
+    QString iniPath(const QString& name = QStringLiteral("Retail.ini")) const {
+        return dir_.filePath(name);
+    }
+
+    QTemporaryDir dir_;
+};
+
+TEST_F(QSettingsStoreTest, MissingKeysReadEmpty) {
+    QSettingsStore store(QStringLiteral("Retail"), iniPath());
+    EXPECT_EQ(store.application(), QStringLiteral("Retail"));
+    EXPECT_TRUE(store.isIniFile());
+    EXPECT_EQ(store.read(QStringLiteral("PortNo"), QStringLiteral("No")), QString());
+    EXPECT_FALSE(QFileInfo::exists(iniPath())) << "reading must not create the file";
+}
+
+TEST_F(QSettingsStoreTest, SectionsAndKeysMatchWithoutRegardToCase) {
+    QSettingsStore store(QStringLiteral("Retail"), iniPath());
+    ASSERT_TRUE(store.write(QStringLiteral("ISActivePoolDisplay"), QStringLiteral("Enable"),
+                            QStringLiteral("1")));
+
+    const struct {
+        const char* section;
+        const char* key;
+    } spellings[] = {
+        {"ISActivePoolDisplay", "Enable"},
+        {"IsActivePoolDisplay", "enable"},
+        {"isactivepooldisplay", "ENABLE"},
+    };
+    for (const auto& s : spellings) {
+        EXPECT_EQ(store.read(QString::fromLatin1(s.section), QString::fromLatin1(s.key)),
+                  QStringLiteral("1"))
+            << s.section << '/' << s.key;
+    }
+
+    // A second write in another spelling updates the one entry.
+    ASSERT_TRUE(store.write(QStringLiteral("IsActivePoolDisplay"), QStringLiteral("ENABLE"),
+                            QStringLiteral("0")));
+    EXPECT_EQ(store.read(QStringLiteral("ISActivePoolDisplay"), QStringLiteral("Enable")),
+              QStringLiteral("0"));
+    // A new key of the same section joins the section under its kept spelling.
+    ASSERT_TRUE(store.write(QStringLiteral("isActivePoolDisplay"), QStringLiteral("Port"),
+                            QStringLiteral("4")));
+
+    const QString ini = fileText(iniPath());
+    EXPECT_EQ(ini.count(QStringLiteral("enable="), Qt::CaseInsensitive), 1) << ini.toStdString();
+    EXPECT_EQ(ini.count(QStringLiteral("[ISActivePoolDisplay]")), 1) << ini.toStdString();
+    EXPECT_EQ(ini.count(QStringLiteral("activepooldisplay]"), Qt::CaseInsensitive), 1)
+        << ini.toStdString();
+}
+
+TEST_F(QSettingsStoreTest, HandEditedFileWithTwoSpellingsIsMergedOnWrite) {
+    ASSERT_TRUE(writeFile(iniPath(), "[PortNo]\nno=3\n\n[portno]\nNO=5\nNo2=6\n"));
+    QSettingsStore store(QStringLiteral("Retail"), iniPath());
+    // The exact spelling wins over the others while both are there.
+    EXPECT_EQ(store.read(QStringLiteral("portno"), QStringLiteral("NO")), QStringLiteral("5"));
+    EXPECT_EQ(store.read(QStringLiteral("PORTNO"), QStringLiteral("no2")), QStringLiteral("6"));
+
+    ASSERT_TRUE(store.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("7")));
+    for (const char* section : {"PortNo", "portno", "PORTNO"}) {
+        for (const char* key : {"No", "no", "NO"}) {
+            EXPECT_EQ(store.read(QString::fromLatin1(section), QString::fromLatin1(key)),
+                      QStringLiteral("7"))
+                << section << '/' << key;
+        }
+    }
+    const QString ini = fileText(iniPath());
+    const QRegularExpression noLine(
+        QStringLiteral("^no="),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::MultilineOption);
+    EXPECT_EQ(ini.count(noLine), 1) << ini.toStdString();
+}
+
+TEST_F(QSettingsStoreTest, HandEditedUnquotedCommaIsOneText) {
+    ASSERT_TRUE(writeFile(iniPath(), "[Tools]\nfrmSaledgGoodsColOrder=2,0,1,3\n"));
+    QSettingsStore store(QStringLiteral("Retail"), iniPath());
+    EXPECT_EQ(store.read(QStringLiteral("tools"), QStringLiteral("FRMSALEDGGOODSCOLORDER")),
+              QStringLiteral("2,0,1,3"));
+}
+
+TEST_F(QSettingsStoreTest, RemoveForgetsEverySpelling) {
+    ASSERT_TRUE(
+        writeFile(iniPath(), "[Scale]\nIsActiveTakin=1\nisactivetakin=2\nIsActiveSadr=1\n"));
+    QSettingsStore store(QStringLiteral("Retail"), iniPath());
+    ASSERT_TRUE(store.remove(QStringLiteral("SCALE"), QStringLiteral("IsActiveTAKIN")));
+    EXPECT_EQ(store.read(QStringLiteral("Scale"), QStringLiteral("IsActiveTakin")), QString());
+    EXPECT_EQ(store.read(QStringLiteral("Scale"), QStringLiteral("isactivetakin")), QString());
+    EXPECT_EQ(store.read(QStringLiteral("Scale"), QStringLiteral("IsActiveSadr")),
+              QStringLiteral("1"));
+}
+
+TEST_F(QSettingsStoreTest, InvalidNamesAreRefused) {
+    QSettingsStore store(QStringLiteral("Retail"), iniPath());
+    const struct {
+        const char* section;
+        const char* key;
+    } names[] = {
+        {"", "No"}, {"PortNo", ""}, {"Port/No", "No"}, {"PortNo", "N/o"}, {"Port\\No", "No"}};
+    for (const auto& n : names) {
+        const QString section = QString::fromLatin1(n.section);
+        const QString key = QString::fromLatin1(n.key);
+        EXPECT_FALSE(store.write(section, key, QStringLiteral("1"))) << n.section << '|' << n.key;
+        EXPECT_EQ(store.read(section, key), QString());
+        EXPECT_FALSE(store.remove(section, key));
+    }
+    EXPECT_FALSE(QFileInfo::exists(iniPath()));
+}
+
+// Texts that an INI file could take apart: separators, quotes, comment marks, the platform
+// store's own escapes, blanks at the ends, line breaks and Persian.
+const char* const awkwardTexts[] = {
+    "a,b,c",
+    "x=y",
+    "a;b",
+    "\"quoted\"",
+    "'single'",
+    "  blanks at both ends  ",
+    "@Variant(0)",
+    "@at",
+    "back\\slash",
+    "[not a section]",
+    "#not a comment",
+    "tab\tinside",
+    "line\r\nbreak",
+    "%41%42",
+    "مبلغ دريافت شده کمتر از قيمت کل بوده و فاکتور جاري بدهکار خواهد شد.",
+    "تعدادي از کالاهاي موجود در فاکتور مورد نظر در سيستم موجود نيستند,لطفا ابتدا برنامه انتقال "
+    "کالا را اجرا نماييد.",
+    "مقدار اين فيلد نمي تواند خالي باشد\r\nلطفآ مقدار را مشخص نمائيد",
+    "ش فاکتور: 1404/01/05",
+};
+
+TEST_F(QSettingsStoreTest, AwkwardTextSurvivesTheFileAfterReopening) {
+    const QString written = iniPath();
+    {
+        QSettingsStore store(QStringLiteral("Retail"), written);
+        int n = 0;
+        for (const char* text : awkwardTexts) {
+            ASSERT_TRUE(store.write(QStringLiteral("Awkward"), QStringLiteral("K%1").arg(n++),
+                                    QString::fromUtf8(text)));
+        }
+    }
+    // A copy under another name is certainly read from disk, not from memory.
+    const QString copy = iniPath(QStringLiteral("Copy.ini"));
+    ASSERT_TRUE(QFile::copy(written, copy));
+    QSettingsStore reopened(QStringLiteral("Retail"), copy);
+    int n = 0;
+    for (const char* text : awkwardTexts) {
+        EXPECT_EQ(reopened.read(QStringLiteral("awkward"), QStringLiteral("k%1").arg(n++)),
+                  QString::fromUtf8(text))
+            << text;
+    }
+}
+
+TEST_F(QSettingsStoreTest, TwoCashDesksOnTwoFilesStayIndependent) {
+    QSettingsStore first(QStringLiteral("Retail"), iniPath(QStringLiteral("desk1/Retail.ini")));
+    QSettingsStore second(QStringLiteral("Retail"), iniPath(QStringLiteral("desk2/Retail.ini")));
+    ASSERT_TRUE(first.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("1")));
+    ASSERT_TRUE(second.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("3")));
+    ASSERT_TRUE(first.write(QStringLiteral("IsActivePoolDisplay"), QStringLiteral("Line"),
+                            QStringLiteral("3")));
+
+    EXPECT_EQ(first.read(QStringLiteral("PortNo"), QStringLiteral("No")), QStringLiteral("1"));
+    EXPECT_EQ(second.read(QStringLiteral("PortNo"), QStringLiteral("No")), QStringLiteral("3"));
+    EXPECT_EQ(second.read(QStringLiteral("IsActivePoolDisplay"), QStringLiteral("Line")),
+              QString());
+
+    ASSERT_TRUE(second.remove(QStringLiteral("PortNo"), QStringLiteral("No")));
+    EXPECT_EQ(first.read(QStringLiteral("PortNo"), QStringLiteral("No")), QStringLiteral("1"));
+}
+
+TEST_F(QSettingsStoreTest, WriteFailsWhenTheFileCannotBeMade) {
+    // A folder in the path that is a plain file stops even a privileged user.
+    ASSERT_TRUE(writeFile(iniPath(QStringLiteral("blocker")), "not a folder"));
+    QSettingsStore store(QStringLiteral("Retail"), iniPath(QStringLiteral("blocker/Retail.ini")));
+    EXPECT_FALSE(store.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("1")));
+}
+
+TEST_F(QSettingsStoreTest, EnvironmentFolderHoldsOneFilePerApplication) {
+    const ScopedEnv env(QSettingsStore::EnvironmentVariable,
+                        dir_.filePath(QStringLiteral("desk3")));
+    QSettingsStore retail;
+    QSettingsStore transfer(QStringLiteral("Factortransfer"));
+    EXPECT_EQ(QFileInfo(retail.location()).absoluteFilePath(),
+              QFileInfo(dir_.filePath(QStringLiteral("desk3/Retail.ini"))).absoluteFilePath());
+    EXPECT_EQ(QFileInfo(transfer.location()).fileName(), QStringLiteral("Factortransfer.ini"));
+
+    ASSERT_TRUE(
+        retail.write(QStringLiteral("FC"), QStringLiteral("ShowPrice"), QStringLiteral("9")));
+    ASSERT_TRUE(
+        transfer.write(QStringLiteral("FC"), QStringLiteral("ShowPrice"), QStringLiteral("2")));
+    EXPECT_EQ(retail.read(QStringLiteral("FC"), QStringLiteral("ShowPrice")), QStringLiteral("9"));
+    EXPECT_EQ(transfer.read(QStringLiteral("FC"), QStringLiteral("ShowPrice")),
+              QStringLiteral("2"));
+    EXPECT_TRUE(QFileInfo::exists(dir_.filePath(QStringLiteral("desk3/Retail.ini"))));
+}
+
+TEST_F(QSettingsStoreTest, EnvironmentIniFileIsRetailWithOthersBesideIt) {
+    const ScopedEnv env(QSettingsStore::EnvironmentVariable, iniPath(QStringLiteral("Desk4.INI")));
+    EXPECT_EQ(QSettingsStore::defaultIniPath(QStringLiteral("Retail")),
+              iniPath(QStringLiteral("Desk4.INI")));
+    EXPECT_EQ(QSettingsStore::defaultIniPath(QStringLiteral("Factortransfer")),
+              iniPath(QStringLiteral("Factortransfer.ini")));
+}
+
+TEST_F(QSettingsStoreTest, ConstructorPathWinsOverTheEnvironment) {
+    const ScopedEnv env(QSettingsStore::EnvironmentVariable, dir_.filePath(QStringLiteral("env")));
+    QSettingsStore store(QStringLiteral("Retail"), iniPath(QStringLiteral("own.ini")));
+    ASSERT_TRUE(
+        store.write(QStringLiteral("Year"), QStringLiteral("Year"), QStringLiteral("Y1404")));
+    EXPECT_TRUE(QFileInfo::exists(iniPath(QStringLiteral("own.ini"))));
+    EXPECT_FALSE(QFileInfo::exists(dir_.filePath(QStringLiteral("env/Retail.ini"))));
+}
+
+#ifndef Q_OS_WIN
+TEST_F(QSettingsStoreTest, WithoutOverrideTheUserConfigurationFolderIsUsed) {
+    const ScopedEnv noOverride(QSettingsStore::EnvironmentVariable, std::nullopt);
+    const ScopedEnv config("XDG_CONFIG_HOME", dir_.filePath(QStringLiteral("config")));
+    const QString expected = dir_.filePath(QStringLiteral("config/sandogh/Retail.ini"));
+    EXPECT_EQ(QSettingsStore::defaultIniPath(QStringLiteral("Retail")), expected);
+
+    QSettingsStore store;
+    ASSERT_TRUE(store.write(QStringLiteral("PortNo"), QStringLiteral("Pec"), QStringLiteral("2")));
+    EXPECT_TRUE(QFileInfo::exists(expected));
+}
+#endif
+
+}  // namespace
+}  // namespace sandogh

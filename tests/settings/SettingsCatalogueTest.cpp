@@ -1,0 +1,111 @@
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include <QSet>
+
+#include "settings/SettingReaders.h"
+#include "settings/SettingsCatalogue.h"
+#include "settings/SettingsStore.h"
+
+namespace sandogh {
+namespace {
+
+const SettingGroup allGroups[] = {
+    SettingGroup::Session,  SettingGroup::Ports,     SettingGroup::Display,
+    SettingGroup::Drawer,   SettingGroup::Scale,     SettingGroup::Sale,
+    SettingGroup::Receipt,  SettingGroup::Customers, SettingGroup::Messaging,
+    SettingGroup::Branches, SettingGroup::System,    SettingGroup::Appearance,
+};
+
+TEST(SettingsCatalogue, EachKeyIsListedOnce) {
+    QSet<QString> seen;
+    for (const SettingDescriptor& row : SettingsCatalogue::all()) {
+        const QString name =
+            (row.application() + u'/' + row.section() + u'/' + row.name()).toCaseFolded();
+        EXPECT_FALSE(seen.contains(name)) << name.toStdString();
+        seen.insert(name);
+        EXPECT_TRUE(SettingsStore::validName(row.section())) << name.toStdString();
+        EXPECT_TRUE(SettingsStore::validName(row.name())) << name.toStdString();
+        EXPECT_TRUE(row.application() == QStringLiteral("Retail") ||
+                    row.application() == QStringLiteral("Factortransfer"))
+            << name.toStdString();
+    }
+}
+
+TEST(SettingsCatalogue, DefaultsOfFlagsAndNumbersAreNumbers) {
+    for (const SettingDescriptor& row : SettingsCatalogue::all()) {
+        if (row.key.form == SettingForm::Text || row.defaultText().isEmpty()) {
+            continue;
+        }
+        const double value = SettingReaders::numericValue(row.defaultText());
+        EXPECT_EQ(SettingReaders::numberText(value), row.defaultText())
+            << row.key.section << '/' << row.key.key;
+    }
+}
+
+TEST(SettingsCatalogue, CaptionsArePersianAndDistinct) {
+    QSet<QString> captions;
+    for (const SettingDescriptor& row : SettingsCatalogue::all()) {
+        const QString caption = row.captionText();
+        const std::string where = std::string(row.key.section) + '/' + row.key.key;
+        EXPECT_FALSE(caption.trimmed().isEmpty()) << where;
+        EXPECT_FALSE(captions.contains(caption)) << where;
+        captions.insert(caption);
+        bool persian = false;
+        for (QChar c : caption) {
+            persian = persian || (c.unicode() >= 0x0600 && c.unicode() <= 0x06FF);
+            // Persian yeh and kaf, never their Arabic forms.
+            EXPECT_NE(c.unicode(), 0x064A) << where;
+            EXPECT_NE(c.unicode(), 0x0643) << where;
+        }
+        EXPECT_TRUE(persian) << where;
+    }
+}
+
+TEST(SettingsCatalogue, FindIgnoresCase) {
+    const struct {
+        const char* application;
+        const char* section;
+        const char* key;
+        bool found;
+    } cases[] = {
+        {"Retail", "IsActivePoolDisplay", "Port", true},
+        {"retail", "ISACTIVEPOOLDISPLAY", "port", true},
+        {"Retail", "PrinterPort", "usb", true},
+        {"Factortransfer", "fc", "SHOWPRICE", true},
+        {"Retail", "FC", "ShowPrice", false},
+        {"Retail", "PortNo", "Nope", false},
+        {"Other", "PortNo", "No", false},
+    };
+    for (const auto& c : cases) {
+        const SettingDescriptor* row =
+            SettingsCatalogue::find(QString::fromLatin1(c.application),
+                                    QString::fromLatin1(c.section), QString::fromLatin1(c.key));
+        EXPECT_EQ(row != nullptr, c.found) << c.application << '/' << c.section << '/' << c.key;
+    }
+    const SettingDescriptor* port = SettingsCatalogue::find(
+        QStringLiteral("retail"), QStringLiteral("isactivepooldisplay"), QStringLiteral("PORT"));
+    ASSERT_NE(port, nullptr);
+    EXPECT_EQ(port->defaultText(), QStringLiteral("1"));
+    EXPECT_EQ(port->key.form, SettingForm::Number);
+    EXPECT_EQ(port->group, SettingGroup::Display);
+}
+
+TEST(SettingsCatalogue, EveryPageHasRowsAndItsOwnTitle) {
+    QSet<QString> titles;
+    std::size_t rows = 0;
+    for (SettingGroup group : allGroups) {
+        const auto inGroup = SettingsCatalogue::inGroup(group);
+        EXPECT_FALSE(inGroup.empty()) << static_cast<int>(group);
+        rows += inGroup.size();
+        const QString title = SettingsCatalogue::groupCaption(group);
+        EXPECT_FALSE(title.isEmpty()) << static_cast<int>(group);
+        EXPECT_FALSE(titles.contains(title)) << static_cast<int>(group);
+        titles.insert(title);
+    }
+    EXPECT_EQ(rows, SettingsCatalogue::all().size()) << "a row on no page";
+}
+
+}  // namespace
+}  // namespace sandogh

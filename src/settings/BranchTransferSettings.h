@@ -1,0 +1,24 @@
+#pragma once
+
+#include "settings/SettingsStore.h"
+
+namespace sandogh {
+
+// The settings of the branch transfer screens, kept under their own application name
+// "Factortransfer" rather than "Retail". The store is not owned and should be one opened
+// for that application.
+class BranchTransferSettings {
+public:
+    explicit BranchTransferSettings(SettingsStore& store) : store_(store) {}
+
+    // "FC"/"ShowPrice": 1 or 2; 1 when nothing is kept.
+    int showPrice() const;
+    bool setShowPrice(int value);
+
+private:
+    bool ownsStore() const;
+
+    SettingsStore& store_;
+};
+
+}  // namespace sandogh

@@ -71,10 +71,12 @@ bool MachineSettings::reset(const SettingKey& key) {
 }
 
 bool MachineSettings::setUserInfo(int id, const QString& loginName, const QString& displayName) {
+    store_.beginBatch();
     const bool idKept = setNumber(settingkeys::UserId, id);
     const bool nameKept = write(settingkeys::UserName, loginName);
     const bool displayKept = write(settingkeys::UserDisplayName, displayName);
-    return idKept && nameKept && displayKept;
+    const bool flushed = store_.endBatch();
+    return idKept && nameKept && displayKept && flushed;
 }
 
 bool MachineSettings::printerPortUsb() const {

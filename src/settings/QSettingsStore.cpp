@@ -140,7 +140,21 @@ bool QSettingsStore::remove(const QString& section, const QString& key) {
     return flush();
 }
 
+void QSettingsStore::beginBatch() {
+    ++batchDepth_;
+}
+
+bool QSettingsStore::endBatch() {
+    if (batchDepth_ > 0) {
+        --batchDepth_;
+    }
+    return flush();
+}
+
 bool QSettingsStore::flush() {
+    if (batchDepth_ > 0) {
+        return true;
+    }
     settings_->sync();
     return settings_->status() == QSettings::NoError;
 }

@@ -23,7 +23,7 @@ namespace sandogh {
 //
 // INI files are case-sensitive on most platforms; this store looks names up without regard
 // to case itself and writes to the spelling already kept, so one value never exists twice.
-// Every write is flushed at once.
+// Every write is flushed at once, unless a batch is open.
 class QSettingsStore final : public SettingsStore {
 public:
     static constexpr const char* EnvironmentVariable = "SANDOGH_SETTINGS";
@@ -39,6 +39,8 @@ public:
     QString read(const QString& section, const QString& key) const override;
     bool write(const QString& section, const QString& key, const QString& text) override;
     bool remove(const QString& section, const QString& key) override;
+    void beginBatch() override;
+    bool endBatch() override;
 
     // The INI file or registry path in use.
     QString location() const;
@@ -54,10 +56,12 @@ private:
     QStringList matches(const QString& section, const QString& key) const;
     // The spelling of the section already kept, or section itself.
     QString keptSection(const QString& section) const;
+    // Writes the changes out unless a batch is open; false when they could not be kept.
     bool flush();
 
     QString application_;
     std::unique_ptr<QSettings> settings_;
+    int batchDepth_ = 0;
 };
 
 }  // namespace sandogh

@@ -23,6 +23,13 @@ public:
     // Forgets the text under every spelling of section and key; false when it cannot.
     virtual bool remove(const QString& section, const QString& key) = 0;
 
+    // Many writes at once (the settings screen saving every key): between beginBatch and
+    // the matching endBatch, writes and removals are only noted and reach the platform store
+    // together when the outermost batch ends. Their results then say only whether the names
+    // were valid; endBatch says whether everything was kept. Batches nest.
+    virtual void beginBatch() {}
+    virtual bool endBatch() { return true; }
+
     // Section and key names must be non-empty and free of "/" and "\", which the platform
     // stores take for separators.
     static bool validName(const QString& name) {

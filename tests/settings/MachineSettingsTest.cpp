@@ -116,9 +116,12 @@ TEST_F(MachineSettingsTest, EachAccessorReadsItsOwnKeyAndNoOther) {
 
 TEST_F(MachineSettingsTest, AllKeysKeptTogetherReadBackTogether) {
     // Keys sharing a section ("PortNo" holds ports and messaging switches) must not clash.
+    // Written the way the settings screen saves: in one batch.
+    settings_.store().beginBatch();
     for (const SettingProbe& probe : settingProbes()) {
         ASSERT_TRUE(settings_.write(*probe.key, distinctValue(probe).written)) << probe.accessor;
     }
+    ASSERT_TRUE(settings_.store().endBatch());
     QSettingsStore reopened(QStringLiteral("Retail"), store_.location());
     const MachineSettings again(reopened);
     for (const SettingProbe& probe : settingProbes()) {

@@ -195,6 +195,44 @@ TEST_F(QSettingsStoreTest, WriteFailsWhenTheFileCannotBeMade) {
     EXPECT_FALSE(store.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("1")));
 }
 
+TEST_F(QSettingsStoreTest, BatchReachesTheFileWhenTheOutermostBatchEnds) {
+    QSettingsStore store(QStringLiteral("Retail"), iniPath());
+    const QString copy = iniPath(QStringLiteral("Copy.ini"));
+    store.beginBatch();
+    store.beginBatch();
+    for (int n = 0; n < 50; ++n) {
+        ASSERT_TRUE(
+            store.write(QStringLiteral("Batch"), QStringLiteral("K%1").arg(n), QString::number(n)));
+    }
+    EXPECT_FALSE(
+        store.write(QStringLiteral("Bad/Section"), QStringLiteral("K"), QStringLiteral("1")));
+    // Read back at once, though nothing is on disk yet.
+    EXPECT_EQ(store.read(QStringLiteral("batch"), QStringLiteral("k49")), QStringLiteral("49"));
+    EXPECT_FALSE(QFileInfo::exists(iniPath()));
+    ASSERT_TRUE(store.endBatch());
+    EXPECT_FALSE(QFileInfo::exists(iniPath())) << "an inner batch ended";
+    ASSERT_TRUE(store.endBatch());
+    ASSERT_TRUE(QFile::copy(iniPath(), copy));
+
+    QSettingsStore reopened(QStringLiteral("Retail"), copy);
+    for (int n = 0; n < 50; ++n) {
+        EXPECT_EQ(reopened.read(QStringLiteral("Batch"), QStringLiteral("K%1").arg(n)),
+                  QString::number(n));
+    }
+    // Unbalanced ends do no harm and later writes are kept at once again.
+    EXPECT_TRUE(store.endBatch());
+    ASSERT_TRUE(store.write(QStringLiteral("Batch"), QStringLiteral("After"), QStringLiteral("1")));
+    EXPECT_TRUE(fileText(iniPath()).contains(QStringLiteral("After=1")));
+}
+
+TEST_F(QSettingsStoreTest, BatchThatCannotBeKeptFailsAtItsEnd) {
+    ASSERT_TRUE(writeFile(iniPath(QStringLiteral("blocker")), "not a folder"));
+    QSettingsStore store(QStringLiteral("Retail"), iniPath(QStringLiteral("blocker/Retail.ini")));
+    store.beginBatch();
+    EXPECT_TRUE(store.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("1")));
+    EXPECT_FALSE(store.endBatch());
+}
+
 TEST_F(QSettingsStoreTest, EnvironmentFolderHoldsOneFilePerApplication) {
     const ScopedEnv env(QSettingsStore::EnvironmentVariable,
                         dir_.filePath(QStringLiteral("desk3")));

@@ -148,20 +148,6 @@ TEST_F(MachineSettingsTest, DrawerOnThePrinterWhenUsbIsTrueInAnyCase) {
     EXPECT_TRUE(settings_.printerPortUsb());
 }
 
-TEST_F(MachineSettingsTest, FlagsFollowTheNumericValue) {
-    const struct {
-        const char* kept;
-        bool on;
-    } cases[] = {
-        {"2", true},  {"0", false},  {"", false},   {"abc", false}, {"2abc", true},
-        {" 3", true}, {"-1", false}, {"1.5", true}, {"0.4", true},  {"True", false},
-    };
-    for (const auto& c : cases) {
-        keep("IsActivePoolDisplay", "Enable", latin(c.kept));
-        EXPECT_EQ(settings_.displayEnabled(), c.on) << '"' << c.kept << '"';
-    }
-}
-
 TEST_F(MachineSettingsTest, DisplayPortIsOneUnlessSomethingIsKept) {
     const struct {
         const char* section;  // either spelling of the section
@@ -212,13 +198,6 @@ TEST_F(MachineSettingsTest, LoginAndYearAreWrittenAndReadBack) {
     ASSERT_TRUE(settings_.setSaleGoodsColumnOrder(QStringLiteral("2,0,1,3")));
     EXPECT_EQ(store_.read(QStringLiteral("Tools"), QStringLiteral("frmSaledgGoodsColOrder")),
               QStringLiteral("2,0,1,3"));
-}
-
-TEST_F(MachineSettingsTest, ResetBringsTheDefaultBack) {
-    ASSERT_TRUE(settings_.write(k::LimitListQty, QStringLiteral("250")));
-    EXPECT_EQ(settings_.listLimit(), 250);
-    ASSERT_TRUE(settings_.reset(k::LimitListQty));
-    EXPECT_EQ(settings_.listLimit(), 100);
 }
 
 TEST_F(MachineSettingsTest, ProgramPathsAreTakenFromTheProgramFolder) {

@@ -171,23 +171,6 @@ TEST_F(QSettingsStoreTest, AwkwardTextSurvivesTheFileAfterReopening) {
     }
 }
 
-TEST_F(QSettingsStoreTest, TwoCashDesksOnTwoFilesStayIndependent) {
-    QSettingsStore first(QStringLiteral("Retail"), iniPath(QStringLiteral("desk1/Retail.ini")));
-    QSettingsStore second(QStringLiteral("Retail"), iniPath(QStringLiteral("desk2/Retail.ini")));
-    ASSERT_TRUE(first.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("1")));
-    ASSERT_TRUE(second.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("3")));
-    ASSERT_TRUE(first.write(QStringLiteral("IsActivePoolDisplay"), QStringLiteral("Line"),
-                            QStringLiteral("3")));
-
-    EXPECT_EQ(first.read(QStringLiteral("PortNo"), QStringLiteral("No")), QStringLiteral("1"));
-    EXPECT_EQ(second.read(QStringLiteral("PortNo"), QStringLiteral("No")), QStringLiteral("3"));
-    EXPECT_EQ(second.read(QStringLiteral("IsActivePoolDisplay"), QStringLiteral("Line")),
-              QString());
-
-    ASSERT_TRUE(second.remove(QStringLiteral("PortNo"), QStringLiteral("No")));
-    EXPECT_EQ(first.read(QStringLiteral("PortNo"), QStringLiteral("No")), QStringLiteral("1"));
-}
-
 TEST_F(QSettingsStoreTest, WriteFailsWhenTheFileCannotBeMade) {
     // A folder in the path that is a plain file stops even a privileged user.
     ASSERT_TRUE(writeFile(iniPath(QStringLiteral("blocker")), "not a folder"));

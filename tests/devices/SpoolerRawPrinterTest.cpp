@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <cstdlib>
+
+#include <cups/cups.h>
+
+#include "CupsServer.h"
+#include "RecordingLauncher.h"
+#include "RecordingMessageService.h"
+#include "WaitUntil.h"
+#include "devices/CashDrawer.h"
+#include "devices/SpoolerRawPrinter.h"
+
+using sandogh::CashDrawer;
+using sandogh::DrawerConfig;
+using sandogh::SpoolerRawPrinter;
+using sandogh::test::CupsServer;
+using sandogh::test::RecordingLauncher;
+using sandogh::test::RecordingMessageService;
+using sandogh::test::waitUntil;
+
+namespace {
+
+QByteArray contents(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+// A scheduler of our own with a raw queue that writes into a file.
+class SpoolerOnLocalCups : public ::testing::Test {
+protected:
+    void SetUp() override {
+        // The user's own choice of printer would override the scheduler's default.
+        qunsetenv("LPDEST");
+        qunsetenv("PRINTER");
+        if (!server.start())
+            GTEST_SKIP() << "local CUPS scheduler unavailable: " << server.reason().toStdString();
+    }
+
+    CupsServer server;
+    RecordingLauncher launcher;
+    RecordingMessageService messages;
+};
+
+TEST_F(SpoolerOnLocalCups, DrawerKickArrivesAtTheDefaultPrinter) {
+    const QString out = server.addFileQueue(QStringLiteral("receipt"), true);
+    ASSERT_FALSE(out.isEmpty());
+    EXPECT_EQ(SpoolerRawPrinter::defaultPrinter(), QStringLiteral("receipt"));
+
+    SpoolerRawPrinter printer;
+    CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
+    drawer.mnuOpenCash_Click();
+
+    ASSERT_TRUE(waitUntil([&] { return contents(out).size() >= 5; }, 20000));
+    EXPECT_EQ(contents(out).toHex(' ').toUpper(), QByteArray("1B 70 00 19 1E"));
+    EXPECT_EQ(server.lastJobTitle(QStringLiteral("receipt")), QStringLiteral("OPENCASH"));
+    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_TRUE(launcher.calls.isEmpty());
+}
+
+TEST_F(SpoolerOnLocalCups, LowerCaseTrueStillKicksThroughThePrinter) {
+    const QString out = server.addFileQueue(QStringLiteral("receipt"), true);
+    ASSERT_FALSE(out.isEmpty());
+    DrawerConfig config;
+    config.printerPortUsb = QStringLiteral("true");
+    SpoolerRawPrinter printer;
+    CashDrawer drawer(config, printer, launcher, messages);
+    drawer.mnuOpenCash_Click();
+    ASSERT_TRUE(waitUntil([&] { return contents(out).size() >= 5; }, 20000));
+    EXPECT_EQ(contents(out), QByteArray("\x1b\x70\x00\x19\x1e", 5));
+}
+
+TEST_F(SpoolerOnLocalCups, NoDefaultPrinterShowsTheMessage) {
+    const QString out = server.addFileQueue(QStringLiteral("labels"), false);
+    ASSERT_FALSE(out.isEmpty());
+    EXPECT_TRUE(SpoolerRawPrinter::defaultPrinter().isEmpty());
+
+    SpoolerRawPrinter printer;
+    CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
+    drawer.mnuOpenCash_Click();
+    ASSERT_EQ(messages.shown.size(), 1);
+    EXPECT_EQ(messages.shown[0].text,
+              QStringLiteral("The Printer Name you typed wasn't recognized."));
+    EXPECT_EQ(contents(out), QByteArray());
+}
+
+TEST(SpoolerRawPrinter, UnreachableSchedulerMeansNoPrinter) {
+    qunsetenv("LPDEST");
+    qunsetenv("PRINTER");
+    cupsSetServer("127.0.0.1:1");  // nothing listens on port 1
+    SpoolerRawPrinter printer;
+    RecordingLauncher launcher;
+    RecordingMessageService messages;
+    CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
+    drawer.OpenCashDrawer();
+    cupsSetServer(nullptr);
+    ASSERT_EQ(messages.shown.size(), 1);
+    EXPECT_EQ(messages.shown[0].text,
+              QStringLiteral("The Printer Name you typed wasn't recognized."));
+}
+
+}  // namespace

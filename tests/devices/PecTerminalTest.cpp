@@ -1,0 +1,217 @@
+#include <gtest/gtest.h>
+
+#include "FixedClock.h"
+#include "PtyPair.h"
+#include "RecordingMessageService.h"
+#include "RecordingPaymentRecorder.h"
+#include "WaitUntil.h"
+#include "devices/PecRequest.h"
+#include "devices/PecResponse.h"
+#include "devices/PecTerminal.h"
+
+using sandogh::MessageStyle;
+using sandogh::PecConfig;
+using sandogh::PecRequest;
+using sandogh::PecResponse;
+using sandogh::PecTerminal;
+using sandogh::PosPayment;
+using sandogh::test::FixedClock;
+using sandogh::test::PtyPair;
+using sandogh::test::RecordingMessageService;
+using sandogh::test::RecordingPaymentRecorder;
+using sandogh::test::waitUntil;
+
+namespace {
+
+// The terminal on the far end of a pseudo-terminal, answering what the test says.
+class PecTerminalOnPty : public ::testing::Test {
+protected:
+    PecTerminalOnPty()
+        : clock(QDateTime(QDate(2025, 3, 21), QTime(14, 5, 42)))
+        , terminal(config(), recorder, messages, clock,
+                   [] { return QStringLiteral("1404/01/01"); }) {
+        QObject::connect(&terminal, &PecTerminal::answerRead,
+                         [this](const QByteArray&) { ++answersRead; });
+        QObject::connect(&terminal, &PecTerminal::answered,
+                         [this](const QString& code) { codes.append(code); });
+    }
+
+    PecConfig config() {
+        PecConfig c;
+        c.commPort = 4;
+        c.devicePath = pty.slavePath();
+        c.settleMs = 50;
+        return c;
+    }
+
+    // Sends a request and reads it at the terminal.
+    QByteArray request(const QString& amount, const QString& saleNo) {
+        EXPECT_TRUE(terminal.sendPaymentRequest(amount, saleNo));
+        const QByteArray expected = PecRequest::build(amount, saleNo);
+        return pty.readMaster(expected.size());
+    }
+
+    void answer(const QByteArray& bytes) {
+        pty.writeMaster(bytes);
+        ASSERT_TRUE(waitUntil([&] { return answersRead > 0; }));
+    }
+
+    PtyPair pty;
+    FixedClock clock;
+    RecordingPaymentRecorder recorder;
+    RecordingMessageService messages;
+    PecTerminal terminal;
+    int answersRead = 0;
+    QStringList codes;
+};
+
+TEST_F(PecTerminalOnPty, RequestReachesTheTerminalAsBuilt) {
+    ASSERT_TRUE(pty.ok());
+    const QByteArray got = request(QStringLiteral("1,250,000"), QStringLiteral("57"));
+    EXPECT_EQ(got.size(), 90);
+    EXPECT_EQ(got, PecRequest::build(QStringLiteral("1,250,000"), QStringLiteral("57")));
+    EXPECT_TRUE(got.startsWith("0086RQ081PR000AM0071250000CU003364R1015"));
+    EXPECT_TRUE(terminal.waiting());
+}
+
+TEST_F(PecTerminalOnPty, PortIsSetUpForTheTerminal) {
+    ASSERT_TRUE(pty.ok());
+    request(QStringLiteral("1,000"), QStringLiteral("1"));
+    auto& port = terminal.MSCommPec();
+    EXPECT_TRUE(port.isOpen());
+    EXPECT_EQ(port.commPort(), 4);
+    EXPECT_EQ(port.settings(), QStringLiteral("19200,N,8,1"));
+    EXPECT_EQ(port.rThreshold(), 1);
+    EXPECT_EQ(port.inputLen(), 0);
+    EXPECT_TRUE(port.rtsEnable());
+    EXPECT_TRUE(port.dtrEnable());
+    EXPECT_EQ(port.handshaking(), 0);
+    EXPECT_EQ(port.inBufferSize(), 1024);
+    EXPECT_EQ(port.outBufferSize(), 512);
+}
+
+TEST_F(PecTerminalOnPty, ApprovalRecordsOnePayment) {
+    ASSERT_TRUE(pty.ok());
+    const QByteArray sent = request(QStringLiteral("1,250,000.75"), QStringLiteral("57"));
+    EXPECT_TRUE(sent.contains("AM0071250000"));
+    answer("0013RS00200PD0011");
+    ASSERT_EQ(recorder.payments.size(), 1);
+    const PosPayment& p = recorder.payments[0];
+    EXPECT_EQ(p.docNo, 57);
+    EXPECT_EQ(p.dateTime, QStringLiteral("1404/01/01 - 14:05"));
+    EXPECT_DOUBLE_EQ(p.paymentAmount, 1250000.75);
+    EXPECT_EQ(p.merchantId, 0);
+    EXPECT_EQ(p.terminalId, 0);
+    EXPECT_EQ(p.prn, 0);
+    EXPECT_EQ(p.stan, 0);
+    EXPECT_EQ(p.tranType, 2);
+    EXPECT_EQ(p.errorCode, 0);
+    EXPECT_EQ(p.posId, 0);
+    EXPECT_EQ(p.errorDescription, PosPayment::saleFormDescription());
+    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_FALSE(terminal.MSCommPec().isOpen());
+    EXPECT_FALSE(terminal.waiting());
+    EXPECT_EQ(codes, QStringList{QStringLiteral("00")});
+}
+
+TEST_F(PecTerminalOnPty, AnswerInPiecesIsReadWhole) {
+    ASSERT_TRUE(pty.ok());
+    request(QStringLiteral("20,000"), QStringLiteral("9"));
+    pty.writeMaster("0013RS0");
+    pty.writeMaster("0200PD0011");
+    ASSERT_TRUE(waitUntil([&] { return answersRead > 0; }));
+    ASSERT_EQ(recorder.payments.size(), 1);
+    EXPECT_EQ(codes, QStringList{QStringLiteral("00")});
+}
+
+struct RefusalCase {
+    const char* code;
+    bool message;
+};
+
+class PecRefusalOnPty : public PecTerminalOnPty,
+                        public ::testing::WithParamInterface<RefusalCase> {};
+
+TEST_P(PecRefusalOnPty, ShowsItsMessageAndRecordsNothing) {
+    ASSERT_TRUE(pty.ok());
+    request(QStringLiteral("1,250,000"), QStringLiteral("57"));
+    answer(QByteArray("0013RS002") + GetParam().code + "PD0011");
+    EXPECT_TRUE(recorder.payments.isEmpty());
+    if (GetParam().message) {
+        ASSERT_EQ(messages.shown.size(), 1);
+        EXPECT_EQ(messages.shown[0].text,
+                  PecResponse::message(QString::fromLatin1(GetParam().code)));
+        EXPECT_FALSE(messages.shown[0].text.isEmpty());
+        EXPECT_EQ(messages.shown[0].style, MessageStyle::Information);
+    } else {
+        EXPECT_TRUE(messages.shown.isEmpty());
+    }
+    EXPECT_FALSE(terminal.MSCommPec().isOpen());
+}
+
+INSTANTIATE_TEST_SUITE_P(Codes, PecRefusalOnPty,
+                         ::testing::Values(RefusalCase{"55", true}, RefusalCase{"12", true},
+                                           RefusalCase{"51", true}, RefusalCase{"99", true},
+                                           RefusalCase{"05", false}, RefusalCase{"77", false}));
+
+TEST_F(PecTerminalOnPty, WrongPinShowsItsText) {
+    ASSERT_TRUE(pty.ok());
+    request(QStringLiteral("1,250,000"), QStringLiteral("57"));
+    answer("RS00255");
+    ASSERT_EQ(messages.shown.size(), 1);
+    EXPECT_EQ(messages.shown[0].text.toUtf8().toHex(),
+              QString::fromUtf16(u"رمز کارت اشتباه است").toUtf8().toHex());
+}
+
+TEST_F(PecTerminalOnPty, AnswerWithoutResponseFieldIsIgnored) {
+    ASSERT_TRUE(pty.ok());
+    request(QStringLiteral("1,250,000"), QStringLiteral("57"));
+    answer("0010PD0011RS003");
+    EXPECT_TRUE(recorder.payments.isEmpty());
+    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_TRUE(codes.isEmpty());
+    EXPECT_FALSE(terminal.MSCommPec().isOpen());
+}
+
+TEST_F(PecTerminalOnPty, SecondRequestAbandonsTheFirst) {
+    ASSERT_TRUE(pty.ok());
+    request(QStringLiteral("1,250,000"), QStringLiteral("57"));
+    const QByteArray second = request(QStringLiteral("2,000"), QStringLiteral("58"));
+    EXPECT_TRUE(second.contains("AM0042000"));
+    answer("RS00200");
+    ASSERT_EQ(recorder.payments.size(), 1);
+    EXPECT_EQ(recorder.payments[0].docNo, 58);
+    EXPECT_DOUBLE_EQ(recorder.payments[0].paymentAmount, 2000.0);
+}
+
+TEST_F(PecTerminalOnPty, NoAnswerLeavesTheRequestWaiting) {
+    ASSERT_TRUE(pty.ok());
+    request(QStringLiteral("1,000"), QStringLiteral("3"));
+    pty.readAllFor(100);
+    EXPECT_TRUE(terminal.waiting());
+    EXPECT_TRUE(terminal.MSCommPec().isOpen());
+    EXPECT_EQ(answersRead, 0);
+}
+
+TEST_F(PecTerminalOnPty, BrokenConnectionAddsNoMessageOfItsOwn) {
+    ASSERT_TRUE(pty.ok());
+    recorder.result = sandogh::PosPaymentRecorder::Result::ConnectionBroken;
+    request(QStringLiteral("1,000"), QStringLiteral("3"));
+    answer("RS00200");
+    EXPECT_EQ(recorder.payments.size(), 1);
+    EXPECT_TRUE(messages.shown.isEmpty());
+}
+
+TEST(PecTerminal, MissingPortSendsNothing) {
+    FixedClock clock(QDateTime(QDate(2025, 3, 21), QTime(14, 5)));
+    RecordingPaymentRecorder recorder;
+    RecordingMessageService messages;
+    PecConfig config;
+    config.devicePath = QStringLiteral("/dev/sandogh-no-such-port");
+    PecTerminal terminal(config, recorder, messages, clock, [] { return QString(); });
+    EXPECT_FALSE(terminal.sendPaymentRequest(QStringLiteral("1,000"), QStringLiteral("1")));
+    EXPECT_FALSE(terminal.waiting());
+    EXPECT_TRUE(messages.shown.isEmpty());
+}
+
+}  // namespace

@@ -1,0 +1,155 @@
+// ErrorLog.txt: nine-line records, each one quoted value, appended byte for byte.
+
+#include <gtest/gtest.h>
+
+#include "support/QtPrinters.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <thread>
+#include <vector>
+
+#include "data/ErrorLog.h"
+#include "support/FixedClock.h"
+#include "support/RecordingMessageService.h"
+
+namespace sandogh {
+namespace {
+
+QByteArray readAll(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+class ErrorLogTest : public ::testing::Test {
+protected:
+    QTemporaryDir dir;
+    test::RecordingMessageService messages;
+    test::FixedClock clock{QDateTime(QDate(2025, 3, 21), QTime(9, 7, 45))};
+    ErrorLog log{dir.path(), &messages, clock, QStringLiteral("1404/01/01"),
+                 QStringLiteral("1.2.3")};
+};
+
+TEST_F(ErrorLogTest, TwoRecordsAreTwoQuotedValuesExactly) {
+    log.LogError(
+        {QStringLiteral("53"), QStringLiteral("File not found"), QStringLiteral("Sandogh")},
+        QStringLiteral("MainModule"), QStringLiteral("LoadPrimary"));
+    log.setUserName(QStringLiteral("ali"));
+    clock.set(QDateTime(QDate(2025, 4, 2), QTime(17, 30, 5)));
+    log.LogError(
+        {QStringLiteral("23505"), QStringLiteral("duplicate key"), QStringLiteral("QPSQL")},
+        QStringLiteral("frmSale"), QStringLiteral("SaveSale"));
+
+    const QByteArray expected =
+        "\"ErrNumber : 53\r\n"
+        "ErrDescription : File not found\r\n"
+        "ErrSource : Sandogh\r\n"
+        "RoutineName : LoadPrimary\r\n"
+        "Module : MainModule  \r\n"
+        "UserName : \r\n"
+        "ErrTime : 1404/01/01  09:07:21\r\n"
+        "Exe 1.2.3\r\n"
+        "*----------------------------------------------*\r\n"
+        "\"\r\n"
+        "\"ErrNumber : 23505\r\n"
+        "ErrDescription : duplicate key\r\n"
+        "ErrSource : QPSQL\r\n"
+        "RoutineName : SaveSale\r\n"
+        "Module : frmSale  \r\n"
+        "UserName : ali\r\n"
+        "ErrTime : 1404/01/01  17:30:02\r\n"
+        "Exe 1.2.3\r\n"
+        "*----------------------------------------------*\r\n"
+        "\"\r\n";
+    EXPECT_EQ(readAll(log.filePath()), expected);
+}
+
+TEST_F(ErrorLogTest, ShowsTheFirstThreeLinesAsACriticalMessage) {
+    log.LogError({QStringLiteral("5"), QStringLiteral("بد"), QStringLiteral("src")},
+                 QStringLiteral("m"), QStringLiteral("r"));
+    ASSERT_EQ(messages.count(), 1);
+    const auto shown = messages.messages().first();
+    EXPECT_EQ(shown.text,
+              QStringLiteral("ErrNumber : 5\r\nErrDescription : بد\r\nErrSource : src\r\n"));
+    EXPECT_EQ(shown.style, MessageStyle::Critical);
+    EXPECT_EQ(shown.title, warningTitle());
+    // Persian descriptions reach the file intact.
+    EXPECT_TRUE(QString::fromUtf8(readAll(log.filePath()))
+                    .contains(QStringLiteral("ErrDescription : بد\r\n")));
+}
+
+struct TimeCase {
+    QDateTime now;
+    const char* field;  // hour:minute:day-of-month
+};
+
+class ErrTimeTest : public ::testing::TestWithParam<TimeCase> {};
+
+TEST_P(ErrTimeTest, ThirdFieldIsTheDayOfTheMonth) {
+    QTemporaryDir dir;
+    test::FixedClock clock(GetParam().now);
+    ErrorLog log(dir.path(), nullptr, clock, QStringLiteral("1404/01/01"), QString());
+    const QString record = log.formatRecord({}, {}, {});
+    EXPECT_TRUE(record.contains(
+        QStringLiteral("ErrTime : 1404/01/01  %1\r\n").arg(QLatin1String(GetParam().field))))
+        << record.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Times, ErrTimeTest,
+    ::testing::Values(TimeCase{QDateTime(QDate(2025, 3, 5), QTime(23, 59, 58)), "23:59:05"},
+                      TimeCase{QDateTime(QDate(2025, 12, 31), QTime(0, 0, 0)), "00:00:31"},
+                      TimeCase{QDateTime(QDate(2024, 2, 29), QTime(12, 1, 59)), "12:01:29"},
+                      TimeCase{QDateTime(QDate(2025, 1, 1), QTime(1, 2, 3)), "01:02:01"}));
+
+TEST(ErrorLogPattern, KeepsTheHistoricPattern) {
+    EXPECT_STREQ(ErrorLog::kErrTimePattern, "HH:MM:DD");
+    EXPECT_EQ(qstrlen(ErrorLog::kRecordEnd), 48u);
+}
+
+TEST_F(ErrorLogTest, AppendCreatesTheFileAndKeepsWhatIsThere) {
+    ASSERT_FALSE(QFile::exists(log.filePath()));
+    EXPECT_TRUE(log.AppendErrorLog(QStringLiteral("first")));
+    EXPECT_TRUE(log.AppendErrorLog(QStringLiteral("second")));
+    EXPECT_EQ(readAll(log.filePath()), QByteArray("\"first\"\r\n\"second\"\r\n"));
+}
+
+TEST(ErrorLogFailure, AppendToAMissingFolderFails) {
+    QTemporaryDir dir;
+    test::FixedClock clock;
+    ErrorLog log(QDir(dir.path()).filePath(QStringLiteral("no/such/folder")), nullptr, clock, {},
+                 {});
+    EXPECT_FALSE(log.AppendErrorLog(QStringLiteral("x")));
+}
+
+TEST_F(ErrorLogTest, RecordsFromManyThreadsStayWhole) {
+    constexpr int kThreads = 8;
+    constexpr int kEach = 25;
+    std::vector<std::thread> threads;
+    for (int t = 0; t < kThreads; ++t) {
+        threads.emplace_back([this, t] {
+            for (int i = 0; i < kEach; ++i) {
+                log.LogError(
+                    {QString::number(t), QStringLiteral("e%1").arg(i), QStringLiteral("s")},
+                    QStringLiteral("m"), QStringLiteral("r"));
+            }
+        });
+    }
+    for (auto& th : threads) {
+        th.join();
+    }
+    const QString all = QString::fromUtf8(readAll(log.filePath()));
+    const QStringList records =
+        all.split(QStringLiteral("*----------------------------------------------*\r\n\"\r\n"),
+                  Qt::SkipEmptyParts);
+    ASSERT_EQ(records.size(), kThreads * kEach);
+    for (const QString& r : records) {
+        EXPECT_TRUE(r.startsWith(QStringLiteral("\"ErrNumber : ")));
+        EXPECT_EQ(r.count(QStringLiteral("\r\n")), 8);
+    }
+    EXPECT_EQ(messages.count(), kThreads * kEach);
+}
+
+}  // namespace
+}  // namespace sandogh

@@ -1,0 +1,190 @@
+#include <gtest/gtest.h>
+
+#include "PtyPair.h"
+#include "WaitUntil.h"
+#include "devices/CustomerDisplay.h"
+
+using sandogh::CustomerDisplay;
+using sandogh::DisplayConfig;
+using sandogh::GeneralPorts;
+using sandogh::GeneralPortsConfig;
+using sandogh::test::PtyPair;
+using sandogh::test::waitUntil;
+
+namespace {
+
+// MSComm1 and MSCommCustomerDisplay each on a pseudo-terminal.
+class DisplayOnPty : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(general.ok() && price.ok()); }
+
+    GeneralPortsConfig portsConfig(bool active) const {
+        GeneralPortsConfig c;
+        c.portsActive = active;
+        c.portNo = 1;
+        c.port1Device = general.slavePath();
+        return c;
+    }
+    DisplayConfig displayConfig(int kind, bool enabled = true) const {
+        DisplayConfig c;
+        c.enabled = enabled;
+        c.kind = kind;
+        c.port = 3;
+        c.devicePath = price.slavePath();
+        return c;
+    }
+
+    PtyPair general;  // far end of MSComm1
+    PtyPair price;    // far end of MSCommCustomerDisplay
+};
+
+TEST_F(DisplayOnPty, TwoLineDisplayGetsBothCentredLines) {
+    GeneralPorts ports(portsConfig(true));
+    ports.OpenPort();
+    CustomerDisplay display(displayConfig(2), ports);
+    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
+    const QByteArray got = general.readMaster(44);
+    EXPECT_EQ(got, QByteArray("\r\n\r\n"
+                              "    Price:12,500    "
+                              "      Welcome       "));
+}
+
+TEST_F(DisplayOnPty, TwoLineDisplayUsesTheShopGreeting) {
+    GeneralPorts ports(portsConfig(true));
+    ports.OpenPort();
+    CustomerDisplay display(displayConfig(0), ports);
+    display.setGreeting(QStringLiteral("Thank you"));
+    display.ShowOnCustomerDisplay(QStringLiteral("1,250,000"));
+    EXPECT_EQ(general.readMaster(44), QByteArray("\r\n\r\n"
+                                                 "  Price:1,250,000   "
+                                                 "     Thank you      "));
+}
+
+TEST_F(DisplayOnPty, TwoLineDisplayNeedsAnOpenPort) {
+    GeneralPorts ports(portsConfig(true));  // not opened
+    CustomerDisplay display(displayConfig(2), ports);
+    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
+    EXPECT_EQ(general.readAllFor(100), QByteArray());
+}
+
+class SingleLineOnPty : public DisplayOnPty, public ::testing::WithParamInterface<int> {};
+
+TEST_P(SingleLineOnPty, ClearsThenShowsTheAmount) {
+    GeneralPorts ports(portsConfig(true));
+    ports.OpenPort();
+    DisplayConfig c = displayConfig(1);
+    c.delay = GetParam();
+    CustomerDisplay display(c, ports);
+    EXPECT_EQ(display.singleLinePauseMs(), GetParam() * CustomerDisplay::kMsPerDelayUnit);
+    display.ShowOnCustomerDisplay(QStringLiteral("1,250,000"));
+    EXPECT_EQ(general.readMaster(8), QByteArray("\x0c"
+                                                "1250000"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Delays, SingleLineOnPty, ::testing::Values(0, 1, 5));
+
+TEST_F(DisplayOnPty, SingleLineUpdateDuringThePauseReplacesTheAmount) {
+    GeneralPorts ports(portsConfig(true));
+    ports.OpenPort();
+    DisplayConfig c = displayConfig(1);
+    c.delay = 5;
+    CustomerDisplay display(c, ports);
+    display.ShowOnCustomerDisplay(QStringLiteral("1,000"));
+    display.ShowOnCustomerDisplay(QStringLiteral("2,500"));
+    EXPECT_EQ(general.readMaster(6), QByteArray("\x0c\x0c"
+                                                "2500"));
+    EXPECT_EQ(general.readAllFor(150), QByteArray());  // the first amount never follows
+}
+
+TEST_F(DisplayOnPty, PriceDisplaySendsEscQAAndDigits) {
+    GeneralPorts ports(portsConfig(true));
+    CustomerDisplay display(displayConfig(3), ports);
+    display.SetMSCommCustomerDisplay();
+    ASSERT_TRUE(display.MSCommCustomerDisplay().isOpen());
+    display.ShowOnCustomerDisplay(QStringLiteral("1,250,000"));
+    EXPECT_EQ(price.readMaster(11).toHex(' ').toUpper(),
+              QByteArray("1B 51 41 31 32 35 30 30 30 30 0D"));
+    display.ShowOnCustomerDisplay(QString());
+    EXPECT_EQ(price.readMaster(5).toHex(' ').toUpper(), QByteArray("1B 51 41 30 0D"));
+    EXPECT_EQ(general.readAllFor(50), QByteArray());
+}
+
+TEST_F(DisplayOnPty, PriceDisplayPortIsSetUp) {
+    GeneralPorts ports(portsConfig(true));
+    CustomerDisplay display(displayConfig(3), ports);
+    display.SetMSCommCustomerDisplay();
+    auto& port = display.MSCommCustomerDisplay();
+    EXPECT_EQ(port.commPort(), 3);
+    EXPECT_EQ(port.settings(), QStringLiteral("2400,N,8,1"));
+    EXPECT_EQ(port.inputLen(), 0);
+    EXPECT_TRUE(port.rtsEnable());
+    display.SetMSCommCustomerDisplay();  // already open: stays open
+    EXPECT_TRUE(port.isOpen());
+}
+
+TEST_F(DisplayOnPty, PriceDisplayWorksWithTheGeneralPortsOff) {
+    GeneralPorts ports(portsConfig(false));
+    CustomerDisplay display(displayConfig(3), ports);
+    display.SetMSCommCustomerDisplay();
+    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
+    EXPECT_EQ(price.readMaster(9), QByteArray("\x1b\x51\x41"
+                                              "12500\r"));
+}
+
+TEST_F(DisplayOnPty, PriceDisplayWithThePortClosedSendsNothing) {
+    GeneralPorts ports(portsConfig(true));
+    CustomerDisplay display(displayConfig(3), ports);
+    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
+    EXPECT_EQ(price.readAllFor(100), QByteArray());
+}
+
+TEST_F(DisplayOnPty, MissingPriceDisplayPortIsSilent) {
+    GeneralPorts ports(portsConfig(true));
+    DisplayConfig c = displayConfig(3);
+    c.devicePath = QStringLiteral("/dev/sandogh-no-such-port");
+    CustomerDisplay display(c, ports);
+    display.SetMSCommCustomerDisplay();
+    EXPECT_FALSE(display.MSCommCustomerDisplay().isOpen());
+    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
+    display.leaveSaleScreen();
+}
+
+struct SilentCase {
+    const char* name;
+    int kind;
+    bool enabled;
+    bool portsActive;
+};
+
+class SilentDisplay : public DisplayOnPty, public ::testing::WithParamInterface<SilentCase> {};
+
+TEST_P(SilentDisplay, SendsNothing) {
+    const SilentCase& c = GetParam();
+    GeneralPorts ports(portsConfig(c.portsActive));
+    ASSERT_TRUE(ports.MSComm1().open());  // open even so: the switches decide
+    CustomerDisplay display(displayConfig(c.kind, c.enabled), ports);
+    display.SetMSCommCustomerDisplay();
+    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
+    EXPECT_EQ(general.readAllFor(100), QByteArray()) << c.name;
+    EXPECT_EQ(price.readAllFor(10), QByteArray()) << c.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Switches, SilentDisplay,
+                         ::testing::Values(SilentCase{"single-line, ports off", 1, true, false},
+                                           SilentCase{"two-line, ports off", 2, true, false},
+                                           SilentCase{"display off, single", 1, false, true},
+                                           SilentCase{"display off, two-line", 2, false, true},
+                                           SilentCase{"display off, price", 3, false, true}));
+
+TEST_F(DisplayOnPty, LeavingTheSaleScreenResetsAndCloses) {
+    GeneralPorts ports(portsConfig(true));
+    CustomerDisplay display(displayConfig(3), ports);
+    display.SetMSCommCustomerDisplay();
+    display.leaveSaleScreen();
+    EXPECT_FALSE(display.MSCommCustomerDisplay().isOpen());
+    EXPECT_EQ(price.readMaster(4).toHex(' ').toUpper(), QByteArray("1B 73 31 0D"));
+    display.leaveSaleScreen();  // closed already: nothing more
+    EXPECT_EQ(price.readAllFor(50), QByteArray());
+}
+
+}  // namespace

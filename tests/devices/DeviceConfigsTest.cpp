@@ -1,0 +1,104 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "devices/DeviceConfigs.h"
+#include "settings/QSettingsStore.h"
+
+using sandogh::DeviceConfigs;
+using sandogh::MachineSettings;
+using sandogh::QSettingsStore;
+
+namespace {
+
+// Settings kept in an INI file of a temporary folder, as a cash desk keeps them.
+class DeviceConfigsFromSettings : public ::testing::Test {
+protected:
+    DeviceConfigsFromSettings()
+        : store(QStringLiteral("Retail"), dir.filePath(QStringLiteral("Retail.ini")))
+        , settings(store) {}
+
+    void set(const char* section, const char* key, const char* value) {
+        ASSERT_TRUE(store.write(QString::fromLatin1(section), QString::fromLatin1(key),
+                                QString::fromLatin1(value)));
+    }
+
+    QTemporaryDir dir;
+    QSettingsStore store;
+    MachineSettings settings;
+};
+
+TEST_F(DeviceConfigsFromSettings, EmptySettingsGiveTheDefaults) {
+    const auto ports = DeviceConfigs::generalPorts(settings);
+    EXPECT_FALSE(ports.portsActive);
+    EXPECT_EQ(ports.portNo, 0);
+    EXPECT_EQ(ports.portNo2, 0);
+    EXPECT_EQ(ports.barcodeReaderModel, QStringLiteral("1"));
+    EXPECT_EQ(ports.callerIdModel, QStringLiteral("0"));
+    const auto display = DeviceConfigs::display(settings);
+    EXPECT_FALSE(display.enabled);
+    EXPECT_EQ(display.kind, 0);
+    EXPECT_EQ(display.port, 1);
+    EXPECT_EQ(display.greeting, QStringLiteral("Welcome"));
+    const auto drawer = DeviceConfigs::drawer(settings, QStringLiteral("/opt/shop"));
+    EXPECT_EQ(drawer.printerPortUsb, QStringLiteral("True"));
+    EXPECT_EQ(QDir::fromNativeSeparators(drawer.drawerProgram),
+              QStringLiteral("/opt/shop/Program/Tamvex.exe"));
+    EXPECT_EQ(DeviceConfigs::pec(settings).commPort, 0);
+    EXPECT_TRUE(DeviceConfigs::weightService(settings).host.isEmpty());
+}
+
+TEST_F(DeviceConfigsFromSettings, PortNumbersNeedTheMasterSwitch) {
+    set("PortNo", "No", "3");
+    set("PortNo", "No2", "4");
+    EXPECT_EQ(DeviceConfigs::generalPorts(settings).portNo, 0);
+    EXPECT_EQ(DeviceConfigs::generalPorts(settings).portNo2, 0);
+    set("IsActivePort", "Enable", "1");
+    const auto ports = DeviceConfigs::generalPorts(settings);
+    EXPECT_TRUE(ports.portsActive);
+    EXPECT_EQ(ports.portNo, 3);
+    EXPECT_EQ(ports.portNo2, 4);
+}
+
+TEST_F(DeviceConfigsFromSettings, EveryKeyReachesItsDevice) {
+    set("IsActivePort", "Enable", "2");
+    set("IsActiveCallerID", "Enable", "1");
+    set("IsActiveCallerID", "Model", "TK104U");
+    set("BarcodeReader", "Model", "2");
+    set("IsActivePoolDisplay", "Enable", "1");
+    set("IsActivePoolDisplay", "Line", "3");
+    set("IsActivePoolDisplay", "Delay", "2");
+    set("ISActivePoolDisplay", "Port", "5");
+    set("PrinterPort", "USB", "false");
+    set("PortNo", "Pec", " 6 ");
+    set("Devices", "MSComm1", "/dev/ttyUSB0");
+    set("Devices", "MSComm2", "/dev/ttyUSB1");
+    set("Devices", "MSCommCustomerDisplay", "/dev/ttyUSB2");
+    set("Devices", "MSCommPec", "/dev/ttyACM0");
+    set("Devices", "WeightServiceHost", "192.168.1.20:8080");
+
+    const auto ports = DeviceConfigs::generalPorts(settings);
+    EXPECT_TRUE(ports.callerIdActive);
+    EXPECT_EQ(ports.callerIdModel, QStringLiteral("TK104U"));
+    EXPECT_EQ(ports.barcodeReaderModel, QStringLiteral("2"));
+    EXPECT_EQ(ports.displayLine, 3);
+    EXPECT_EQ(ports.port1Device, QStringLiteral("/dev/ttyUSB0"));
+    EXPECT_EQ(ports.port2Device, QStringLiteral("/dev/ttyUSB1"));
+
+    const auto display = DeviceConfigs::display(settings);
+    EXPECT_TRUE(display.enabled);
+    EXPECT_EQ(display.kind, 3);
+    EXPECT_EQ(display.delay, 2);
+    EXPECT_EQ(display.port, 5);
+    EXPECT_EQ(display.devicePath, QStringLiteral("/dev/ttyUSB2"));
+
+    EXPECT_EQ(DeviceConfigs::drawer(settings, QStringLiteral("/opt/shop")).printerPortUsb,
+              QStringLiteral("false"));
+    const auto pec = DeviceConfigs::pec(settings);
+    EXPECT_EQ(pec.commPort, 6);
+    EXPECT_EQ(pec.devicePath, QStringLiteral("/dev/ttyACM0"));
+    EXPECT_EQ(DeviceConfigs::weightService(settings).host, QStringLiteral("192.168.1.20:8080"));
+}
+
+}  // namespace

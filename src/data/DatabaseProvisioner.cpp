@@ -1,0 +1,171 @@
+#include "data/DatabaseProvisioner.h"
+
+#include <QAtomicInt>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <functional>
+
+namespace sandogh {
+
+namespace {
+
+QAtomicInt g_nextMaintenance{0};
+
+bool setError(QString* error, const QString& text) {
+    if (error != nullptr) {
+        *error = text;
+    }
+    return false;
+}
+
+// Runs work on a connection to the server's maintenance database.
+bool withMaintenance(const ConnectionSettings& settings, QString* error,
+                     const std::function<bool(QSqlDatabase&)>& work) {
+    const QString name =
+        QStringLiteral("sandogh.maintenance.%1").arg(g_nextMaintenance.fetchAndAddRelaxed(1));
+    bool ok = false;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(settings.qtDriver(), name);
+        if (settings.backend == Backend::PostgreSQL) {
+            db.setHostName(settings.host);
+            db.setPort(settings.port > 0 ? settings.port : -1);
+            db.setUserName(settings.user);
+            db.setPassword(settings.password);
+            db.setDatabaseName(QStringLiteral("postgres"));
+            db.setConnectOptions(QStringLiteral("connect_timeout=5"));
+        } else {
+            db.setDatabaseName(settings.odbcConnectionString(QStringLiteral("master")));
+        }
+        if (!db.open()) {
+            setError(error, QStringLiteral("cannot connect to %1: %2")
+                                .arg(settings.host, db.lastError().text()));
+        } else {
+            ok = work(db);
+            db.close();
+        }
+    }
+    QSqlDatabase::removeDatabase(name);
+    return ok;
+}
+
+QString existsSql(Backend backend) {
+    return backend == Backend::PostgreSQL
+               ? QStringLiteral("SELECT COUNT(*) FROM pg_database WHERE datname = :name")
+               : QStringLiteral("SELECT COUNT(*) FROM sys.databases WHERE name = :name");
+}
+
+bool queryExists(QSqlDatabase& db, const ConnectionSettings& settings, bool& found,
+                 QString* error) {
+    QSqlQuery q(db);
+    q.prepare(existsSql(settings.backend));
+    q.bindValue(QStringLiteral(":name"), settings.catalog);
+    if (!q.exec() || !q.next()) {
+        return setError(error, q.lastError().text());
+    }
+    found = q.value(0).toLongLong() > 0;
+    return true;
+}
+
+}  // namespace
+
+QString DatabaseProvisioner::quoteDatabaseName(Backend backend, const QString& name) {
+    QString escaped = name;
+    if (backend == Backend::SqlServer) {
+        escaped.replace(QLatin1Char(']'), QStringLiteral("]]"));
+        return QLatin1Char('[') + escaped + QLatin1Char(']');
+    }
+    escaped.replace(QLatin1Char('"'), QStringLiteral("\"\""));
+    return QLatin1Char('"') + escaped + QLatin1Char('"');
+}
+
+bool DatabaseProvisioner::exists(const ConnectionSettings& settings, bool& found, QString* error) {
+    if (settings.backend == Backend::SQLite) {
+        found = QFileInfo::exists(settings.sqliteFile());
+        return true;
+    }
+    return withMaintenance(
+        settings, error, [&](QSqlDatabase& db) { return queryExists(db, settings, found, error); });
+}
+
+DatabaseProvisioner::Outcome DatabaseProvisioner::ensureExists(const ConnectionSettings& settings,
+                                                               QString* error) {
+    if (settings.backend == Backend::SQLite) {
+        const QString file = settings.sqliteFile();
+        if (QFileInfo::exists(file)) {
+            return Outcome::Existed;
+        }
+        if (!QDir().mkpath(settings.sqliteFolder)) {
+            setError(error,
+                     QStringLiteral("cannot create the folder %1").arg(settings.sqliteFolder));
+            return Outcome::Failed;
+        }
+        QFile created(file);
+        if (!created.open(QIODevice::WriteOnly)) {
+            setError(error,
+                     QStringLiteral("cannot create %1: %2").arg(file, created.errorString()));
+            return Outcome::Failed;
+        }
+        return Outcome::Created;  // an empty file is an empty SQLite database
+    }
+    Outcome outcome = Outcome::Failed;
+    withMaintenance(settings, error, [&](QSqlDatabase& db) {
+        bool found = false;
+        if (!queryExists(db, settings, found, error)) {
+            return false;
+        }
+        if (found) {
+            outcome = Outcome::Existed;
+            return true;
+        }
+        QString create = QStringLiteral("CREATE DATABASE ") +
+                         quoteDatabaseName(settings.backend, settings.catalog);
+        if (settings.backend == Backend::PostgreSQL) {
+            create += QStringLiteral(" TEMPLATE template0 ENCODING 'UTF8'");
+        }
+        QSqlQuery q(db);
+        if (!q.exec(create)) {
+            return setError(error, q.lastError().text());
+        }
+        outcome = Outcome::Created;
+        return true;
+    });
+    return outcome;
+}
+
+bool DatabaseProvisioner::drop(const ConnectionSettings& settings, QString* error) {
+    if (settings.backend == Backend::SQLite) {
+        const QString file = settings.sqliteFile();
+        for (const QString& suffix : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")}) {
+            if (QFileInfo::exists(file + suffix) && !QFile::remove(file + suffix)) {
+                return setError(error, QStringLiteral("cannot remove %1").arg(file + suffix));
+            }
+        }
+        return true;
+    }
+    return withMaintenance(settings, error, [&](QSqlDatabase& db) {
+        const QString name = quoteDatabaseName(settings.backend, settings.catalog);
+        const QString sql =
+            settings.backend == Backend::PostgreSQL
+                ? QStringLiteral("DROP DATABASE IF EXISTS %1 WITH (FORCE)").arg(name)
+                : QStringLiteral("IF DB_ID(:name) IS NOT NULL DROP DATABASE %1").arg(name);
+        QSqlQuery q(db);
+        bool ok = false;
+        if (settings.backend == Backend::SqlServer) {
+            q.prepare(sql);
+            q.bindValue(QStringLiteral(":name"), settings.catalog);
+            ok = q.exec();
+        } else {
+            ok = q.exec(sql);  // DDL: PostgreSQL cannot prepare it
+        }
+        if (!ok) {
+            return setError(error, q.lastError().text());
+        }
+        return true;
+    });
+}
+
+}  // namespace sandogh

@@ -1,0 +1,271 @@
+// Statements on a session: bound values, reading rows, the Isnull conventions,
+// failures logged and classified. Runs on every backend.
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include "TestTables.h"
+#include "data/ErrorLog.h"
+#include "data/SqlQuery.h"
+#include "support/BackendTest.h"
+#include "support/FixedClock.h"
+#include "support/QtPrinters.h"
+
+namespace sandogh {
+namespace {
+
+class SessionTest : public test::BackendTest {
+protected:
+    void SetUp() override {
+        BackendTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        errorLog = std::make_unique<ErrorLog>(logDir.path(), &messages(), clock,
+                                              QStringLiteral("1404/01/01"), QStringLiteral("test"));
+        testDatabase().useErrorLog(errorLog.get());
+        Session s = db().session();
+        ASSERT_TRUE(test::createTables(s, {test::probeTable()}));
+        messages().clear();
+    }
+
+    bool insert(Session& s, int code, const QString& name) {
+        SqlQuery q(s, QStringLiteral("INSERT INTO Goods (Code, Name) VALUES (:code, :name)"));
+        q.bind(QStringLiteral(":code"), code).bind(QStringLiteral(":name"), name);
+        return q.exec();
+    }
+
+    QString logText() {
+        QFile f(errorLog->filePath());
+        return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+    }
+
+    QTemporaryDir logDir;
+    test::FixedClock clock;
+    std::unique_ptr<ErrorLog> errorLog;
+};
+
+TEST_P(SessionTest, TextRoundTripsUnchanged) {
+    const QStringList texts = {
+        QStringLiteral("O'Reilly'; DROP TABLE Goods; --"),
+        QStringLiteral("شیر پاستوریزه کاله ۱ لیتری"),
+        QStringLiteral("كيك عربي ي ك"),
+        QString(),
+        QStringLiteral("100% _off_ [a-z]"),
+        QStringLiteral("C:\\Velbari\\RptFactors.txt"),
+        QStringLiteral("\"quoted\" :name ? $1 @p"),
+        QStringLiteral("line1\r\nline2\ttab"),
+        QStringLiteral("'; DELETE FROM Goods WHERE '1'='1"),
+    };
+    Session s = db().session(QStringLiteral("SessionTest"), QStringLiteral("roundTrip"));
+    for (int i = 0; i < texts.size(); ++i) {
+        ASSERT_TRUE(insert(s, i + 1, texts[i])) << s.lastError().text().toStdString();
+    }
+    for (int i = 0; i < texts.size(); ++i) {
+        EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM Goods WHERE Code = :code"),
+                               {{QStringLiteral(":code"), i + 1}}, QStringLiteral("<none>")),
+                  texts[i]);
+        EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods WHERE Name = :name"),
+                                {{QStringLiteral(":name"), texts[i]}}),
+                  1);
+    }
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods")), texts.size());
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(SessionTest, ReadsFieldsByPositionAndNameWithIsnullDefaults) {
+    Session s = db().session();
+    SqlQuery empty(s, QStringLiteral("INSERT INTO Goods (Code, Name, Amount, Note, DocDate, Big, "
+                                     "Flag) VALUES (:code, :name, :amount, :note, :date, :big, "
+                                     ":flag)"));
+    empty.bind(QStringLiteral("code"), 1)
+        .bindNull(QStringLiteral("name"), ColumnType::Text)
+        .bindNull(QStringLiteral("amount"), ColumnType::Money)
+        .bindNull(QStringLiteral("note"), ColumnType::LongText)
+        .bind(QStringLiteral("date"), QString())
+        .bindNull(QStringLiteral("big"), ColumnType::BigInt)
+        .bindNull(QStringLiteral("flag"), ColumnType::Bool);
+    ASSERT_TRUE(empty.exec());
+    empty.bind(QStringLiteral("code"), 2)
+        .bind(QStringLiteral("name"), QStringLiteral("ماست"))
+        .bind(QStringLiteral("amount"), 12.5)
+        .bind(QStringLiteral("note"), "note")
+        .bind(QStringLiteral("date"), QStringLiteral("1404/01/05"))
+        .bind(QStringLiteral("big"), qint64(9007199254740993LL))
+        .bind(QStringLiteral("flag"), true);
+    ASSERT_TRUE(empty.exec());
+    EXPECT_EQ(empty.rowsAffected(), 1);
+
+    SqlQuery q(s, QStringLiteral("SELECT Code, Name, Amount, Note, DocDate, Big, Flag FROM Goods "
+                                 "ORDER BY Code"));
+    ASSERT_TRUE(q.exec());
+    ASSERT_TRUE(q.next());
+    EXPECT_EQ(q.columnCount(), 7);
+    EXPECT_EQ(q.integer(0), 1);
+    EXPECT_TRUE(q.isNull(1));
+    EXPECT_EQ(q.text(1), QString());
+    EXPECT_EQ(q.text(QStringLiteral("NAME"), QStringLiteral("-")), QStringLiteral("-"));
+    EXPECT_EQ(q.number(2), 0.0);
+    EXPECT_EQ(q.number(QStringLiteral("amount"), 7.0), 7.0);
+    EXPECT_EQ(q.date(QStringLiteral("DocDate")), QStringLiteral("____/__/__"));
+    EXPECT_EQ(q.date(3), QStringLiteral("____/__/__"));
+    EXPECT_EQ(q.int64(QStringLiteral("Big")), 0);
+    EXPECT_EQ(q.integer(6, -1), -1);
+
+    ASSERT_TRUE(q.next());
+    EXPECT_EQ(q.text(QStringLiteral("name")), QStringLiteral("ماست"));
+    EXPECT_EQ(q.text(1), QStringLiteral("ماست"));
+    EXPECT_DOUBLE_EQ(q.number(QStringLiteral("Amount")), 12.5);
+    EXPECT_EQ(q.text(QStringLiteral("Note")), QStringLiteral("note"));
+    EXPECT_EQ(q.date(QStringLiteral("docdate")), QStringLiteral("1404/01/05"));
+    EXPECT_EQ(q.int64(QStringLiteral("BIG")), 9007199254740993LL);
+    EXPECT_EQ(q.integer(QStringLiteral("Flag")), 1);
+    EXPECT_EQ(q.columnIndex(QStringLiteral("NoSuchColumn")), -1);
+    EXPECT_EQ(q.text(QStringLiteral("NoSuchColumn"), QStringLiteral("fb")), QStringLiteral("fb"));
+    EXPECT_FALSE(q.next());
+    EXPECT_EQ(q.text(0, QStringLiteral("after")), QStringLiteral("after"));
+}
+
+TEST_P(SessionTest, SingleValueHelpersFallBackOnNoRowAndNull) {
+    Session s = db().session();
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT MAX(Code) FROM Goods")), 0);
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT MAX(Code) FROM Goods"), {}, -7), -7);
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COALESCE(MAX(Code), 0) + 1 FROM Goods")), 1);
+    EXPECT_FALSE(s.scalar(QStringLiteral("SELECT Name FROM Goods")).isValid());
+    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM Goods"), {}, QStringLiteral("x")),
+              QStringLiteral("x"));
+    ASSERT_TRUE(insert(s, 5, QStringLiteral("a")));
+    EXPECT_DOUBLE_EQ(
+        s.scalarNumber(QStringLiteral("SELECT Amount FROM Goods WHERE Code = 5"), {}, 3.5), 3.5);
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COALESCE(MAX(Code), 0) + 1 FROM Goods")), 6);
+    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM Goods WHERE Code = :c"),
+                           {{QStringLiteral("c"), 5}}),
+              QStringLiteral("a"));
+}
+
+TEST_P(SessionTest, AFailedStatementIsLoggedUnderItsRoutine) {
+    Session s = db().session(QStringLiteral("mduProbe"), QStringLiteral("LoadMissing"));
+    SqlQuery q(s, QStringLiteral("SELECT Name FROM NoSuchTable WHERE Code = :c"));
+    q.bind(QStringLiteral("c"), 1);
+    EXPECT_FALSE(q.exec());
+    EXPECT_EQ(q.error().kind, DbErrorKind::Other);
+    EXPECT_FALSE(q.next());
+    EXPECT_EQ(q.text(0, QStringLiteral("empty")), QStringLiteral("empty"));
+    ASSERT_EQ(messages().count(), 1);
+    EXPECT_EQ(messages().messages().first().style, MessageStyle::Critical);
+    EXPECT_TRUE(messages().messages().first().text.startsWith(QStringLiteral("ErrNumber : ")));
+    const QString log = logText();
+    EXPECT_TRUE(log.contains(QStringLiteral("RoutineName : LoadMissing\r\n")));
+    EXPECT_TRUE(log.contains(QStringLiteral("Module : mduProbe  \r\n")));
+
+    // The session goes on working after a failure.
+    EXPECT_TRUE(insert(s, 1, QStringLiteral("after")));
+    // A quiet failure is left to the caller.
+    EXPECT_FALSE(s.exec(QStringLiteral("DELETE FROM NoSuchTable"), {}, FailureLogging::Quiet));
+    EXPECT_EQ(messages().count(), 1);
+    EXPECT_EQ(s.lastError().kind, DbErrorKind::Other);
+}
+
+TEST_P(SessionTest, KeyAndForeignKeyViolationsAreClassified) {
+    Session s = db().session();
+    ASSERT_TRUE(test::createTables(s, test::parentChildTables(), {test::childToParent()}));
+    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Parent (Id) VALUES (1)")));
+    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Child (Id, ParentId) VALUES (1, 1)")));
+    ASSERT_TRUE(insert(s, 1, QStringLiteral("first")));
+
+    struct Case {
+        const char* what;
+        QString sql;
+        DbErrorKind kind;
+    };
+    const Case cases[] = {
+        {"duplicate primary key", QStringLiteral("INSERT INTO Goods (Code) VALUES (1)"),
+         DbErrorKind::KeyConflict},
+        {"missing parent", QStringLiteral("INSERT INTO Child (Id, ParentId) VALUES (2, 99)"),
+         DbErrorKind::ForeignKey},
+        {"parent still referenced", QStringLiteral("DELETE FROM Parent WHERE Id = 1"),
+         DbErrorKind::ForeignKey},
+        {"no such column", QStringLiteral("UPDATE Goods SET NoSuchColumn = 1"), DbErrorKind::Other},
+    };
+    for (const Case& c : cases) {
+        EXPECT_FALSE(s.exec(c.sql, {}, FailureLogging::QuietKeyConflicts)) << c.what;
+        EXPECT_EQ(s.lastError().kind, c.kind)
+            << c.what << ": " << s.lastError().text().toStdString();
+    }
+    // Only the failures that are not key conflicts were logged.
+    EXPECT_EQ(messages().count(), 3);
+}
+
+TEST_P(SessionTest, AUniqueIndexViolationIsAKeyConflict) {
+    Session s = db().session();
+    IndexDef unique{QStringLiteral("UX_Keyed_Barcode"),
+                    QStringLiteral("Keyed"),
+                    {QStringLiteral("Barcode")},
+                    true,
+                    {}};
+    ASSERT_TRUE(test::createTables(s,
+                                   {{QStringLiteral("Keyed"),
+                                     {test::column("Id", ColumnType::Int, 0, false),
+                                      test::column("Barcode", ColumnType::Text, 50)},
+                                     {QStringLiteral("Id")},
+                                     {}}},
+                                   {}, {unique}));
+    const QString sql = QStringLiteral("INSERT INTO Keyed (Id, Barcode) VALUES (:id, :barcode)");
+    ASSERT_TRUE(s.exec(
+        sql, {{QStringLiteral("id"), 1}, {QStringLiteral("barcode"), QStringLiteral("626")}}));
+    EXPECT_FALSE(
+        s.exec(sql, {{QStringLiteral("id"), 2}, {QStringLiteral("barcode"), QStringLiteral("626")}},
+               FailureLogging::QuietKeyConflicts));
+    EXPECT_TRUE(s.lastError().isKeyConflict());
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(SessionTest, PreparedStatementsAreReusedWithNewValues) {
+    Session s = db().session();
+    SqlQuery add(s, QStringLiteral("INSERT INTO Goods (Code, Name, Amount) VALUES (:c, :n, :a)"));
+    for (int i = 1; i <= 200; ++i) {
+        add.bind(QStringLiteral("c"), i)
+            .bind(QStringLiteral("n"), QString::number(i))
+            .bind(QStringLiteral("a"), i * 0.5);
+        ASSERT_TRUE(add.exec()) << i;
+    }
+    for (int i = 201; i <= 220; ++i) {
+        ASSERT_TRUE(insert(s, i, QStringLiteral("again")));
+    }
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods")), 220);
+    EXPECT_DOUBLE_EQ(s.scalarNumber(QStringLiteral("SELECT SUM(Amount) FROM Goods")), 10050.0);
+
+    // The same statement open twice at once: an outer loop and the look-up inside it.
+    const QString sql =
+        QStringLiteral("SELECT Code, Name FROM Goods WHERE Code <= :max ORDER BY Code");
+    SqlQuery outer(s, sql);
+    outer.bind(QStringLiteral("max"), 3);
+    ASSERT_TRUE(outer.exec());
+    QStringList seen;
+    while (outer.next()) {
+        SqlQuery inner(s, sql);
+        inner.bind(QStringLiteral("max"), 1);
+        ASSERT_TRUE(inner.exec());
+        ASSERT_TRUE(inner.next());
+        EXPECT_EQ(inner.integer(0), 1);
+        EXPECT_FALSE(inner.next());
+        seen << outer.text(QStringLiteral("Name"));
+    }
+    EXPECT_EQ(seen, (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}));
+}
+
+TEST_P(SessionTest, ABindNamedOnlyOnceServesEveryUseOfThePlaceholder) {
+    Session s = db().session();
+    ASSERT_TRUE(insert(s, 1, QStringLiteral("a")));
+    ASSERT_TRUE(insert(s, 2, QStringLiteral("b")));
+    EXPECT_EQ(
+        s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods WHERE Code = :c OR Code = :c + 1"),
+                      {{QStringLiteral("c"), 1}}),
+        2);
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(SessionTest);
+
+}  // namespace
+}  // namespace sandogh

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "data/Backend.h"
+#include "support/TestDatabase.h"
+
+namespace sandogh::test {
+
+// A suite that runs once per backend on a fresh database each test:
+//
+//   class GoodsRepositoryTest : public BackendTest {};
+//   TEST_P(GoodsRepositoryTest, FindsByBarcode) { Session s = db().session(); ... }
+//   SANDOGH_INSTANTIATE_BACKENDS(GoodsRepositoryTest);
+//
+// Without a configured PostgreSQL the PostgreSQL instances are skipped with a loud
+// message; with SANDOGH_REQUIRE_PG=1 (scripts/test) they fail instead.
+class BackendTest : public ::testing::TestWithParam<Backend> {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    Backend backend() const { return GetParam(); }
+    TestDatabase& testDatabase() { return *m_testDatabase; }
+    Database& db() { return m_testDatabase->database(); }
+    RecordingMessageService& messages() { return m_testDatabase->messages(); }
+
+private:
+    std::unique_ptr<TestDatabase> m_testDatabase;
+};
+
+std::string backendParamName(const ::testing::TestParamInfo<Backend>& info);
+
+// Creates the test database of a backend for a test that is not a BackendTest. When it
+// cannot, reports as BackendTest does: sets skip (the caller then GTEST_SKIP()s) or adds
+// a failure.
+std::unique_ptr<TestDatabase> createOrReport(Backend backend, bool* skip);
+
+}  // namespace sandogh::test
+
+#define SANDOGH_INSTANTIATE_BACKENDS(Suite)                                            \
+    INSTANTIATE_TEST_SUITE_P(                                                          \
+        Backends, Suite,                                                               \
+        ::testing::Values(::sandogh::Backend::SQLite, ::sandogh::Backend::PostgreSQL), \
+        ::sandogh::test::backendParamName)
+
+#define SANDOGH_INSTANTIATE_POSTGRES_ONLY(Suite)                                                 \
+    INSTANTIATE_TEST_SUITE_P(Backends, Suite, ::testing::Values(::sandogh::Backend::PostgreSQL), \
+                             ::sandogh::test::backendParamName)

@@ -1,0 +1,249 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <cstdlib>
+
+#include "AdminProcess.h"
+
+namespace sandogh {
+namespace {
+
+// A pseudo-terminal standing in for a device on a serial line: sandogh-admin
+// opens slave(), the test reads and writes the master side.
+class Pty {
+public:
+    Pty() {
+        m_master = posix_openpt(O_RDWR | O_NOCTTY);
+        if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0)
+            return;
+        m_path = QString::fromLocal8Bit(ptsname(m_master));
+        // Held open by the test so the line never hangs up between opens.
+        m_slave = ::open(ptsname(m_master), O_RDWR | O_NOCTTY);
+        termios raw{};
+        if (m_slave >= 0 && tcgetattr(m_slave, &raw) == 0) {
+            cfmakeraw(&raw);
+            tcsetattr(m_slave, TCSANOW, &raw);
+        }
+    }
+    ~Pty() {
+        if (m_slave >= 0)
+            ::close(m_slave);
+        if (m_master >= 0)
+            ::close(m_master);
+    }
+    bool ok() const { return m_slave >= 0; }
+    const QString& slave() const { return m_path; }
+
+    QByteArray read(int count, int waitMs = 10000) {
+        QByteArray got;
+        QDeadlineTimer deadline(waitMs);
+        while (got.size() < count && !deadline.hasExpired()) {
+            pollfd p{m_master, POLLIN, 0};
+            if (::poll(&p, 1, 20) > 0 && (p.revents & POLLIN)) {
+                char buf[256];
+                const ssize_t n = ::read(m_master, buf, sizeof buf);
+                if (n > 0)
+                    got.append(buf, static_cast<int>(n));
+            }
+        }
+        return got;
+    }
+    void write(const QByteArray& bytes) {
+        if (::write(m_master, bytes.constData(), bytes.size()) != bytes.size())
+            ADD_FAILURE();
+    }
+
+private:
+    int m_master = -1;
+    int m_slave = -1;
+    QString m_path;
+};
+
+// Every device command reads the machine settings of a temporary folder.
+class AdminDevice : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(dir.isValid());
+        qputenv("SANDOGH_SETTINGS", dir.path().toLocal8Bit());
+    }
+    void TearDown() override { qunsetenv("SANDOGH_SETTINGS"); }
+
+    void settings(const QByteArray& ini) {
+        QFile f(dir.filePath(QStringLiteral("Retail.ini")));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(ini);
+    }
+
+    QTemporaryDir dir;
+};
+
+struct HexCase {
+    QStringList args;
+    QByteArray hex;
+};
+
+class AdminDeviceHex : public AdminDevice, public testing::WithParamInterface<HexCase> {};
+
+TEST_P(AdminDeviceHex, PrintsTheBytesInsteadOfSending) {
+    const AdminProcess::Result r = AdminProcess::run(QStringList{"device"} + GetParam().args);
+    ASSERT_TRUE(r.started) << r.err.toStdString();
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.out, GetParam().hex + "\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Frames, AdminDeviceHex,
+    testing::Values(
+        HexCase{{"display", "--kind", "3", "--total", "1,250,000", "--hex"},
+                "1B 51 41 31 32 35 30 30 30 30 0D"},
+        HexCase{{"display", "--kind", "1", "--total", "12,500", "--hex"}, "0C 31 32 35 30 30"},
+        HexCase{{"display", "--kind", "2", "--total", "12,500", "--greeting", "Hi", "--hex"},
+                "0D 0A 0D 0A 20 20 20 20 50 72 69 63 65 3A 31 32 2C 35 30 30 20 20 20 20 "
+                "20 20 20 20 20 20 20 20 20 48 69 20 20 20 20 20 20 20 20 20"},
+        HexCase{{"pec", "--amount", "1,250,000", "--invoice", "57", "--hex"},
+                "30 30 38 36 52 51 30 38 31 50 52 30 30 30 41 4D 30 30 37 31 32 35 30 30 30 30 "
+                "43 55 30 30 33 33 36 34 52 31 30 31 35 DD C7 98 CA E6 D1 20 DD D1 E6 D4 3A 20 "
+                "35 37 52 32 30 30 30 54 31 30 30 30 54 32 30 30 30 53 56 30 30 30 53 47 30 30 "
+                "30 41 44 30 30 30 50 44 30 30 31 31"}));
+
+class AdminDeviceUsage : public AdminDevice, public testing::WithParamInterface<QStringList> {};
+
+TEST_P(AdminDeviceUsage, IsRefused) {
+    const AdminProcess::Result r = AdminProcess::run(QStringList{"device"} + GetParam());
+    ASSERT_TRUE(r.started);
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_TRUE(r.out.isEmpty());
+    EXPECT_TRUE(r.err.contains("usage: sandogh-admin device"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Words, AdminDeviceUsage,
+    testing::Values(QStringList{}, QStringList{"scale"}, QStringList{"display", "--total", "1"},
+                    QStringList{"display", "--kind", "x", "--total", "1"},
+                    QStringList{"pec", "--amount", "1"}, QStringList{"pec", "--invoice", "1"},
+                    QStringList{"pec", "--amount", "1", "--invoice", "1", "--timeout", "0"},
+                    QStringList{"drawer", "--now"}));
+
+TEST_F(AdminDevice, DisplaySendsToThePort) {
+    Pty pty;
+    ASSERT_TRUE(pty.ok());
+    const AdminProcess::Result r = AdminProcess::run(
+        {"device", "display", "--kind", "2", "--total", "12,500", "--port", pty.slave()});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(pty.read(44), QByteArray("\r\n\r\n"
+                                       "    Price:12,500    "
+                                       "      Welcome       "));
+}
+
+TEST_F(AdminDevice, PriceDisplaySendsToItsPort) {
+    Pty pty;
+    ASSERT_TRUE(pty.ok());
+    const AdminProcess::Result r = AdminProcess::run(
+        {"device", "display", "--kind", "3", "--total", "12,500", "--port", pty.slave()});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(pty.read(9), QByteArray("\x1b\x51\x41"
+                                      "12500\r"));
+}
+
+TEST_F(AdminDevice, DisplayOnAMissingPortFails) {
+    const AdminProcess::Result r = AdminProcess::run({"device", "display", "--kind", "3", "--total",
+                                                      "1", "--port", "/dev/sandogh-no-such-port"});
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.err.contains("cannot open /dev/sandogh-no-such-port"));
+}
+
+struct PecCase {
+    QByteArray answer;
+    QString line;
+};
+
+class AdminDevicePec : public AdminDevice, public testing::WithParamInterface<PecCase> {};
+
+TEST_P(AdminDevicePec, PrintsTheTerminalsAnswer) {
+    Pty pty;
+    ASSERT_TRUE(pty.ok());
+    QProcess admin;
+    admin.start(AdminProcess::binaryPath(), {"device", "pec", "--amount", "1,250,000", "--invoice",
+                                             "57", "--port", pty.slave(), "--timeout", "30"});
+    ASSERT_TRUE(admin.waitForStarted(10000));
+    const QByteArray request = pty.read(90);
+    EXPECT_TRUE(request.startsWith("0086RQ081PR000AM0071250000"));
+    pty.write(GetParam().answer);
+    ASSERT_TRUE(admin.waitForFinished(30000));
+    EXPECT_EQ(admin.exitCode(), 0) << admin.readAllStandardError().toStdString();
+    const QString out = QString::fromUtf8(admin.readAllStandardOutput());
+    EXPECT_TRUE(out.endsWith(GetParam().line + QLatin1Char('\n'))) << out.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Codes, AdminDevicePec,
+    testing::Values(PecCase{"0013RS00200PD0011", QStringLiteral("code 00: approved")},
+                    PecCase{"RS00255", QString::fromUtf16(u"code 55: رمز کارت اشتباه است")},
+                    PecCase{"RS00205", QStringLiteral("code 05: (no message)")}));
+
+TEST_F(AdminDevice, PecWithoutAnAnswerGivesUpAtTheTimeOut) {
+    Pty pty;
+    ASSERT_TRUE(pty.ok());
+    const AdminProcess::Result r =
+        AdminProcess::run({"device", "pec", "--amount", "1,000", "--invoice", "1", "--port",
+                           pty.slave(), "--timeout", "1"});
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.err.contains("no answer within 1 s"));
+}
+
+TEST_F(AdminDevice, PortsShowWhatEachPortMapsTo) {
+    Pty pty;
+    ASSERT_TRUE(pty.ok());
+    settings("[PortNo]\nNo=0\nPec=5\n[ISActivePoolDisplay]\nPort=7\n[Devices]\nMSCommPec=" +
+             pty.slave().toLocal8Bit() +
+             "\nMSCommCustomerDisplay=/dev/sandogh-no-such-port\n[IsActivePort]\nEnable=1\n");
+    const AdminProcess::Result r = AdminProcess::run({"device", "ports"});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    const QStringList lines = r.outText().split(QLatin1Char('\n'));
+    ASSERT_GE(lines.size(), 5);
+    EXPECT_EQ(lines[0], QStringLiteral("general ports (IsActivePort.Enable): on"));
+    EXPECT_EQ(lines[1], QStringLiteral("MSComm1\tCOM0\tno port"));
+    EXPECT_TRUE(lines[3].startsWith(
+        QStringLiteral("MSCommCustomerDisplay\tCOM7\t/dev/sandogh-no-such-port\tdoes not open")));
+    EXPECT_EQ(lines[4],
+              QStringLiteral("MSCommPec\tCOM5\t") + pty.slave() + QStringLiteral("\topens"));
+}
+
+TEST_F(AdminDevice, DrawerProgramIsStartedWhenNotOnThePrinter) {
+    const QString marker = dir.filePath(QStringLiteral("opened"));
+    const QString script = dir.filePath(QStringLiteral("drawer.sh"));
+    {
+        QFile f(script);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write("#!/bin/sh\necho \"$1\" > \"" + marker.toLocal8Bit() + "\"\n");
+        f.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    settings("[PrinterPort]\nUSB=False\n[Programs]\nDrawer=" + script.toLocal8Bit() + "\n");
+    const AdminProcess::Result r = AdminProcess::run({"device", "drawer"});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_TRUE(r.outText().startsWith(QStringLiteral("drawer: started ")));
+    QDeadlineTimer deadline(10000);
+    while (!QFile::exists(marker) && !deadline.hasExpired())
+        usleep(10000);
+    QFile f(marker);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    EXPECT_EQ(f.readAll(), QByteArray("0\n"));
+}
+
+TEST_F(AdminDevice, DrawerWithoutAPrinterReportsIt) {
+    qputenv("CUPS_SERVER", "127.0.0.1:1");  // nothing listens there
+    const AdminProcess::Result r = AdminProcess::run({"device", "drawer"});
+    qunsetenv("CUPS_SERVER");
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.err.contains("The Printer Name you typed wasn't recognized."));
+}
+
+}  // namespace
+}  // namespace sandogh

@@ -5,10 +5,10 @@
 #include <QTemporaryDir>
 
 #include "RecordingLauncher.h"
-#include "RecordingMessageService.h"
 #include "WaitUntil.h"
 #include "devices/CashDrawer.h"
 #include "devices/DetachedProgramLauncher.h"
+#include "support/RecordingMessageService.h"
 
 using sandogh::CashDrawer;
 using sandogh::DetachedProgramLauncher;
@@ -51,7 +51,7 @@ TEST_P(DrawerPath, FollowsPrinterPortUsb) {
     drawer.mnuOpenCash_Click();
     EXPECT_EQ(printer.jobs.size(), GetParam().onPrinter ? 1 : 0) << GetParam().usb;
     EXPECT_EQ(launcher.calls.size(), GetParam().onPrinter ? 0 : 1) << GetParam().usb;
-    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_TRUE((messages.count() == 0));
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, DrawerPath,
@@ -78,10 +78,10 @@ TEST(CashDrawer, UnknownPrinterIsReportedPlainly) {
     RecordingMessageService messages;
     CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
     drawer.mnuOpenCash_Click();
-    ASSERT_EQ(messages.shown.size(), 1);
-    EXPECT_EQ(messages.shown[0].text,
+    ASSERT_EQ(messages.count(), 1);
+    EXPECT_EQ(messages.messages()[0].text,
               QStringLiteral("The Printer Name you typed wasn't recognized."));
-    EXPECT_EQ(messages.shown[0].style, MessageStyle::CriticalPlain);
+    EXPECT_EQ(messages.messages()[0].style, MessageStyle::CriticalPlain);
     EXPECT_TRUE(launcher.calls.isEmpty());
 }
 

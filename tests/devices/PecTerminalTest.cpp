@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
-#include "FixedClock.h"
 #include "PtyPair.h"
-#include "RecordingMessageService.h"
 #include "RecordingPaymentRecorder.h"
 #include "WaitUntil.h"
 #include "devices/PecRequest.h"
 #include "devices/PecResponse.h"
 #include "devices/PecTerminal.h"
+#include "support/FixedClock.h"
+#include "support/RecordingMessageService.h"
 
 using sandogh::MessageStyle;
 using sandogh::PecConfig;
@@ -108,7 +108,7 @@ TEST_F(PecTerminalOnPty, ApprovalRecordsOnePayment) {
     EXPECT_EQ(p.errorCode, 0);
     EXPECT_EQ(p.posId, 0);
     EXPECT_EQ(p.errorDescription, PosPayment::saleFormDescription());
-    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_TRUE((messages.count() == 0));
     EXPECT_FALSE(terminal.MSCommPec().isOpen());
     EXPECT_FALSE(terminal.waiting());
     EXPECT_EQ(codes, QStringList{QStringLiteral("00")});
@@ -138,13 +138,13 @@ TEST_P(PecRefusalOnPty, ShowsItsMessageAndRecordsNothing) {
     answer(QByteArray("0013RS002") + GetParam().code + "PD0011");
     EXPECT_TRUE(recorder.payments.isEmpty());
     if (GetParam().message) {
-        ASSERT_EQ(messages.shown.size(), 1);
-        EXPECT_EQ(messages.shown[0].text,
+        ASSERT_EQ(messages.count(), 1);
+        EXPECT_EQ(messages.messages()[0].text,
                   PecResponse::message(QString::fromLatin1(GetParam().code)));
-        EXPECT_FALSE(messages.shown[0].text.isEmpty());
-        EXPECT_EQ(messages.shown[0].style, MessageStyle::Information);
+        EXPECT_FALSE(messages.messages()[0].text.isEmpty());
+        EXPECT_EQ(messages.messages()[0].style, MessageStyle::Information);
     } else {
-        EXPECT_TRUE(messages.shown.isEmpty());
+        EXPECT_TRUE((messages.count() == 0));
     }
     EXPECT_FALSE(terminal.MSCommPec().isOpen());
 }
@@ -158,8 +158,8 @@ TEST_F(PecTerminalOnPty, WrongPinShowsItsText) {
     ASSERT_TRUE(pty.ok());
     request(QStringLiteral("1,250,000"), QStringLiteral("57"));
     answer("RS00255");
-    ASSERT_EQ(messages.shown.size(), 1);
-    EXPECT_EQ(messages.shown[0].text.toUtf8().toHex(),
+    ASSERT_EQ(messages.count(), 1);
+    EXPECT_EQ(messages.messages()[0].text.toUtf8().toHex(),
               QString::fromUtf16(u"رمز کارت اشتباه است").toUtf8().toHex());
 }
 
@@ -168,7 +168,7 @@ TEST_F(PecTerminalOnPty, AnswerWithoutResponseFieldIsIgnored) {
     request(QStringLiteral("1,250,000"), QStringLiteral("57"));
     answer("0010PD0011RS003");
     EXPECT_TRUE(recorder.payments.isEmpty());
-    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_TRUE((messages.count() == 0));
     EXPECT_TRUE(codes.isEmpty());
     EXPECT_FALSE(terminal.MSCommPec().isOpen());
 }
@@ -199,7 +199,7 @@ TEST_F(PecTerminalOnPty, BrokenConnectionAddsNoMessageOfItsOwn) {
     request(QStringLiteral("1,000"), QStringLiteral("3"));
     answer("RS00200");
     EXPECT_EQ(recorder.payments.size(), 1);
-    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_TRUE((messages.count() == 0));
 }
 
 TEST(PecTerminal, MissingPortSendsNothing) {
@@ -211,7 +211,7 @@ TEST(PecTerminal, MissingPortSendsNothing) {
     PecTerminal terminal(config, recorder, messages, clock, [] { return QString(); });
     EXPECT_FALSE(terminal.sendPaymentRequest(QStringLiteral("1,000"), QStringLiteral("1")));
     EXPECT_FALSE(terminal.waiting());
-    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_TRUE((messages.count() == 0));
 }
 
 }  // namespace

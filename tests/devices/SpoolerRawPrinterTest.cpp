@@ -7,10 +7,10 @@
 
 #include "CupsServer.h"
 #include "RecordingLauncher.h"
-#include "RecordingMessageService.h"
 #include "WaitUntil.h"
 #include "devices/CashDrawer.h"
 #include "devices/SpoolerRawPrinter.h"
+#include "support/RecordingMessageService.h"
 
 using sandogh::CashDrawer;
 using sandogh::DrawerConfig;
@@ -55,7 +55,7 @@ TEST_F(SpoolerOnLocalCups, DrawerKickArrivesAtTheDefaultPrinter) {
     ASSERT_TRUE(waitUntil([&] { return contents(out).size() >= 5; }, 20000));
     EXPECT_EQ(contents(out).toHex(' ').toUpper(), QByteArray("1B 70 00 19 1E"));
     EXPECT_EQ(server.lastJobTitle(QStringLiteral("receipt")), QStringLiteral("OPENCASH"));
-    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_TRUE((messages.count() == 0));
     EXPECT_TRUE(launcher.calls.isEmpty());
 }
 
@@ -79,8 +79,8 @@ TEST_F(SpoolerOnLocalCups, NoDefaultPrinterShowsTheMessage) {
     SpoolerRawPrinter printer;
     CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
     drawer.mnuOpenCash_Click();
-    ASSERT_EQ(messages.shown.size(), 1);
-    EXPECT_EQ(messages.shown[0].text,
+    ASSERT_EQ(messages.count(), 1);
+    EXPECT_EQ(messages.messages()[0].text,
               QStringLiteral("The Printer Name you typed wasn't recognized."));
     EXPECT_EQ(contents(out), QByteArray());
 }
@@ -95,8 +95,8 @@ TEST(SpoolerRawPrinter, UnreachableSchedulerMeansNoPrinter) {
     CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
     drawer.OpenCashDrawer();
     cupsSetServer(nullptr);
-    ASSERT_EQ(messages.shown.size(), 1);
-    EXPECT_EQ(messages.shown[0].text,
+    ASSERT_EQ(messages.count(), 1);
+    EXPECT_EQ(messages.messages()[0].text,
               QStringLiteral("The Printer Name you typed wasn't recognized."));
 }
 

@@ -1,0 +1,292 @@
+// Applying migration steps: idempotent, recorded, each step all or nothing, and the
+// same tables and columns on every backend.
+
+#include <gtest/gtest.h>
+
+#include "TestTables.h"
+#include "data/SqlQuery.h"
+#include "data/schema/Migrator.h"
+#include "data/schema/SchemaReader.h"
+#include "data/schema/ShopSchema.h"
+#include "support/BackendTest.h"
+#include "support/QtPrinters.h"
+
+namespace sandogh {
+namespace {
+
+using test::column;
+
+ColumnDef withDefault(ColumnDef c, const char* literal) {
+    c.defaultValue = QLatin1String(literal);
+    return c;
+}
+
+ColumnDef identity(const char* name) {
+    return {QLatin1String(name), ColumnType::Int, 0, false, true, {}};
+}
+
+// Three steps as a catalogue would write them: tables with identity, defaults and a
+// foreign key, a table of a vendor's database, then added columns, an index, and a
+// foreign key declared after its table was created.
+QList<MigrationStep> testSteps() {
+    MigrationStep one;
+    one.version = 1;
+    one.description = QStringLiteral("site and documents");
+    one.tables = {
+        {QStringLiteral("Stations"),
+         {identity("ID"), column("Station_Name", ColumnType::Text, 50, false)},
+         {QStringLiteral("ID")},
+         {}},
+        {QStringLiteral("DocH"),
+         {column("Code", ColumnType::Int, 0, false), column("DocNo", ColumnType::Text, 20),
+          column("StationID", ColumnType::Int),
+          withDefault(column("DocSum", ColumnType::Money, 0, false), "0")},
+         {QStringLiteral("Code")},
+         {}},
+        {QStringLiteral("Plu"),
+         {column("Id", ColumnType::Int, 0, false), column("Name", ColumnType::Text, 100)},
+         {QStringLiteral("Id")},
+         QStringLiteral("MizanNet")},
+    };
+    one.foreignKeys = {{QStringLiteral("FK_DocH_Stations"),
+                        QStringLiteral("DocH"),
+                        {QStringLiteral("StationID")},
+                        QStringLiteral("Stations"),
+                        {QStringLiteral("ID")}}};
+    one.indexes = {{QStringLiteral("UX_Stations_Station_Name"),
+                    QStringLiteral("Stations"),
+                    {QStringLiteral("Station_Name")},
+                    true,
+                    {}}};
+    one.seedStatements = {QStringLiteral("INSERT INTO Stations (Station_Name) VALUES ('Main')")};
+
+    MigrationStep two;
+    two.version = 2;
+    two.description = QStringLiteral("document dates and lines");
+    two.addColumns = {
+        {QStringLiteral("DocH"), column("DocDate", ColumnType::Text, 10), {}},
+        {QStringLiteral("Plu"), column("Price", ColumnType::Money), QStringLiteral("MizanNet")}};
+    two.tables = {{QStringLiteral("DocD"),
+                   {identity("ID"), column("Code", ColumnType::Int, 0, false),
+                    column("EAN_Code", ColumnType::Text, 50)},
+                   {QStringLiteral("ID")},
+                   {}}};
+    two.foreignKeys = {{QStringLiteral("FK_DocD_DocH"),
+                        QStringLiteral("DocD"),
+                        {QStringLiteral("Code")},
+                        QStringLiteral("DocH"),
+                        {QStringLiteral("Code")}}};
+    two.indexes = {{QStringLiteral("IX_DocH_DocDate"),
+                    QStringLiteral("DocH"),
+                    {QStringLiteral("DocDate")},
+                    false,
+                    {}},
+                   {QStringLiteral("IX_Plu_Name"),
+                    QStringLiteral("Plu"),
+                    {QStringLiteral("Name")},
+                    false,
+                    QStringLiteral("MizanNet")}};
+
+    MigrationStep three;
+    three.version = 3;
+    three.description = QStringLiteral("parties");
+    three.tables = {
+        {QStringLiteral("Parties"),
+         {column("Counter", ColumnType::Int, 0, false), column("Name", ColumnType::Text, 100)},
+         {QStringLiteral("Counter")},
+         {}}};
+    three.addColumns = {{QStringLiteral("DocH"), column("CompanyID", ColumnType::Int), {}}};
+    three.foreignKeys = {{QStringLiteral("FK_DocH_Parties"),
+                          QStringLiteral("DocH"),
+                          {QStringLiteral("CompanyID")},
+                          QStringLiteral("Parties"),
+                          {QStringLiteral("Counter")}}};
+    return {one, two, three};
+}
+
+const QMap<QString, QStringList> kShopTables = {
+    {QStringLiteral("schemaversion"),
+     {QStringLiteral("version"), QStringLiteral("description"), QStringLiteral("appliedat")}},
+    {QStringLiteral("stations"), {QStringLiteral("id"), QStringLiteral("station_name")}},
+    {QStringLiteral("doch"),
+     {QStringLiteral("code"), QStringLiteral("docno"), QStringLiteral("stationid"),
+      QStringLiteral("docsum"), QStringLiteral("docdate"), QStringLiteral("companyid")}},
+    {QStringLiteral("docd"),
+     {QStringLiteral("id"), QStringLiteral("code"), QStringLiteral("ean_code")}},
+    {QStringLiteral("parties"), {QStringLiteral("counter"), QStringLiteral("name")}},
+};
+const QMap<QString, QStringList> kMizanNetTables = {
+    {QStringLiteral("plu"),
+     {QStringLiteral("id"), QStringLiteral("name"), QStringLiteral("price")}},
+};
+
+class MigratorTest : public test::BackendTest {
+protected:
+    qint64 count(const QString& sql) {
+        Session s = db().session();
+        return s.scalarInt64(sql, {}, -1);
+    }
+};
+
+TEST_P(MigratorTest, AppliesEveryStepOnceAndRecordsIt) {
+    Migrator migrator(db());
+    EXPECT_EQ(migrator.currentVersion(), 0);
+
+    const Migrator::Result first = migrator.apply(testSteps());
+    ASSERT_TRUE(first.ok) << first.message.toStdString();
+    EXPECT_EQ(first.versionBefore, 0);
+    EXPECT_EQ(first.versionAfter, 3);
+    EXPECT_EQ(first.applied, (QList<int>{1, 2, 3}));
+    EXPECT_EQ(migrator.currentVersion(), 3);
+
+    const Migrator::Result again = migrator.apply(testSteps());
+    ASSERT_TRUE(again.ok) << again.message.toStdString();
+    EXPECT_EQ(again.versionBefore, 3);
+    EXPECT_EQ(again.versionAfter, 3);
+    EXPECT_TRUE(again.applied.isEmpty());
+
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM SchemaVersion")), 3);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Stations")), 1);  // seeded once
+    Session s = db().session();
+    EXPECT_EQ(
+        s.scalarText(QStringLiteral("SELECT Description FROM SchemaVersion WHERE Version = 2")),
+        QStringLiteral("document dates and lines"));
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(MigratorTest, UpgradesFromAnEarlierVersion) {
+    Migrator migrator(db());
+    ASSERT_TRUE(migrator.apply(testSteps().mid(0, 1)).ok);
+    EXPECT_EQ(migrator.currentVersion(), 1);
+    const Migrator::Result upgrade = migrator.apply(testSteps());
+    ASSERT_TRUE(upgrade.ok) << upgrade.message.toStdString();
+    EXPECT_EQ(upgrade.versionBefore, 1);
+    EXPECT_EQ(upgrade.applied, (QList<int>{2, 3}));
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Stations")), 1);
+}
+
+TEST_P(MigratorTest, EndsWithTheTablesAndColumnsOfTheSteps) {
+    ASSERT_TRUE(Migrator(db()).apply(testSteps()).ok);
+    Session s = db().session();
+    EXPECT_EQ(SchemaReader::tables(s), kShopTables);
+    EXPECT_EQ(SchemaReader::tables(s, QStringLiteral("MizanNet")), kMizanNetTables);
+}
+
+TEST_P(MigratorTest, RowsSurviveALaterForeignKeyWhichIsThenEnforced) {
+    Migrator migrator(db());
+    ASSERT_TRUE(migrator.apply(testSteps().mid(0, 2)).ok);
+    {
+        Session s = db().session();
+        ASSERT_TRUE(
+            s.exec(QStringLiteral("INSERT INTO DocH (Code, DocNo, StationID, DocDate) "
+                                  "VALUES (1, '1', 1, '1404/01/05')")));
+        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO DocD (Code, EAN_Code) VALUES (1, '626')")));
+        ASSERT_TRUE(
+            s.exec(QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (7, 'x')")
+                       .arg(s.dialect().table(QStringLiteral("Plu"), QStringLiteral("MizanNet")))));
+    }
+    ASSERT_TRUE(migrator.apply(testSteps()).ok);
+    Session s = db().session();
+    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT DocDate FROM DocH WHERE Code = 1")),
+              QStringLiteral("1404/01/05"));
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM DocD")), 1);
+    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM ") +
+                           s.dialect().table(QStringLiteral("Plu"), QStringLiteral("MizanNet"))),
+              QStringLiteral("x"));
+    const struct {
+        const char* what;
+        QString sql;
+        DbErrorKind kind;
+    } checks[] = {
+        {"foreign key of step 3", QStringLiteral("UPDATE DocH SET CompanyID = 99 WHERE Code = 1"),
+         DbErrorKind::ForeignKey},
+        {"foreign key of step 2", QStringLiteral("INSERT INTO DocD (Code) VALUES (5)"),
+         DbErrorKind::ForeignKey},
+        {"foreign key of step 1 kept by the rebuild",
+         QStringLiteral("UPDATE DocH SET StationID = 42 WHERE Code = 1"), DbErrorKind::ForeignKey},
+        {"index of step 2 kept by the rebuild",
+         QStringLiteral("INSERT INTO Stations (Station_Name) VALUES ('Main')"),
+         DbErrorKind::KeyConflict},
+    };
+    for (const auto& c : checks) {
+        EXPECT_FALSE(s.exec(c.sql, {}, FailureLogging::Quiet)) << c.what;
+        EXPECT_EQ(s.lastError().kind, c.kind)
+            << c.what << ": " << s.lastError().text().toStdString();
+    }
+    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Parties (Counter, Name) VALUES (99, 'p')")));
+    EXPECT_TRUE(s.exec(QStringLiteral("UPDATE DocH SET CompanyID = 99 WHERE Code = 1")));
+    // The identity goes on counting after the copy.
+    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Stations (Station_Name) VALUES ('Second')")));
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(DISTINCT ID) FROM Stations")), 2);
+    EXPECT_GT(
+        s.scalarInt64(QStringLiteral("SELECT ID FROM Stations WHERE Station_Name = 'Second'")), 1);
+}
+
+TEST_P(MigratorTest, AFailingStepLeavesNothingOfItself) {
+    Migrator migrator(db());
+    ASSERT_TRUE(migrator.apply(testSteps()).ok);
+    QList<MigrationStep> steps = testSteps();
+    MigrationStep broken;
+    broken.version = 4;
+    broken.description = QStringLiteral("broken");
+    broken.tables = {{QStringLiteral("Half"), {column("Id", ColumnType::Int)}, {}, {}}};
+    broken.addColumns = {{QStringLiteral("DocH"), column("Extra", ColumnType::Int), {}}};
+    broken.seedStatements = {QStringLiteral("INSERT INTO NoSuchTable (Id) VALUES (1)")};
+    steps << broken;
+
+    const Migrator::Result result = migrator.apply(steps);
+    EXPECT_FALSE(result.ok);
+    EXPECT_TRUE(result.message.contains(QStringLiteral("step 4"))) << result.message.toStdString();
+    EXPECT_EQ(result.versionAfter, 3);
+    EXPECT_EQ(migrator.currentVersion(), 3);
+    Session s = db().session();
+    EXPECT_EQ(SchemaReader::tables(s), kShopTables);  // no Half, no DocH.Extra
+}
+
+TEST_P(MigratorTest, StepsOutOfOrderAreRefusedBeforeAnythingIsDone) {
+    QList<MigrationStep> steps = testSteps();
+    std::swap(steps[1], steps[2]);
+    const Migrator::Result result = Migrator(db()).apply(steps);
+    EXPECT_FALSE(result.ok);
+    Session s = db().session();
+    EXPECT_TRUE(SchemaReader::tables(s).isEmpty());
+}
+
+TEST_P(MigratorTest, TheShopCatalogueApplies) {
+    const Migrator::Result result = Migrator(db()).apply(shopMigrations());
+    ASSERT_TRUE(result.ok) << result.message.toStdString();
+    EXPECT_EQ(result.versionAfter, shopMigrations().last().version);
+    EXPECT_TRUE(Migrator(db()).apply(shopMigrations()).applied.isEmpty());
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(MigratorTest);
+
+// Every backend reads back the same tables and columns after the same steps.
+TEST(MigratorBackends, SqliteAndPostgresEndAlike) {
+    bool skip = false;
+    auto sqlite = test::createOrReport(Backend::SQLite, &skip);
+    ASSERT_NE(sqlite, nullptr);
+    auto postgres = test::createOrReport(Backend::PostgreSQL, &skip);
+    if (skip) {
+        GTEST_SKIP() << "PostgreSQL is not configured; this comparison did NOT run";
+    }
+    ASSERT_NE(postgres, nullptr);
+
+    for (const QList<MigrationStep>& steps : {testSteps(), shopMigrations()}) {
+        ASSERT_TRUE(Migrator(sqlite->database()).apply(steps).ok);
+        ASSERT_TRUE(Migrator(postgres->database()).apply(steps).ok);
+    }
+    Session a = sqlite->database().session();
+    Session b = postgres->database().session();
+    const auto shopA = SchemaReader::tables(a);
+    EXPECT_GT(shopA.size(), 10);
+    EXPECT_EQ(shopA, SchemaReader::tables(b));
+    for (const QString& other : Migrator::otherDatabasesOf(testSteps() + shopMigrations())) {
+        const auto tablesA = SchemaReader::tables(a, other);
+        EXPECT_FALSE(tablesA.isEmpty()) << other.toStdString();
+        EXPECT_EQ(tablesA, SchemaReader::tables(b, other)) << other.toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace sandogh

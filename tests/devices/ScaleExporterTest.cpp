@@ -1,0 +1,193 @@
+#include <gtest/gtest.h>
+
+#include "data/SqlQuery.h"
+#include "data/schema/Migrator.h"
+#include "data/schema/ShopSchema.h"
+#include "devices/ScaleExporter.h"
+#include "support/BackendTest.h"
+
+using sandogh::Migrator;
+using sandogh::ScaleExportConfig;
+using sandogh::ScaleExporter;
+using sandogh::ScaleGood;
+using sandogh::Session;
+using sandogh::SqlQuery;
+
+namespace {
+
+class ScaleExport : public sandogh::test::BackendTest {
+protected:
+    void SetUp() override {
+        BackendTest::SetUp();
+        if (IsSkipped() || HasFatalFailure())
+            return;
+        const Migrator::Result r = Migrator(db()).apply(sandogh::shopMigrations());
+        ASSERT_TRUE(r.ok) << r.message.toStdString();
+        session = db().session();
+        ASSERT_TRUE(session.isValid());
+    }
+    void TearDown() override {
+        session = Session();
+        BackendTest::TearDown();
+    }
+
+    QString table(const char* name, const char* database) {
+        return session.dialect().table(QString::fromLatin1(name), QString::fromLatin1(database));
+    }
+    qint64 rows(const char* name, const char* database) {
+        return session.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM ") + table(name, database));
+    }
+
+    static ScaleGood good(const char* plu, const char* barcode, const char* cost,
+                          bool weighed = true) {
+        ScaleGood g;
+        g.plu = QString::fromLatin1(plu);
+        g.name = QStringLiteral("Cheese");
+        g.barcode = QString::fromLatin1(barcode);
+        g.cost = QString::fromLatin1(cost);
+        g.weighed = weighed;
+        return g;
+    }
+
+    Session session;
+};
+
+TEST_P(ScaleExport, TakinGetsANewItemWithItsFixedValues) {
+    ScaleExporter exporter(ScaleExportConfig{true, false, false}, messages());
+    ASSERT_TRUE(exporter.goodSaved(session, good(" 12 ", "12", "125,000")));
+    SqlQuery q(session, QStringLiteral("SELECT ID, Code, Name1, Name2, BarCode, IranCode, Type, "
+                                       "Price, ItemCode, AlterPrice, Sect, Grp, Vat, Logo FROM ") +
+                            table("Items", sandogh::kOnlineSalesDatabase));
+    ASSERT_TRUE(q.exec() && q.next());
+    EXPECT_EQ(q.integer(0), 175);
+    EXPECT_EQ(q.int64(1), 12);
+    EXPECT_EQ(q.text(2), QStringLiteral("Cheese"));
+    EXPECT_EQ(q.text(3), QString());
+    EXPECT_EQ(q.text(4), QStringLiteral("12"));
+    EXPECT_EQ(q.text(5), QString());
+    EXPECT_EQ(q.integer(6), 2);
+    EXPECT_DOUBLE_EQ(q.number(7), 125000.0);
+    EXPECT_EQ(q.int64(8), 12);
+    EXPECT_EQ(q.integer(9), 1);
+    EXPECT_EQ(q.integer(10), 0);
+    EXPECT_EQ(q.integer(11), 0);
+    EXPECT_DOUBLE_EQ(q.number(12), 0.0);
+    EXPECT_EQ(q.integer(13), 0);
+    EXPECT_FALSE(q.next());
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(ScaleExport, SecondSaveUpdatesAndNeverInserts) {
+    ScaleExporter exporter(ScaleExportConfig{true, true, true}, messages());
+    ASSERT_TRUE(exporter.goodSaved(session, good("12", "12", "100,000")));
+    ScaleGood changed = good("12", "12", "110,500", false);
+    changed.name = QStringLiteral("Goat cheese");
+    ASSERT_TRUE(exporter.goodSaved(session, changed));
+    ASSERT_TRUE(exporter.goodSaved(session, changed));
+
+    EXPECT_EQ(rows("Items", sandogh::kOnlineSalesDatabase), 1);
+    EXPECT_EQ(rows("MizanNetItem", sandogh::kMizanNetDatabase), 1);
+    EXPECT_EQ(rows("SADR_Item", sandogh::kSadrDatabase), 1);
+    EXPECT_EQ(rows("SADR_KeyAssignment", sandogh::kSadrDatabase), 1);
+
+    EXPECT_EQ(session.scalarText(QStringLiteral("SELECT Name1 FROM ") +
+                                 table("Items", sandogh::kOnlineSalesDatabase)),
+              QStringLiteral("Goat cheese"));
+    EXPECT_DOUBLE_EQ(session.scalarNumber(QStringLiteral("SELECT Price FROM ") +
+                                          table("Items", sandogh::kOnlineSalesDatabase)),
+                     110500.0);
+    EXPECT_EQ(session.scalarInt64(QStringLiteral("SELECT Type FROM ") +
+                                  table("Items", sandogh::kOnlineSalesDatabase)),
+              1);
+    SqlQuery mizan(session, QStringLiteral("SELECT PluNo, WeightUnit, UPrice, ItemCode, "
+                                           "CommodityName FROM ") +
+                                table("MizanNetItem", sandogh::kMizanNetDatabase));
+    ASSERT_TRUE(mizan.exec() && mizan.next());
+    EXPECT_EQ(mizan.int64(0), 12);
+    EXPECT_EQ(mizan.integer(1), 0);
+    EXPECT_DOUBLE_EQ(mizan.number(2), 110500.0);
+    EXPECT_EQ(mizan.text(3), QStringLiteral("12"));
+    EXPECT_EQ(mizan.text(4), QStringLiteral("Goat cheese"));
+    SqlQuery sadr(session, QStringLiteral("SELECT PluNo, UnitPrice, ItemCode, PluName FROM ") +
+                               table("SADR_Item", sandogh::kSadrDatabase));
+    ASSERT_TRUE(sadr.exec() && sadr.next());
+    EXPECT_EQ(sadr.int64(0), 12);
+    EXPECT_DOUBLE_EQ(sadr.number(1), 110500.0);
+    EXPECT_EQ(sadr.int64(2), 12);
+    EXPECT_EQ(sadr.text(3), QStringLiteral("Goat cheese"));
+}
+
+TEST_P(ScaleExport, SadrGivesEachGoodTheKeyOfItsPlu) {
+    ScaleExporter exporter(ScaleExportConfig{false, false, true}, messages());
+    ASSERT_TRUE(exporter.goodSaved(session, good("31", "2000031", "9,000")));
+    SqlQuery key(session, QStringLiteral("SELECT ItemClassCode, PageNo, KeyNo, PluNo FROM ") +
+                              table("SADR_KeyAssignment", sandogh::kSadrDatabase));
+    ASSERT_TRUE(key.exec() && key.next());
+    EXPECT_EQ(key.integer(0), 0);
+    EXPECT_EQ(key.integer(1), 0);
+    EXPECT_EQ(key.int64(2), 31);
+    EXPECT_EQ(key.int64(3), 31);
+    EXPECT_EQ(session.scalarInt64(QStringLiteral("SELECT PluUnit FROM ") +
+                                  table("SADR_Item", sandogh::kSadrDatabase)),
+              1);
+    // Found again by the barcode's value: updated, not added.
+    ASSERT_TRUE(exporter.goodSaved(session, good("31", "2000031", "9,500")));
+    EXPECT_EQ(rows("SADR_Item", sandogh::kSadrDatabase), 1);
+    EXPECT_EQ(rows("SADR_KeyAssignment", sandogh::kSadrDatabase), 1);
+}
+
+TEST_P(ScaleExport, MizanLooksTheGoodUpByItsBarcodeValue) {
+    ScaleExporter exporter(ScaleExportConfig{false, true, false}, messages());
+    // A scale item whose PLU happens to equal the barcode value of another good.
+    ASSERT_TRUE(exporter.goodSaved(session, good("777", "777", "1,000")));
+    ASSERT_EQ(rows("MizanNetItem", sandogh::kMizanNetDatabase), 1);
+    // PLU 5 with barcode 777: the existence test finds PLU 777 and the update goes
+    // to PLU 5, which has no row, so nothing is added.
+    ASSERT_TRUE(exporter.goodSaved(session, good("5", "777", "2,000")));
+    EXPECT_EQ(rows("MizanNetItem", sandogh::kMizanNetDatabase), 1);
+    EXPECT_DOUBLE_EQ(session.scalarNumber(QStringLiteral("SELECT UPrice FROM ") +
+                                          table("MizanNetItem", sandogh::kMizanNetDatabase)),
+                     1000.0);
+}
+
+TEST_P(ScaleExport, TwoSystemsBothReceiveTheGoodTakinFirst) {
+    ScaleExporter exporter(ScaleExportConfig{true, true, false}, messages());
+    ASSERT_TRUE(exporter.goodSaved(session, good("12", "12", "5,000")));
+    EXPECT_EQ(rows("Items", sandogh::kOnlineSalesDatabase), 1);
+    EXPECT_EQ(rows("MizanNetItem", sandogh::kMizanNetDatabase), 1);
+    EXPECT_EQ(rows("SADR_Item", sandogh::kSadrDatabase), 0);
+}
+
+TEST_P(ScaleExport, AFailingVendorStopsTheOnesAfterIt) {
+    ASSERT_TRUE(session.exec(QStringLiteral("DROP TABLE ") +
+                             table("MizanNetItem", sandogh::kMizanNetDatabase)));
+    ScaleExporter exporter(ScaleExportConfig{true, true, true}, messages());
+    EXPECT_FALSE(exporter.goodSaved(session, good("12", "12", "5,000")));
+    EXPECT_EQ(rows("Items", sandogh::kOnlineSalesDatabase), 1);  // Takin ran before Mizan
+    EXPECT_EQ(rows("SADR_Item", sandogh::kSadrDatabase), 0);     // Sadr never came
+    ASSERT_EQ(messages().count(), 1);
+    EXPECT_EQ(messages().messages()[0].text, sandogh::Database::connectionFailureMessage());
+}
+
+TEST_P(ScaleExport, NothingEnabledWritesNothing) {
+    ScaleExporter exporter(ScaleExportConfig{}, messages());
+    ASSERT_TRUE(exporter.goodSaved(session, good("12", "12", "5,000")));
+    EXPECT_EQ(rows("Items", sandogh::kOnlineSalesDatabase), 0);
+    EXPECT_EQ(rows("MizanNetItem", sandogh::kMizanNetDatabase), 0);
+    EXPECT_EQ(rows("SADR_Item", sandogh::kSadrDatabase), 0);
+}
+
+TEST_P(ScaleExport, DeletingAGoodRemovesItsTakinRecord) {
+    ScaleExporter exporter(ScaleExportConfig{true, false, false}, messages());
+    ASSERT_TRUE(exporter.goodSaved(session, good("12", "12", "5,000")));
+    ASSERT_TRUE(exporter.goodSaved(session, good("13", "13", "6,000")));
+    ASSERT_TRUE(exporter.goodDeleted(session, QStringLiteral(" 12")));
+    EXPECT_EQ(rows("Items", sandogh::kOnlineSalesDatabase), 1);
+    EXPECT_EQ(session.scalarInt64(QStringLiteral("SELECT Code FROM ") +
+                                  table("Items", sandogh::kOnlineSalesDatabase)),
+              13);
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(ScaleExport);
+
+}  // namespace

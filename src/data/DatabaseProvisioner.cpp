@@ -44,6 +44,9 @@ bool withMaintenance(const ConnectionSettings& settings, QString* error,
             setError(error, QStringLiteral("cannot connect to %1: %2")
                                 .arg(settings.host, db.lastError().text()));
         } else {
+            if (settings.backend == Backend::PostgreSQL) {
+                QSqlQuery(db).exec(QStringLiteral("SET client_min_messages TO WARNING"));
+            }
             ok = work(db);
             db.close();
         }

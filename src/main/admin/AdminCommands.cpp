@@ -6,6 +6,7 @@ namespace sandogh {
 int runDate(AdminCall& call);
 int runWords(AdminCall& call);
 int runDevice(AdminCall& call);
+int runInitDb(AdminCall& call);
 
 const QList<AdminCommand>& adminCommands() {
     static const QList<AdminCommand> commands = {
@@ -13,6 +14,9 @@ const QList<AdminCommand>& adminCommands() {
         {"words", "words NUMBER               a whole number in Persian words", runWords},
         {"device", "device display|drawer|pec|ports  self-tests of the cash desk's devices",
          runDevice},
+        {"init-db",
+         "init-db                    create or upgrade the shop database of Provider.txt",
+         runInitDb},
     };
     return commands;
 }

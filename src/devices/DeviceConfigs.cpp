@@ -47,4 +47,12 @@ WeightServiceConfig DeviceConfigs::weightService(const MachineSettings& settings
     return c;
 }
 
+ScaleExportConfig DeviceConfigs::scaleExport(const MachineSettings& settings) {
+    ScaleExportConfig c;
+    c.takin = settings.scaleTakinEnabled();
+    c.mizan = settings.scaleMizanEnabled();
+    c.sadr = settings.scaleSadrEnabled();
+    return c;
+}
+
 }  // namespace sandogh

@@ -6,6 +6,7 @@
 #include "DrawerConfig.h"
 #include "GeneralPortsConfig.h"
 #include "PecConfig.h"
+#include "ScaleExportConfig.h"
 #include "WeightServiceConfig.h"
 #include "settings/MachineSettings.h"
 
@@ -22,6 +23,7 @@ public:
     static DrawerConfig drawer(const MachineSettings& settings, const QString& programFolder);
     static PecConfig pec(const MachineSettings& settings);
     static WeightServiceConfig weightService(const MachineSettings& settings);
+    static ScaleExportConfig scaleExport(const MachineSettings& settings);
 };
 
 }  // namespace sandogh

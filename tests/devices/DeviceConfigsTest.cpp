@@ -47,6 +47,18 @@ TEST_F(DeviceConfigsFromSettings, EmptySettingsGiveTheDefaults) {
               QStringLiteral("/opt/shop/Program/Tamvex.exe"));
     EXPECT_EQ(DeviceConfigs::pec(settings).commPort, 0);
     EXPECT_TRUE(DeviceConfigs::weightService(settings).host.isEmpty());
+    const auto scales = DeviceConfigs::scaleExport(settings);
+    EXPECT_FALSE(scales.takin || scales.mizan || scales.sadr);
+}
+
+TEST_F(DeviceConfigsFromSettings, ScaleSwitchesAreFlags) {
+    set("Scale", "IsActiveTakin", "1");
+    set("Scale", "IsActiveMizan", "0");
+    set("Scale", "IsActiveSadr", "2");
+    const auto scales = DeviceConfigs::scaleExport(settings);
+    EXPECT_TRUE(scales.takin);
+    EXPECT_FALSE(scales.mizan);
+    EXPECT_TRUE(scales.sadr);
 }
 
 TEST_F(DeviceConfigsFromSettings, PortNumbersNeedTheMasterSwitch) {

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace sandogh {
+
+class Database;
+
+// The shop's greeting on the two-line customer display: the first row of the
+// table Display, read once when the main window loads.
+class DisplayGreeting {
+public:
+    // Without a row (or when the database cannot be read) the greeting is this.
+    static constexpr const char* kDefault = "Welcome";
+
+    // The connection message is shown by the database when it cannot be reached.
+    static QString read(Database& database);
+};
+
+}  // namespace sandogh

@@ -42,6 +42,18 @@ public:
     // shown once and the session is invalid.
     Session session(const QString& moduleName = {}, const QString& routineName = {});
 
+    // The routines every data routine of the program starts and ends with, under their
+    // old names: OpenConnection is session(); CloseConnection is ending the session
+    // (Session::CloseConnection() or leaving its scope). OpenSecondConnection gives a
+    // session on a connection of its own while the routine holds another, for the
+    // screens that keep a second result open.
+    Session OpenConnection(const QString& moduleName = {}, const QString& routineName = {}) {
+        return session(moduleName, routineName);
+    }
+    Session OpenSecondConnection(const QString& moduleName = {}, const QString& routineName = {}) {
+        return session(moduleName, routineName);
+    }
+
     Backend backend() const;
     const Dialect& dialect() const;
     const ConnectionSettings& settings() const;

@@ -68,10 +68,11 @@ std::shared_ptr<QSqlQuery> Session::State::statement(const QString& sql, bool& p
 }
 
 bool Session::State::forwardOnly() const {
-    // PostgreSQL streams a forward-only result row by row, and the next statement on the
-    // connection discards the rest of it; reading the whole result lets a routine run a
-    // look-up while it walks a list, as the screens do.
-    return pool->backend() != Backend::PostgreSQL;
+    // PostgreSQL streams a forward-only result row by row and the next statement on the
+    // connection discards the rest of it; SQL Server refuses the next statement while a
+    // forward-only result is pending. Reading the whole result (a static cursor) lets a
+    // routine run a look-up while it walks a list, as the screens do.
+    return pool->backend() == Backend::SQLite;
 }
 
 void Session::State::forgetStatement(const QString& sql) {

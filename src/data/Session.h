@@ -69,6 +69,8 @@ public:
 
     // Hands the connection back before the session ends.
     void release();
+    // The same under the old name of the routine that ends every data routine.
+    void CloseConnection() { release(); }
 
     // Internal state shared with the queries and transactions of this session; its
     // address does not change when the session is moved.

@@ -46,6 +46,33 @@ TEST_P(PoolTest, NestedRoutinesGetTheirOwnConnections) {
     EXPECT_EQ(db().physicalConnects(), 2);
 }
 
+TEST_P(PoolTest, ASecondConnectionKeepsItsOwnResultOpen) {
+    {
+        Session s = db().OpenConnection();
+        ASSERT_TRUE(test::createTables(s, {test::probeTable()}));
+        for (int code = 1; code <= 3; ++code) {
+            ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (Code) VALUES (:c)"),
+                               {{QStringLiteral("c"), code}}));
+        }
+        s.CloseConnection();
+        EXPECT_FALSE(s.isValid());
+    }
+    Session first = db().OpenConnection();
+    SqlQuery list(first, QStringLiteral("SELECT Code FROM Goods ORDER BY Code"));
+    ASSERT_TRUE(list.exec());
+    Session second = db().OpenSecondConnection();
+    EXPECT_NE(first.connection().connectionName(), second.connection().connectionName());
+    qint64 sum = 0;
+    while (list.next()) {
+        ASSERT_TRUE(second.exec(
+            QStringLiteral("UPDATE Goods SET Big = :b WHERE Code = :c"),
+            {{QStringLiteral("b"), list.int64(0) * 10}, {QStringLiteral("c"), list.int64(0)}}));
+        sum += list.int64(0);
+    }
+    EXPECT_EQ(sum, 6);
+    EXPECT_EQ(second.scalarInt64(QStringLiteral("SELECT SUM(Big) FROM Goods")), 60);
+}
+
 TEST_P(PoolTest, EachThreadUsesItsOwnConnectionsAndClosesThemAtItsEnd) {
     {
         Session s = db().session();

@@ -1,0 +1,89 @@
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include "TypeText.h"
+#include "ui/widgets/JalaliDateEdit.h"
+
+namespace sandogh {
+namespace {
+
+TEST(JalaliDateEdit, EmptyBoxShowsTheMaskAndNoDate) {
+    JalaliDateEdit edit;
+    EXPECT_EQ(edit.displayText(), QStringLiteral("____/__/__"));
+    EXPECT_TRUE(edit.isBlank());
+    EXPECT_TRUE(edit.isAcceptable());
+    EXPECT_EQ(edit.dateText(), QString());
+    EXPECT_FALSE(edit.property("invalid").toBool());
+}
+
+struct DateCase {
+    const char* typed;  // UTF-8, typed key by key; "/" skips to the next part of the mask
+    const char* date;   // canonical, or empty when not a real day
+};
+
+class JalaliDateEditTyping : public ::testing::TestWithParam<DateCase> {};
+
+TEST_P(JalaliDateEditTyping, GivesTheCanonicalDateOrNothing) {
+    const DateCase& c = GetParam();
+    JalaliDateEdit edit;
+    test::typeText(&edit, QString::fromUtf8(c.typed));
+    const QString expected = QString::fromUtf8(c.date);
+    EXPECT_EQ(edit.dateText(), expected) << edit.displayText().toStdString();
+    EXPECT_EQ(edit.isAcceptable(), !expected.isEmpty());
+    EXPECT_EQ(edit.property("invalid").toBool(), expected.isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Dates, JalaliDateEditTyping,
+                         ::testing::Values(DateCase{"14040105", "1404/01/05"},
+                                           DateCase{"۱۴۰۴۰۱۰۵", "1404/01/05"},  // Persian digits
+                                           DateCase{"14031230", "1403/12/30"},  // leap year
+                                           DateCase{"14041230", ""},            // 1404 is not leap
+                                           DateCase{"14041301", ""},            // month 13
+                                           DateCase{"14040732", ""},            // day 32
+                                           DateCase{"14040631", "1404/06/31"},
+                                           DateCase{"14040731", ""},  // autumn months have 30 days
+                                           DateCase{"14040100", ""},  // day 0
+                                           DateCase{"1404", ""}));    // month and day missing
+
+TEST(JalaliDateEdit, ShowsTheCanonicalDateWhenEditingEnds) {
+    JalaliDateEdit edit;
+    QTest::keyClicks(&edit, QStringLiteral("1404"));
+    edit.setCursorPosition(5);
+    QTest::keyClicks(&edit, QStringLiteral("1"));
+    edit.setCursorPosition(8);
+    QTest::keyClicks(&edit, QStringLiteral("5"));
+    EXPECT_EQ(edit.dateText(), QStringLiteral("1404/01/05"));
+    QTest::keyClick(&edit, Qt::Key_Return);
+    EXPECT_EQ(edit.displayText(), QStringLiteral("1404/01/05"));
+}
+
+TEST(JalaliDateEdit, SetDateTextTakesTypedFormsAndRefusesOthers) {
+    JalaliDateEdit edit;
+    EXPECT_TRUE(edit.setDateText(QStringLiteral("1404/1/5")));
+    EXPECT_EQ(edit.dateText(), QStringLiteral("1404/01/05"));
+    EXPECT_EQ(edit.displayText(), QStringLiteral("1404/01/05"));
+    EXPECT_TRUE(edit.setDateText(QStringLiteral("99/12/30")));  // a two-digit year is 13xx
+    EXPECT_EQ(edit.dateText(), QStringLiteral("1399/12/30"));
+    EXPECT_FALSE(edit.setDateText(QStringLiteral("1404/12/30")));
+    EXPECT_TRUE(edit.isBlank());
+    EXPECT_TRUE(edit.setDateText(QString()));
+    EXPECT_EQ(edit.dateText(), QString());
+}
+
+TEST(JalaliDateEdit, TellsWhenTheDateChanges) {
+    JalaliDateEdit edit;
+    QSignalSpy changed(&edit, &JalaliDateEdit::dateChanged);
+    QTest::keyClicks(&edit, QStringLiteral("1404010"));
+    EXPECT_EQ(changed.count(), 0);  // no real day yet
+    QTest::keyClicks(&edit, QStringLiteral("5"));
+    ASSERT_EQ(changed.count(), 1);
+    EXPECT_EQ(changed.at(0).at(0).toString(), QStringLiteral("1404/01/05"));
+    QTest::keyClick(&edit, Qt::Key_Backspace);
+    ASSERT_EQ(changed.count(), 2);
+    EXPECT_EQ(changed.at(1).at(0).toString(), QString());
+}
+
+}  // namespace
+}  // namespace sandogh

@@ -1,0 +1,340 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include <QCheckBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSettings>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include "RecordingMessageService.h"
+#include "TypeText.h"
+#include "settings/QSettingsStore.h"
+#include "settings/SettingsCatalogue.h"
+#include "ui/settings/ProgramSettingField.h"
+#include "ui/settings/frmSetUp.h"
+#include "ui/widgets/AmountEdit.h"
+
+namespace sandogh {
+namespace {
+
+class frmSetUpTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(folder.isValid());
+        openStores();
+    }
+
+    QString retailIni() const { return folder.filePath(QStringLiteral("Retail.ini")); }
+    QString transferIni() const { return folder.filePath(QStringLiteral("Factortransfer.ini")); }
+
+    void openStores() {
+        retail = std::make_unique<QSettingsStore>(QStringLiteral("Retail"), retailIni());
+        transfer =
+            std::make_unique<QSettingsStore>(QStringLiteral("Factortransfer"), transferIni());
+    }
+
+    std::unique_ptr<frmSetUp> openScreen() {
+        auto screen = std::make_unique<frmSetUp>(
+            QList<SettingsStore*>{retail.get(), transfer.get()}, folder.path(), messages);
+        screen->show();
+        return screen;
+    }
+
+    template <typename T>
+    static T* control(const frmSetUp& screen, const QString& name) {
+        T* found = screen.findChild<T*>(name);
+        EXPECT_NE(found, nullptr) << name.toStdString();
+        return found;
+    }
+
+    // The keys the INI file holds, as "Section/Key".
+    QStringList keptKeys(const QString& path) const {
+        return QSettings(path, QSettings::IniFormat).allKeys();
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<QSettingsStore> retail;
+    std::unique_ptr<QSettingsStore> transfer;
+    test::RecordingMessageService messages;
+};
+
+TEST_F(frmSetUpTest, OnePageForEachPageOfTheCatalogue) {
+    const auto screen = openScreen();
+    const auto* pages = control<QListWidget>(*screen, QStringLiteral("lstPages"));
+    const auto* stack = control<QStackedWidget>(*screen, QStringLiteral("stkPages"));
+    ASSERT_NE(pages, nullptr);
+    ASSERT_NE(stack, nullptr);
+    EXPECT_EQ(pages->count(), 12);
+    EXPECT_EQ(stack->count(), pages->count());
+    EXPECT_EQ(pages->item(0)->text(), SettingsCatalogue::groupCaption(SettingGroup::Session));
+    EXPECT_EQ(screen->layoutDirection(), Qt::RightToLeft);
+    // The page list stands on the right of the pages.
+    EXPECT_GT(pages->mapTo(screen.get(), QPoint()).x(), stack->mapTo(screen.get(), QPoint()).x());
+}
+
+TEST_F(frmSetUpTest, ChoosingAPageShowsIt) {
+    const auto screen = openScreen();
+    auto* pages = control<QListWidget>(*screen, QStringLiteral("lstPages"));
+    auto* stack = control<QStackedWidget>(*screen, QStringLiteral("stkPages"));
+    auto* display = control<QCheckBox>(*screen, QStringLiteral("IsActivePoolDisplay/Enable"));
+    ASSERT_TRUE(pages && stack && display);
+    EXPECT_FALSE(display->isVisible());
+    pages->setCurrentRow(2);
+    EXPECT_EQ(stack->currentIndex(), 2);
+    EXPECT_TRUE(display->isVisible());
+}
+
+TEST_F(frmSetUpTest, EverySettingHasItsNamedEditor) {
+    const auto screen = openScreen();
+    for (const SettingDescriptor& row : SettingsCatalogue::all()) {
+        const QString name = row.section() + u'/' + row.name();
+        auto* editor = screen->findChild<QWidget*>(name);
+        ASSERT_NE(editor, nullptr) << name.toStdString();
+        switch (row.key.form) {
+            case SettingForm::Flag:
+                EXPECT_NE(qobject_cast<QCheckBox*>(editor), nullptr) << name.toStdString();
+                break;
+            case SettingForm::Number:
+                EXPECT_TRUE(qobject_cast<AmountEdit*>(editor) || qobject_cast<QSpinBox*>(editor))
+                    << name.toStdString();
+                break;
+            case SettingForm::Text:
+                // "True"/"False" switches are ticked rather than typed.
+                EXPECT_TRUE(qobject_cast<QLineEdit*>(editor) || qobject_cast<QCheckBox*>(editor))
+                    << name.toStdString();
+                break;
+        }
+    }
+}
+
+struct LoadCase {
+    const char* section;
+    const char* key;
+    const char* kept;  // nullptr: nothing kept
+    const char* shown;
+};
+
+TEST_F(frmSetUpTest, LoadingShowsTheKeptValueOrTheDefault) {
+    const LoadCase cases[] = {
+        {"IsActiveCashDraw", "Enable", "2", "1"},
+        {"IsActivePoolDisplay", "Enable", "0", "0"},
+        {"Scale", "IsActiveMizan", "abc", "0"},
+        {"SaleOptions", "QuickEntry", nullptr, "1"},  // default on
+        {"PrinterPort", "USB", nullptr, "1"},         // "True" by default
+        {"PrinterPort", "USB", "false", "0"},
+        {"PrinterPort", "USB", "TRUE", "1"},
+        {"PortNo", "Saman", "4", "4"},
+        {"LimitListQty", "Qty", nullptr, "100"},
+        {"SaleOptions", "CustomerAboveAmount", "2500000", "2,500,000"},
+        {"IsActivePoolDisplay", "Line", "3", "3"},
+        {"PortNo", "No", "2", "2"},
+        {"ISActivePoolDisplay", "Port", nullptr, "1"},
+        {"Devices", "MSComm1", "/dev/ttyUSB0", "/dev/ttyUSB0"},
+        {"Programs", "Drawer", nullptr, "Program/Tamvex.exe"},
+    };
+    for (const LoadCase& c : cases) {
+        const QString section = QString::fromLatin1(c.section);
+        const QString key = QString::fromLatin1(c.key);
+        if (c.kept) {
+            ASSERT_TRUE(retail->write(section, key, QString::fromLatin1(c.kept)));
+        } else {
+            retail->remove(section, key);
+        }
+        const auto screen = openScreen();
+        QWidget* editor = screen->findChild<QWidget*>(section + u'/' + key);
+        ASSERT_NE(editor, nullptr) << c.section << "/" << c.key;
+        QString shown;
+        if (auto* check = qobject_cast<QCheckBox*>(editor)) {
+            shown = check->isChecked() ? QStringLiteral("1") : QStringLiteral("0");
+        } else if (auto* spin = qobject_cast<QSpinBox*>(editor)) {
+            shown = QString::number(spin->value());
+        } else if (auto* edit = qobject_cast<QLineEdit*>(editor)) {
+            shown = edit->text();
+        }
+        EXPECT_EQ(shown, QString::fromLatin1(c.shown)) << c.section << "/" << c.key;
+        EXPECT_FALSE(screen->hasChanges());
+    }
+}
+
+TEST_F(frmSetUpTest, SavedValuesReadBackFromTheFile) {
+    auto screen = openScreen();
+    auto* display = control<QCheckBox>(*screen, QStringLiteral("IsActivePoolDisplay/Enable"));
+    auto* device = control<QLineEdit>(*screen, QStringLiteral("Devices/MSComm1"));
+    auto* port = control<QSpinBox>(*screen, QStringLiteral("PortNo/No"));
+    auto* above = control<AmountEdit>(*screen, QStringLiteral("SaleOptions/CustomerAboveAmount"));
+    auto* save = control<QPushButton>(*screen, QStringLiteral("cmdSave"));
+    ASSERT_TRUE(display && device && port && above && save);
+
+    QTest::keyClick(display, Qt::Key_Space);
+    QTest::keyClicks(device, QStringLiteral("/dev/pts/7"));
+    port->setValue(3);
+    test::typeText(above, QStringLiteral("۵۰۰۰۰۰"));
+    EXPECT_TRUE(screen->hasChanges());
+    QTest::mouseClick(save, Qt::LeftButton);
+
+    ASSERT_EQ(messages.shown.size(), 1);
+    EXPECT_EQ(messages.shown[0].text, frmSetUp::savedMessage());
+    EXPECT_EQ(messages.shown[0].style, MessageStyle::Information);
+    EXPECT_FALSE(screen->hasChanges());
+
+    screen.reset();
+    retail.reset();
+    const QSettingsStore reopened(QStringLiteral("Retail"), retailIni());
+    EXPECT_EQ(reopened.read(QStringLiteral("IsActivePoolDisplay"), QStringLiteral("Enable")),
+              QStringLiteral("1"));
+    EXPECT_EQ(reopened.read(QStringLiteral("Devices"), QStringLiteral("MSComm1")),
+              QStringLiteral("/dev/pts/7"));
+    EXPECT_EQ(reopened.read(QStringLiteral("PortNo"), QStringLiteral("No")), QStringLiteral("3"));
+    EXPECT_EQ(reopened.read(QStringLiteral("SaleOptions"), QStringLiteral("CustomerAboveAmount")),
+              QStringLiteral("500000"));
+    // Only what was changed is written.
+    EXPECT_EQ(keptKeys(retailIni()).size(), 4) << keptKeys(retailIni()).join(u' ').toStdString();
+    EXPECT_FALSE(QFile::exists(transferIni()));
+}
+
+TEST_F(frmSetUpTest, ExitClosesWithoutWriting) {
+    const auto screen = openScreen();
+    auto* display = control<QCheckBox>(*screen, QStringLiteral("IsActivePoolDisplay/Enable"));
+    auto* device = control<QLineEdit>(*screen, QStringLiteral("Devices/MSComm1"));
+    auto* exit = control<QPushButton>(*screen, QStringLiteral("cmdExit"));
+    ASSERT_TRUE(display && device && exit);
+    QTest::keyClick(display, Qt::Key_Space);
+    QTest::keyClicks(device, QStringLiteral("/dev/pts/7"));
+
+    QTest::mouseClick(exit, Qt::LeftButton);
+
+    EXPECT_FALSE(screen->isVisible());
+    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_FALSE(QFile::exists(retailIni()));
+    EXPECT_TRUE(retail->read(QStringLiteral("Devices"), QStringLiteral("MSComm1")).isEmpty());
+}
+
+TEST_F(frmSetUpTest, AFlagKeptAsTwoIsNotRewrittenUnlessChanged) {
+    ASSERT_TRUE(retail->write(QStringLiteral("IsActiveCashDraw"), QStringLiteral("Enable"),
+                              QStringLiteral("2")));
+    ASSERT_TRUE(retail->write(QStringLiteral("Scale"), QStringLiteral("IsActiveSadr"),
+                              QStringLiteral("2")));
+    ASSERT_TRUE(retail->write(QStringLiteral("PrinterPort"), QStringLiteral("USB"),
+                              QStringLiteral("true")));
+    auto screen = openScreen();
+    auto* drawer = control<QCheckBox>(*screen, QStringLiteral("IsActiveCashDraw/Enable"));
+    auto* sadr = control<QCheckBox>(*screen, QStringLiteral("Scale/IsActiveSadr"));
+    auto* mizan = control<QCheckBox>(*screen, QStringLiteral("Scale/IsActiveMizan"));
+    ASSERT_TRUE(drawer && sadr && mizan);
+    EXPECT_TRUE(drawer->isChecked());
+    EXPECT_TRUE(sadr->isChecked());
+
+    QTest::keyClick(mizan, Qt::Key_Space);  // another change, so that something is saved
+    QTest::keyClick(sadr, Qt::Key_Space);   // off
+    ASSERT_TRUE(screen->save());
+
+    screen.reset();
+    const QSettingsStore reopened(QStringLiteral("Retail"), retailIni());
+    EXPECT_EQ(reopened.read(QStringLiteral("IsActiveCashDraw"), QStringLiteral("Enable")),
+              QStringLiteral("2"));
+    EXPECT_EQ(reopened.read(QStringLiteral("Scale"), QStringLiteral("IsActiveSadr")),
+              QStringLiteral("0"));
+    EXPECT_EQ(reopened.read(QStringLiteral("Scale"), QStringLiteral("IsActiveMizan")),
+              QStringLiteral("1"));
+    EXPECT_EQ(reopened.read(QStringLiteral("PrinterPort"), QStringLiteral("USB")),
+              QStringLiteral("true"));
+}
+
+TEST_F(frmSetUpTest, DrawerOnPrinterIsWrittenAsAWord) {
+    auto screen = openScreen();
+    auto* usb = control<QCheckBox>(*screen, QStringLiteral("PrinterPort/USB"));
+    ASSERT_NE(usb, nullptr);
+    ASSERT_TRUE(usb->isChecked());
+    QTest::keyClick(usb, Qt::Key_Space);
+    ASSERT_TRUE(screen->save());
+    EXPECT_EQ(retail->read(QStringLiteral("PrinterPort"), QStringLiteral("USB")),
+              QStringLiteral("False"));
+    QTest::keyClick(usb, Qt::Key_Space);
+    ASSERT_TRUE(screen->save());
+    EXPECT_EQ(retail->read(QStringLiteral("PrinterPort"), QStringLiteral("USB")),
+              QStringLiteral("True"));
+}
+
+TEST_F(frmSetUpTest, ChangedBackIsNoChange) {
+    auto screen = openScreen();
+    auto* mizan = control<QCheckBox>(*screen, QStringLiteral("Scale/IsActiveMizan"));
+    auto* path = control<QLineEdit>(*screen, QStringLiteral("Programs/Companion"));
+    ASSERT_TRUE(mizan && path);
+    QTest::keyClick(mizan, Qt::Key_Space);
+    QTest::keyClick(mizan, Qt::Key_Space);
+    path->setText(path->text() + u'x');
+    path->setText(path->text().chopped(1));
+    EXPECT_FALSE(screen->hasChanges());
+    ASSERT_TRUE(screen->save());
+    EXPECT_FALSE(QFile::exists(retailIni()));
+}
+
+TEST_F(frmSetUpTest, TransferSettingGoesToItsOwnApplication) {
+    auto screen = openScreen();
+    auto* showPrice = control<AmountEdit>(*screen, QStringLiteral("FC/ShowPrice"));
+    ASSERT_NE(showPrice, nullptr);
+    EXPECT_EQ(showPrice->value(), 1);
+    showPrice->selectAll();
+    QTest::keyClicks(showPrice, QStringLiteral("2"));
+    ASSERT_TRUE(screen->save());
+    EXPECT_EQ(QSettingsStore(QStringLiteral("Factortransfer"), transferIni())
+                  .read(QStringLiteral("FC"), QStringLiteral("ShowPrice")),
+              QStringLiteral("2"));
+    EXPECT_TRUE(retail->read(QStringLiteral("FC"), QStringLiteral("ShowPrice")).isEmpty());
+}
+
+TEST_F(frmSetUpTest, SettingsOfAnApplicationWithoutAStoreAreLeftOff) {
+    frmSetUp screen({retail.get()}, folder.path(), messages);
+    EXPECT_EQ(screen.findChild<QWidget*>(QStringLiteral("FC/ShowPrice")), nullptr);
+    EXPECT_NE(screen.findChild<QWidget*>(QStringLiteral("Year/Year")), nullptr);
+}
+
+TEST_F(frmSetUpTest, PortPathBoxShowsTheMappedDeviceWhileEmpty) {
+    const auto screen = openScreen();
+    auto* port = control<QSpinBox>(*screen, QStringLiteral("PortNo/No2"));
+    auto* device = control<QLineEdit>(*screen, QStringLiteral("Devices/MSComm2"));
+    ASSERT_TRUE(port && device);
+    port->setValue(4);
+#ifdef Q_OS_WIN
+    EXPECT_EQ(device->placeholderText(), QStringLiteral("COM4"));
+#else
+    EXPECT_EQ(device->placeholderText(), QStringLiteral("/dev/ttyS3"));
+#endif
+    EXPECT_NE(screen->findChild<QToolButton*>(QStringLiteral("Programs/Drawer/browse")), nullptr);
+}
+
+TEST_F(frmSetUpTest, ARefusedWriteIsReported) {
+    // A folder where the INI file should be: nothing can be kept there.
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("Blocked.ini")));
+    QSettingsStore blocked(QStringLiteral("Retail"),
+                           folder.filePath(QStringLiteral("Blocked.ini")));
+    frmSetUp screen({&blocked}, folder.path(), messages);
+    auto* mizan = control<QCheckBox>(screen, QStringLiteral("Scale/IsActiveMizan"));
+    ASSERT_NE(mizan, nullptr);
+    QTest::keyClick(mizan, Qt::Key_Space);
+    EXPECT_FALSE(screen.save());
+    ASSERT_EQ(messages.shown.size(), 1);
+    EXPECT_EQ(messages.shown[0].style, MessageStyle::Critical);
+    EXPECT_TRUE(screen.hasChanges());
+}
+
+TEST_F(frmSetUpTest, ChosenProgramIsKeptRelativeToTheProgramFolder) {
+    const QString programFolder = folder.filePath(QStringLiteral("shop"));
+    EXPECT_EQ(ProgramSettingField::pathToKeep(programFolder + QStringLiteral("/Program/Acc.exe"),
+                                              programFolder),
+              QStringLiteral("Program/Acc.exe"));
+    const QString outside = folder.filePath(QStringLiteral("other/Acc.exe"));
+    EXPECT_EQ(ProgramSettingField::pathToKeep(outside, programFolder), outside);
+    EXPECT_EQ(ProgramSettingField::pathToKeep(outside, QString()), outside);
+}
+
+}  // namespace
+}  // namespace sandogh

@@ -154,15 +154,6 @@ INSTANTIATE_TEST_SUITE_P(Codes, PecRefusalOnPty,
                                            RefusalCase{"51", true}, RefusalCase{"99", true},
                                            RefusalCase{"05", false}, RefusalCase{"77", false}));
 
-TEST_F(PecTerminalOnPty, WrongPinShowsItsText) {
-    ASSERT_TRUE(pty.ok());
-    request(QStringLiteral("1,250,000"), QStringLiteral("57"));
-    answer("RS00255");
-    ASSERT_EQ(messages.count(), 1);
-    EXPECT_EQ(messages.messages()[0].text.toUtf8().toHex(),
-              QString::fromUtf16(u"رمز کارت اشتباه است").toUtf8().toHex());
-}
-
 TEST_F(PecTerminalOnPty, AnswerWithoutResponseFieldIsIgnored) {
     ASSERT_TRUE(pty.ok());
     request(QStringLiteral("1,250,000"), QStringLiteral("57"));

@@ -176,26 +176,4 @@ TEST(SerialLine, InvalidSettingsKeepTheOldOnes) {
     EXPECT_EQ(line.settings(), QStringLiteral("19200,N,8,1"));
 }
 
-TEST(SerialLine, SettingsChangeOnAnOpenPort) {
-    PtyPair pty;
-    ASSERT_TRUE(pty.ok());
-    SerialLine line(onPty(pty));
-    line.setRTSEnable(true);
-    ASSERT_TRUE(line.open());
-    EXPECT_TRUE(line.setSettings(QStringLiteral("2400,n,8,1")));
-    EXPECT_TRUE(line.isOpen());
-    ASSERT_TRUE(line.write("ok"));
-    EXPECT_EQ(pty.readMaster(2), QByteArray("ok"));
-}
-
-TEST(SerialLine, DrainOnAClosedOrIdlePortReturns) {
-    PtyPair pty;
-    ASSERT_TRUE(pty.ok());
-    SerialLine line(onPty(pty));
-    line.drain(10000);
-    ASSERT_TRUE(line.open());
-    line.drain(10000);
-    EXPECT_EQ(line.bytesToWrite(), 0);
-}
-
 }  // namespace

@@ -27,6 +27,11 @@ int CustomerDisplay::singleLinePauseMs() const {
     return m_config.delay > 0 ? m_config.delay * kMsPerDelayUnit : 0;
 }
 
+void CustomerDisplay::saleScreenLoaded() {
+    if (m_config.enabled && m_config.kind == kPriceDisplayKind)
+        SetMSCommCustomerDisplay();
+}
+
 void CustomerDisplay::SetMSCommCustomerDisplay() {
     if (!m_port.setCommPort(m_config.port))
         return;

@@ -30,7 +30,10 @@ public:
     const DisplayConfig& config() const { return m_config; }
     void setGreeting(const QString& greeting) { m_config.greeting = greeting; }
 
-    // The sale screen's load, display on and kind 3: configures and opens the port.
+    // The sale screen's load: the price display's port is opened when the
+    // display is on and of kind 3.
+    void saleScreenLoaded();
+    // Configures and opens the price display's port.
     void SetMSCommCustomerDisplay();
     // Shows an amount text as the sale screen shows it (with ",").
     void ShowOnCustomerDisplay(const QString& amountText);

@@ -109,6 +109,25 @@ TEST_F(DisplayOnPty, PriceDisplaySendsEscQAAndDigits) {
     EXPECT_EQ(general.readAllFor(50), QByteArray());
 }
 
+struct LoadCase {
+    int kind;
+    bool enabled;
+    bool opens;
+};
+
+class SaleScreenLoad : public DisplayOnPty, public ::testing::WithParamInterface<LoadCase> {};
+
+TEST_P(SaleScreenLoad, OpensOnlyAnActivePriceDisplay) {
+    GeneralPorts ports(portsConfig(true));
+    CustomerDisplay display(displayConfig(GetParam().kind, GetParam().enabled), ports);
+    display.saleScreenLoaded();
+    EXPECT_EQ(display.MSCommCustomerDisplay().isOpen(), GetParam().opens);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, SaleScreenLoad,
+                         ::testing::Values(LoadCase{3, true, true}, LoadCase{3, false, false},
+                                           LoadCase{1, true, false}, LoadCase{2, true, false}));
+
 TEST_F(DisplayOnPty, PriceDisplayPortIsSetUp) {
     GeneralPorts ports(portsConfig(true));
     CustomerDisplay display(displayConfig(3), ports);

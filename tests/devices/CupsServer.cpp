@@ -85,6 +85,11 @@ bool CupsServer::start() {
         m_reason = QStringLiteral("cupsd is not installed");
         return false;
     }
+    // The test queue passes raw bytes through this filter (package cups-core-drivers).
+    if (!QFile::exists(QStringLiteral("/usr/lib/cups/filter/gziptoany"))) {
+        m_reason = QStringLiteral("the CUPS filter gziptoany is not installed");
+        return false;
+    }
     if (!m_dir.isValid()) {
         m_reason = QStringLiteral("no temporary folder");
         return false;

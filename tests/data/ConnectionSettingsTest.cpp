@@ -301,19 +301,5 @@ TEST(ConnectionSettingsPairs, QuotedValuesKeepSemicolonsAndQuotes) {
     EXPECT_TRUE(pairs[3].second.isEmpty());
 }
 
-TEST(ConnectionSettingsDrivers, EachBackendHasItsQtDriver) {
-    const struct {
-        Backend backend;
-        const char* driver;
-    } cases[] = {{Backend::SQLite, "QSQLITE"},
-                 {Backend::PostgreSQL, "QPSQL"},
-                 {Backend::SqlServer, "QODBC"}};
-    for (const auto& c : cases) {
-        ConnectionSettings s;
-        s.backend = c.backend;
-        EXPECT_EQ(s.qtDriver(), QLatin1String(c.driver));
-    }
-}
-
 }  // namespace
 }  // namespace sandogh

@@ -103,11 +103,6 @@ INSTANTIATE_TEST_SUITE_P(
                       TimeCase{QDateTime(QDate(2024, 2, 29), QTime(12, 1, 59)), "12:01:29"},
                       TimeCase{QDateTime(QDate(2025, 1, 1), QTime(1, 2, 3)), "01:02:01"}));
 
-TEST(ErrorLogPattern, KeepsTheHistoricPattern) {
-    EXPECT_STREQ(ErrorLog::kErrTimePattern, "HH:MM:DD");
-    EXPECT_EQ(qstrlen(ErrorLog::kRecordEnd), 48u);
-}
-
 TEST_F(ErrorLogTest, AppendCreatesTheFileAndKeepsWhatIsThere) {
     ASSERT_FALSE(QFile::exists(log.filePath()));
     EXPECT_TRUE(log.AppendErrorLog(QStringLiteral("first")));

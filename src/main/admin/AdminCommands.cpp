@@ -7,6 +7,7 @@ int runDate(AdminCall& call);
 int runWords(AdminCall& call);
 int runDevice(AdminCall& call);
 int runInitDb(AdminCall& call);
+int runDemo(AdminCall& call);
 
 const QList<AdminCommand>& adminCommands() {
     static const QList<AdminCommand> commands = {
@@ -17,6 +18,8 @@ const QList<AdminCommand>& adminCommands() {
         {"init-db",
          "init-db                    create or upgrade the shop database of Provider.txt",
          runInitDb},
+        {"demo", "demo                       a demo shop (Provider.txt, database, goods, users)",
+         runDemo},
     };
     return commands;
 }

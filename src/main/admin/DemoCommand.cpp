@@ -1,0 +1,99 @@
+#include <QCoreApplication>
+
+#include "AdminArgs.h"
+#include "AdminCommand.h"
+#include "app/DemoShop.h"
+#include "app/JalaliDay.h"
+#include "app/ShopDatabaseSetup.h"
+#include "data/Clock.h"
+#include "data/Database.h"
+#include "data/ErrorLog.h"
+#include "data/MessageService.h"
+#include "settings/MachineSettings.h"
+#include "settings/QSettingsStore.h"
+
+namespace sandogh {
+
+namespace {
+
+// Messages of the data layer, printed as lines of the error stream.
+class DemoMessages final : public MessageService {
+public:
+    explicit DemoMessages(QTextStream& err) : m_err(err) {}
+    bool show(const QString& text, MessageStyle, const QString& title) override {
+        m_err << title << ' ' << text.trimmed() << '\n';
+        m_err.flush();
+        return true;
+    }
+    bool prompt(const QString&, QString&, bool) override { return false; }
+
+private:
+    QTextStream& m_err;
+};
+
+QString levelName(PermissionLevel level) {
+    return level == PermissionLevel::Administrator ? QStringLiteral("administrator")
+                                                   : QStringLiteral("cashier");
+}
+
+}  // namespace
+
+// sandogh-admin demo [--dir PROGRAM_DIR]: a demo shop in the program folder. Writes a
+// connection file for a SQLite shop when the folder has none, creates or upgrades the
+// database as init-db does, and adds the demo shop's rows that are missing. Running it
+// again adds nothing; the demo passwords are printed only when their users are made.
+int runDemo(AdminCall& call) {
+    const AdminArgs args(call.args, {}, {});
+    if (!args.ok() || !args.positional().isEmpty()) {
+        call.err << "sandogh-admin demo: "
+                 << (args.ok() ? QStringLiteral("takes no arguments") : args.error()) << '\n';
+        return ExitUsage;
+    }
+
+    QString error;
+    switch (DemoShop::ensureProviderFile(call.programDir, &error)) {
+        case DemoShop::ProviderFile::Failed:
+            call.err << "sandogh-admin demo: cannot write Provider.txt in " << call.programDir
+                     << ": " << error << '\n';
+            return ExitFailed;
+        case DemoShop::ProviderFile::Written:
+            call.out << "wrote Provider.txt: a SQLite shop in Data/Shop.sqlite\n";
+            break;
+        case DemoShop::ProviderFile::Existed:
+            call.out << "using the Provider.txt of " << call.programDir << '\n';
+            break;
+    }
+
+    DemoMessages messages(call.err);
+    SystemClock clock;
+    ErrorLog log(call.programDir, &messages, clock, JalaliDay::dateText(clock.now().date()),
+                 QStringLiteral("sandogh-admin ") + QCoreApplication::applicationVersion());
+    QSettingsStore store;
+    ShopDatabaseSetup::Result setup = ShopDatabaseSetup::run(
+        call.programDir, MachineSettings(store).fiscalYearDatabase(), messages, log);
+    if (!setup.ok) {
+        call.err << "sandogh-admin demo: " << setup.error << '\n';
+        return ExitFailed;
+    }
+    call.out << (setup.created ? "created" : "opened") << " the database, schema version "
+             << setup.migration.versionAfter << '\n';
+
+    const DemoShop::Report report = DemoShop(*setup.database).seed();
+    if (!report.ok) {
+        call.err << "sandogh-admin demo: nothing was added: " << report.error << '\n';
+        return ExitFailed;
+    }
+    if (report.totalAdded() == 0) {
+        call.out << "the demo shop is complete; nothing to add\n";
+    }
+    for (auto it = report.added.cbegin(); it != report.added.cend(); ++it) {
+        call.out << "added " << it.value() << " rows to " << it.key() << '\n';
+    }
+    for (const DemoShop::DemoUser& user : report.createdUsers) {
+        call.out << "user " << user.userName << " (" << levelName(user.level) << "), password "
+                 << user.password << '\n';
+    }
+    return ExitOk;
+}
+
+}  // namespace sandogh

@@ -1,0 +1,157 @@
+// The demo shop: everything a first look at the program needs, added once; a second
+// seeding adds nothing, and the demo users can log in.
+
+#include <gtest/gtest.h>
+
+#include <QRegularExpression>
+#include <QSet>
+
+#include "ShopBackendTest.h"
+#include "app/DemoGoods.h"
+#include "app/DemoShop.h"
+#include "app/LoginService.h"
+
+namespace sandogh {
+namespace {
+
+const QStringList kTables{
+    QStringLiteral("Company"),
+    QStringLiteral("Users"),
+    QStringLiteral("Stations"),
+    QStringLiteral("tblWarehouse"),
+    QStringLiteral("UserWarehouse"),
+    QStringLiteral("BarcodeWarehouse"),
+    QStringLiteral("tblShift"),
+    QStringLiteral("tblPaymentType"),
+    QStringLiteral("DiscountType"),
+    QStringLiteral("Overhead"),
+    QStringLiteral("ReturnCause"),
+    QStringLiteral("Types"),
+    QStringLiteral("Goods"),
+    QStringLiteral("Stock"),
+    QStringLiteral("tblCustomerGroup"),
+    QStringLiteral("Display"),
+    QStringLiteral("Sentences"),
+};
+
+class DemoShopTest : public test::ShopBackendTest {
+protected:
+    QMap<QString, qint64> rowCounts() {
+        QMap<QString, qint64> counts;
+        for (const QString& table : kTables) {
+            counts.insert(table, count(QStringLiteral("SELECT COUNT(*) FROM ") + table));
+        }
+        return counts;
+    }
+};
+
+TEST_P(DemoShopTest, SeedingTwiceAddsEverythingOnce) {
+    const DemoShop::Report first = DemoShop(db()).seed();
+    ASSERT_TRUE(first.ok) << first.error.toStdString();
+    EXPECT_EQ(first.createdUsers.size(), DemoShop::users().size());
+    const QMap<QString, qint64> after = rowCounts();
+    for (const QString& table : kTables) {
+        EXPECT_GT(after.value(table), 0) << table.toStdString();
+        EXPECT_EQ(first.added.value(table), after.value(table)) << table.toStdString();
+    }
+
+    const DemoShop::Report second = DemoShop(db()).seed();
+    ASSERT_TRUE(second.ok) << second.error.toStdString();
+    EXPECT_EQ(second.totalAdded(), 0);
+    EXPECT_TRUE(second.createdUsers.isEmpty());
+    EXPECT_EQ(rowCounts(), after);
+}
+
+TEST_P(DemoShopTest, TheShopIsReadyForTheCashDesk) {
+    ASSERT_TRUE(DemoShop(db()).seed().ok);
+    const qint64 goods = count(QStringLiteral("SELECT COUNT(*) FROM Goods"));
+    EXPECT_GE(goods, 200);
+    EXPECT_EQ(goods, static_cast<qint64>(DemoGoods::articles().size()));
+    // Every article has its stock row and a unit of the unit list.
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Goods G INNER JOIN Stock S "
+                                   "ON S.Barcode = G.EAN_Code")),
+              goods);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Goods G INNER JOIN Types T "
+                                   "ON T.Counter = G.Unit WHERE T.TypeNo = 61")),
+              goods);
+    // Some are sold by weight, and those are marked so twice over.
+    const qint64 weighed = count(QStringLiteral("SELECT COUNT(*) FROM Goods WHERE GType = 1"));
+    EXPECT_GT(weighed, 0);
+    EXPECT_LT(weighed, goods);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Goods WHERE GType = 1 AND Type = 1")),
+              weighed);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Goods WHERE TaxValue <> 0 AND "
+                                   "TaxValue <> 9")),
+              0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Goods WHERE Cost <= 0")), 0);
+
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM tblShift WHERE LastActiveShift = 1")), 1);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM DiscountType WHERE Id = 1")), 1);
+    EXPECT_GT(count(QStringLiteral("SELECT COUNT(*) FROM Types WHERE TypeNo = 10 AND "
+                                   "CstGrpCode IN (SELECT Code FROM tblCustomerGroup)")),
+              0);
+    EXPECT_GT(count(QStringLiteral("SELECT COUNT(*) FROM Types WHERE TypeNo = 11")), 0);
+    EXPECT_EQ(text(QStringLiteral("SELECT Company_Name FROM Company")), DemoShop::shopName());
+    EXPECT_EQ(text(QStringLiteral("SELECT Display FROM Display")),
+              QString::fromLatin1(DemoShop::kGreeting));
+
+    for (const DemoShop::DemoUser& user : DemoShop::users()) {
+        const LoginService::Result r = LoginService(db()).login(user.userName, user.password);
+        ASSERT_TRUE(r.accepted()) << user.userName.toStdString();
+        EXPECT_EQ(r.user.level, user.level);
+        EXPECT_FALSE(r.passwordRehashed);
+    }
+}
+
+TEST_P(DemoShopTest, NewParameterRowsTakeCountersAboveTheLargest) {
+    exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Name) VALUES (500, 1010, :name)"),
+         {{QStringLiteral(":name"), QStringLiteral("grade")}});
+    ASSERT_TRUE(DemoShop(db()).seed().ok);
+    EXPECT_EQ(count(QStringLiteral("SELECT MIN(Counter) FROM Types WHERE TypeNo <> 1010")), 501);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(DISTINCT Counter) FROM Types")),
+              count(QStringLiteral("SELECT COUNT(*) FROM Types")));
+}
+
+TEST_P(DemoShopTest, AUserOfTheSameNameIsLeftAsItIs) {
+    exec(QStringLiteral("INSERT INTO Users (Name, UserName, Password, PermissionLevel, Active) "
+                        "VALUES (:name, :user, :password, 1, 1)"),
+         {{QStringLiteral(":name"), QStringLiteral("x")},
+          {QStringLiteral(":user"), QStringLiteral(" Admin")},
+          {QStringLiteral(":password"), QStringLiteral("mine")}});
+    const DemoShop::Report report = DemoShop(db()).seed();
+    ASSERT_TRUE(report.ok);
+    ASSERT_EQ(report.createdUsers.size(), 1);
+    EXPECT_EQ(report.createdUsers.first().userName, QStringLiteral("cashier"));
+    EXPECT_EQ(text(QStringLiteral("SELECT Password FROM Users WHERE UserName = :u"),
+                   {{QStringLiteral(":u"), QStringLiteral(" Admin")}}),
+              QStringLiteral("mine"));
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(DemoShopTest);
+
+TEST(DemoGoodsTest, BarcodesAreUniqueEan13WithTheirCheckDigit) {
+    // Check digits of published EAN-13 codes.
+    EXPECT_EQ(DemoGoods::ean13CheckDigit(QStringLiteral("400638133393")), 1);
+    EXPECT_EQ(DemoGoods::ean13CheckDigit(QStringLiteral("590123412345")), 7);
+    EXPECT_EQ(DemoGoods::ean13CheckDigit(QStringLiteral("978020137962")), 4);
+
+    const QList<DemoGoods::Article> articles = DemoGoods::articles();
+    QSet<QString> barcodes;
+    QSet<QString> codes;
+    QSet<QString> names;
+    static const QRegularExpression thirteenDigits(QStringLiteral("^[0-9]{13}$"));
+    for (const DemoGoods::Article& a : articles) {
+        EXPECT_TRUE(thirteenDigits.match(a.barcode).hasMatch()) << a.barcode.toStdString();
+        EXPECT_EQ(a.barcode.right(1).toInt(), DemoGoods::ean13CheckDigit(a.barcode.left(12)));
+        EXPECT_EQ(a.unit == DemoGoods::Unit::Kilogram, a.weighed) << a.name.toStdString();
+        barcodes.insert(a.barcode);
+        codes.insert(a.specCode);
+        names.insert(a.name);
+    }
+    EXPECT_EQ(barcodes.size(), articles.size());
+    EXPECT_EQ(codes.size(), articles.size());
+    EXPECT_EQ(names.size(), articles.size());
+}
+
+}  // namespace
+}  // namespace sandogh

@@ -8,14 +8,14 @@ namespace sandogh {
 // the caller names another title; all but CriticalPlain are right-aligned and
 // read right to left.
 enum class MessageStyle {
-    CriticalPlain,        // connection failure of a data routine
-    Information,          // notices
-    Critical,             // errors found on screens
-    Warning,              // wrong login
-    QuestionYesNo,        // questions, Yes is the default
+    CriticalPlain,  // connection failure of a data routine
+    Information,    // notices
+    Critical,       // errors found on screens
+    Warning,        // wrong login
+    QuestionYesNo,  // questions, Yes is the default
     QuestionYesNoDefaultNo,
-    QuestionOkCancel,     // questions that may be cancelled
-    QuestionCritical,     // Yes/No about irreversible steps
+    QuestionOkCancel,  // questions that may be cancelled
+    QuestionCritical,  // Yes/No about irreversible steps
 };
 
 // The title of nearly every message box.

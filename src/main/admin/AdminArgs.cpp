@@ -35,7 +35,9 @@ AdminArgs::AdminArgs(const QStringList& args, const QStringList& valueOptions,
     }
 }
 
-bool AdminArgs::has(const QString& option) const { return m_values.contains(option); }
+bool AdminArgs::has(const QString& option) const {
+    return m_values.contains(option);
+}
 
 QString AdminArgs::value(const QString& option, const QString& fallback) const {
     return m_values.value(option, fallback);

@@ -94,10 +94,23 @@ QStringList Dialect::addColumn(const AddColumnDef& add) const {
                 .arg(table(add.table, add.database), columnDefinition(add.column))};
 }
 
+QString Dialect::indexKeys(const IndexDef& index) const {
+    QStringList keys;
+    for (const QString& c : index.columns) {
+        keys << quote(c);
+    }
+    keys << index.expressions;
+    return keys.join(QStringLiteral(", "));
+}
+
+QString Dialect::indexWhere(const IndexDef& index) {
+    return index.where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + index.where;
+}
+
 QString Dialect::createIndex(const IndexDef& index) const {
-    return QStringLiteral("CREATE %1INDEX %2 ON %3 (%4)")
+    return QStringLiteral("CREATE %1INDEX %2 ON %3 (%4)%5")
         .arg(index.unique ? QStringLiteral("UNIQUE ") : QString(), quote(index.name),
-             table(index.table, index.database), quotedList(index.columns));
+             table(index.table, index.database), indexKeys(index), indexWhere(index));
 }
 
 QStringList Dialect::addForeignKey(const ForeignKeyDef& fk) const {

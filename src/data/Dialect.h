@@ -71,6 +71,10 @@ protected:
     virtual QString identityDefinition(const ColumnDef& column) const = 0;
     virtual QString primaryKeyClause(const TableDef& table) const;
     QString foreignKeyClause(const ForeignKeyDef& foreignKey) const;
+    // The key list of an index: its quoted columns, then its expressions.
+    QString indexKeys(const IndexDef& index) const;
+    // " WHERE condition" of a partial index, or nothing.
+    static QString indexWhere(const IndexDef& index);
     static int textLength(const ColumnDef& column);
 };
 

@@ -58,6 +58,34 @@ QStringList SqlServerDialect::addColumn(const AddColumnDef& add) const {
                 .arg(table(add.table, add.database), columnDefinition(add.column))};
 }
 
+QString SqlServerDialect::createIndex(const IndexDef& index) const {
+    if (index.expressions.isEmpty()) {
+        return Dialect::createIndex(index);
+    }
+    // T-SQL indexes no expression: each becomes a persisted computed column named after
+    // the index, added first; the index is then made in a nested batch, which is
+    // compiled only when the columns exist.
+    const QString target = table(index.table, index.database);
+    QStringList statements;
+    QStringList keys;
+    for (const QString& c : index.columns) {
+        keys << quote(c);
+    }
+    for (int i = 0; i < index.expressions.size(); ++i) {
+        const QString computed = quote(QStringLiteral("%1_K%2").arg(index.name).arg(i + 1));
+        statements << QStringLiteral("ALTER TABLE %1 ADD %2 AS %3 PERSISTED")
+                          .arg(target, computed, index.expressions.at(i));
+        keys << computed;
+    }
+    QString create =
+        QStringLiteral("CREATE %1INDEX %2 ON %3 (%4)%5")
+            .arg(index.unique ? QStringLiteral("UNIQUE ") : QString(), quote(index.name), target,
+                 keys.join(QStringLiteral(", ")), indexWhere(index));
+    create.replace(QLatin1Char('\''), QStringLiteral("''"));
+    statements << QStringLiteral("EXEC(N'%1')").arg(create);
+    return statements.join(QStringLiteral("; "));
+}
+
 QString SqlServerDialect::otherDatabaseExistsSql() const {
     return QStringLiteral("SELECT COUNT(*) FROM sys.databases WHERE name = :name");
 }

@@ -17,6 +17,7 @@ public:
     QString randomOrder() const override { return QStringLiteral("NEWID()"); }
     QString columnType(const ColumnDef& column) const override;
     QStringList addColumn(const AddColumnDef& add) const override;
+    QString createIndex(const IndexDef& index) const override;
     QString otherDatabaseExistsSql() const override;
     QString createOtherDatabase(const QString& database) const override;
 

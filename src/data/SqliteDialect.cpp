@@ -76,9 +76,9 @@ QString SqliteDialect::createIndex(const IndexDef& index) const {
     const QString name = index.database.isEmpty()
                              ? quote(index.name)
                              : quote(index.database) + QLatin1Char('.') + quote(index.name);
-    return QStringLiteral("CREATE %1INDEX %2 ON %3 (%4)")
+    return QStringLiteral("CREATE %1INDEX %2 ON %3 (%4)%5")
         .arg(index.unique ? QStringLiteral("UNIQUE ") : QString(), name, quote(index.table),
-             quotedList(index.columns));
+             indexKeys(index), indexWhere(index));
 }
 
 QStringList SqliteDialect::addForeignKey(const ForeignKeyDef& /*foreignKey*/) const {

@@ -21,10 +21,10 @@ enum class ColumnType {
 struct ColumnDef {
     QString name;
     ColumnType type = ColumnType::Int;
-    int length = 0;  // for Text
+    int length = 0;           // for Text
     bool nullable = true;
-    bool identity = false;  // database-allocated row number (at most one per table)
-    QString defaultValue;   // literal SQL default, empty for none ("0", "''")
+    bool identity = false;    // database-allocated row number (at most one per table)
+    QString defaultValue;     // literal SQL default, empty for none ("0", "''")
 };
 
 // A table. database is empty for the shop database, or the name of another
@@ -42,6 +42,15 @@ struct IndexDef {
     QStringList columns;
     bool unique = false;
     QString database;
+    // Keys after the columns that are expressions over the table's columns, in portable
+    // SQL spelled exactly as the statements that should use the index spell them
+    // ("CAST(DocNo AS BIGINT)"): SQLite matches an indexed expression only when the
+    // statement writes the same one. SQL Server indexes them through persisted computed
+    // columns, which its optimiser matches to the same expressions.
+    QStringList expressions{};
+    // A partial (filtered) index: only rows meeting this portable condition are indexed
+    // ("DocType IS NULL"); a statement uses it when its WHERE implies the condition.
+    QString where{};
 };
 
 struct ForeignKeyDef {

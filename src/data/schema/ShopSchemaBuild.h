@@ -122,5 +122,6 @@ MigrationStep documentsStep();     // 4
 MigrationStep accountsStep();      // 5
 MigrationStep giftCardsStep();     // 6
 MigrationStep scaleVendorsStep();  // 7
+MigrationStep lookupsStep();       // 8
 
 }  // namespace sandogh::shopschema

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "data/Session.h"
+
+namespace sandogh::procedures {
+
+// sp_StockRepair: recomputes Stock from the document lines. Per barcode,
+//   Import = quantities of incoming lines: purchases (TransType 1) and sale returns (3);
+//   Export = quantities of outgoing lines: sales (2) and purchase returns (4);
+//   Stock  = Import - Export.
+// Ordinary documents count when their DocType is NULL: a non-null DocType marks a paper of
+// another origin (a pre-invoice, a branch request) that moves no goods. Internal documents
+// count with the same meaning of the four types: goods received from the centre come in,
+// goods sent to a branch leave the shop.
+//
+// With barcodes (the lines of the document just written) only those articles are
+// recomputed; without, every Stock row is. Articles of Goods without a Stock row get one
+// (Branch 1) first. Runs in the caller's transaction, or in one of its own. False when a
+// statement failed (it has been reported).
+bool sp_StockRepair(Session& session, const QStringList& barcodes = {});
+
+// SP_ComputeWarehouseQtyByEanCode: the quantity of an article on hand in one warehouse,
+// by the formula of sp_StockRepair over the ordinary documents whose WarehouseCode is that
+// warehouse. A warehouse of 0 or empty text means the whole shop: then every document
+// counts, internal ones included, and the result equals the repaired Stock.Stock.
+// 0 when the barcode has no lines or the statement failed.
+double SP_ComputeWarehouseQtyByEanCode(Session& session, const QString& barcode,
+                                       const QString& warehouseCode);
+
+}  // namespace sandogh::procedures

@@ -26,6 +26,10 @@ struct LoadCase {
     QString expected;  // the connection string when ok
 };
 
+void PrintTo(const LoadCase& c, std::ostream* os) {
+    *os << c.name;
+}
+
 const QStringList kStandard = {
     QStringLiteral("Provider=SQLOLEDB.1;"),
     QStringLiteral("Persist Security Info=False;"),

@@ -24,6 +24,10 @@ struct ProviderCase {
     QString errorContains;  // for failures
 };
 
+void PrintTo(const ProviderCase& c, std::ostream* os) {
+    *os << c.name;
+}
+
 std::vector<ProviderCase> providerCases() {
     return {
         {"SQLiteFolderRelativeToProgram",
@@ -224,6 +228,10 @@ struct OdbcCase {
     QString database;
     QString expected;
 };
+
+void PrintTo(const OdbcCase& c, std::ostream* os) {
+    *os << c.name;
+}
 
 std::vector<OdbcCase> odbcCases() {
     using P = ConnectionSettings::OdbcPlatform;

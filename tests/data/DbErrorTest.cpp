@@ -19,6 +19,10 @@ struct ErrorCase {
     DbErrorKind kind;
 };
 
+void PrintTo(const ErrorCase& c, std::ostream* os) {
+    *os << c.name;
+}
+
 class DbErrorTest : public ::testing::TestWithParam<ErrorCase> {};
 
 TEST_P(DbErrorTest, Classifies) {

@@ -18,6 +18,10 @@ struct ExpressionCase {
     QString expected;
 };
 
+void PrintTo(const ExpressionCase& c, std::ostream* os) {
+    *os << c.name;
+}
+
 std::vector<ExpressionCase> expressionCases() {
     auto latestPrice = [](const Dialect& d) {
         return QStringLiteral("SELECT ") + d.top(1) +
@@ -103,6 +107,10 @@ struct TypeCase {
     const char* postgres;
     const char* sqlite;
 };
+
+void PrintTo(const TypeCase& c, std::ostream* os) {
+    *os << c.sqlServer;
+}
 
 class ColumnTypeTest : public ::testing::TestWithParam<TypeCase> {};
 

@@ -84,6 +84,10 @@ struct TimeCase {
     const char* field;  // hour:minute:day-of-month
 };
 
+void PrintTo(const TimeCase& c, std::ostream* os) {
+    *os << c.field;
+}
+
 class ErrTimeTest : public ::testing::TestWithParam<TimeCase> {};
 
 TEST_P(ErrTimeTest, ThirdFieldIsTheDayOfTheMonth) {

@@ -217,6 +217,10 @@ struct UnreachableCase {
     QString connectionString;  // %1: a temporary folder
 };
 
+void PrintTo(const UnreachableCase& c, std::ostream* os) {
+    *os << c.name;
+}
+
 class UnreachableTest : public ::testing::TestWithParam<UnreachableCase> {};
 
 TEST_P(UnreachableTest, ShowsTheMessageOnceAndTheRoutineReturnsEmpty) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "data/Backend.h"
+#include "support/QtPrinters.h"
 #include "support/TestDatabase.h"
 
 namespace sandogh::test {

@@ -1,13 +1,20 @@
 #pragma once
 
-// GoogleTest printers for the Qt value types the suites compare, so that a failed
-// EXPECT_EQ shows the texts instead of their bytes. Qt's types live in the global
-// namespace, so their printers do too.
+// GoogleTest printers for the Qt value types and the data layer's enums the suites
+// compare, so that a failed EXPECT_EQ shows texts and names instead of bytes. Qt's types
+// live in the global namespace, so their printers do too.
+//
+// Every test that compares one of these types must include this header (BackendTest.h
+// does): a printer seen by some files of a test program and not by others is two
+// different definitions of the same template.
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <ostream>
+
+#include "data/Backend.h"
+#include "data/DbError.h"
 
 inline void PrintTo(const QString& s, std::ostream* os) {
     *os << '"' << s.toStdString() << '"';
@@ -24,3 +31,31 @@ inline void PrintTo(const QStringList& list, std::ostream* os) {
     }
     *os << '}';
 }
+
+namespace sandogh {
+
+inline void PrintTo(Backend backend, std::ostream* os) {
+    *os << backendName(backend).toStdString();
+}
+
+inline void PrintTo(DbErrorKind kind, std::ostream* os) {
+    switch (kind) {
+        case DbErrorKind::None:
+            *os << "None";
+            return;
+        case DbErrorKind::ConnectionLost:
+            *os << "ConnectionLost";
+            return;
+        case DbErrorKind::KeyConflict:
+            *os << "KeyConflict";
+            return;
+        case DbErrorKind::ForeignKey:
+            *os << "ForeignKey";
+            return;
+        case DbErrorKind::Other:
+            *os << "Other";
+            return;
+    }
+}
+
+}  // namespace sandogh

@@ -59,6 +59,7 @@ public:
     void setQuantityAsker(QuantityAsker* asker);
     void setDisplay(TotalDisplay* display);
     SaleActions* actions() const;
+    QuantityAsker* quantityAsker() const;
 
     // The lines (Grid1).
     SaleLinesModel& linesModel();
@@ -127,6 +128,10 @@ public:
     bool addGoods(const QString& barcode, double quantity = 1, bool inGrams = false);
     // Adds or merges a line whose price is already fixed (favourites, loaded documents).
     bool addLine(SaleLine line, bool inGrams = false);
+    // A quantity typed for the line of the last barcode: it replaces a quantity of exactly
+    // 1 and is added to any other. Without such a line the quantity-first message is shown
+    // and false returned; a quantity of 0 changes nothing.
+    bool applyQuantity(double quantity);
     // The quantity change of frmChangeQty: sets ChangedRowNo/ChangedRowQTY, rewrites the
     // row and its total. False for a row that does not exist or a quantity of 0 or less.
     bool changeQuantity(int row, double quantity);

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <optional>
+
+#include "data/Session.h"
+
+namespace sandogh {
+
+// The look-ups of ringing up, one statement each, on the caller's session. Every value
+// is bound. A look-up that fails returns nothing (std::nullopt, or ok false); the data
+// layer has then reported it: the connection message for a lost server, the error log's
+// message otherwise.
+class SaleLookups {
+public:
+    // The price columns a goods row is read with.
+    enum class PriceColumn { Cost, Cost2 };
+
+    struct GoodsRow {
+        bool found = false;
+        QString name;
+        double price = 0;
+        double taxPercent = 0;
+        int kind = 0;  // GType
+    };
+    // A goods row as the weighed tickets read it.
+    struct TicketGoods {
+        bool found = false;
+        QString barcode;  // Ean_Code
+        QString name;
+        double cost = 0;
+        double taxPercent = 0;
+        int type = 0;  // Type: 1 weighed in grams
+    };
+    struct TicketLine {
+        QString code;  // MizanNet PluNo, or OnlineSales ItemCode, as text
+        double quantity = 0;
+    };
+    struct Flag {
+        bool ok = false;
+        bool on = false;
+        QString name;
+    };
+
+    // Active goods with this barcode; nullopt when the look-up failed.
+    static std::optional<qint64> activeCount(Session& session, const QString& barcode);
+    // The first active article with this specification code; empty text for none.
+    static std::optional<QString> firstActiveBySpecCode(Session& session, const QString& specCode);
+    // The quantity-asking flag AQIS (and the name, for the question).
+    static Flag asksQuantity(Session& session, const QString& barcode);
+    // The locked quantity (ItemLock, IsLock 1): nothing inside when the article has no
+    // lock row; nullopt when the look-up failed.
+    static std::optional<std::optional<double>> lockedQuantity(Session& session,
+                                                               const QString& barcode);
+    // NewCost of the newest price-change document (largest DiscountD.Code) whose date
+    // range holds the sale date, compared as Jalali text; 0 when none is in force.
+    static std::optional<double> priceChangeCost(Session& session, const QString& saleDate,
+                                                 const QString& barcode);
+    // Name, price, tax and kind of an article; found false when it is not in Goods.
+    static std::optional<GoodsRow> goodsRow(Session& session, const QString& barcode,
+                                            PriceColumn column);
+    // The distinct prices the goods master holds for an article (Cost, Cost2 and its
+    // related prices of tblRelatedCode), zeros left out, in that order.
+    static std::optional<QList<double>> prices(Session& session, const QString& barcode);
+
+    // The lines of a MizanNet ticket by its key.
+    static std::optional<QList<TicketLine>> mizanTicketLines(Session& session, const QString& key);
+    static std::optional<TicketGoods> goodsByBarcode(Session& session, const QString& barcode);
+    // The lines of an OnlineSales ticket.
+    static std::optional<QList<TicketLine>> onlineSalesLines(Session& session, const QString& date,
+                                                             int receipt, int scale);
+    static std::optional<TicketGoods> goodsBySpecCode(Session& session, const QString& specCode);
+};
+
+}  // namespace sandogh

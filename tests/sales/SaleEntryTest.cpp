@@ -1,0 +1,189 @@
+// Ringing up through the barcode box: merging, quantities, cards, tickets that are not
+// tickets, apostrophes, quick entry and the goods that are not there.
+
+#include <gtest/gtest.h>
+
+#include "SaleDoubles.h"
+#include "SaleShopTest.h"
+#include "sales/SaleTexts.h"
+#include "support/QtPrinters.h"
+
+namespace sandogh::test {
+namespace {
+
+class SaleEntry : public SaleShopTest {
+protected:
+    void SetUp() override {
+        SaleShopTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        addGoods({QStringLiteral("6261234567890"), 10000, 9, QStringLiteral("Tea")});
+        addGoods({QStringLiteral("1001"), 2500, 0, QStringLiteral("Bread")});
+        sale().setActions(&actions);
+    }
+    double quantityOf(int row) { return sale().lines().at(row).quantity; }
+
+    RecordingActions actions;
+};
+
+TEST_P(SaleEntry, TheSameBarcodeTwiceIsOneLineOfTwo) {
+    sale().enterText(QStringLiteral("6261234567890"));
+    const EntryOutcome second = sale().enterText(QStringLiteral("6261234567890"));
+    EXPECT_EQ(second.kind, EntryKind::Goods);
+    EXPECT_TRUE(second.linesChanged);
+    ASSERT_EQ(sale().lines().size(), 1);
+    EXPECT_DOUBLE_EQ(quantityOf(0), 2);
+    EXPECT_DOUBLE_EQ(sale().total(), 21800);
+}
+
+TEST_P(SaleEntry, TheNoMergeOptionKeepsTwoLines) {
+    setFlag("SaleOptions", "NoMerge", true);
+    sale().enterText(QStringLiteral("6261234567890"));
+    sale().enterText(QStringLiteral("6261234567890"));
+    ASSERT_EQ(sale().lines().size(), 2);
+    EXPECT_DOUBLE_EQ(quantityOf(0), 1);
+    EXPECT_DOUBLE_EQ(quantityOf(1), 1);
+}
+
+TEST_P(SaleEntry, MergingIgnoresTheCaseOfTheBarcode) {
+    addGoods({QStringLiteral("ab12cd"), 100, 0});
+    sale().enterText(QStringLiteral("ab12cd"));
+    sale().addLine(SaleLine{QStringLiteral("AB12CD"), QStringLiteral("x"), 2, 150, 0});
+    ASSERT_EQ(sale().lines().size(), 1);
+    EXPECT_DOUBLE_EQ(quantityOf(0), 3);
+    // The merged line takes the price of the latest.
+    EXPECT_DOUBLE_EQ(sale().lines().at(0).unitPrice, 150);
+    EXPECT_DOUBLE_EQ(sale().total(), 450);
+}
+
+TEST_P(SaleEntry, AQuantityBeforeAnyLineAsksForTheBarcodeFirst) {
+    const EntryOutcome o = sale().enterText(QStringLiteral("12"));
+    EXPECT_EQ(o.kind, EntryKind::Quantity);
+    EXPECT_TRUE(o.refused);
+    EXPECT_TRUE(sale().isEmpty());
+    EXPECT_EQ(messages().countOf(SaleTexts::quantityFirst()), 1);
+}
+
+TEST_P(SaleEntry, AQuantitySetsALineOfOneThenAdds) {
+    sale().enterText(QStringLiteral("6261234567890"));
+    sale().enterText(QStringLiteral("12"));
+    EXPECT_DOUBLE_EQ(quantityOf(0), 12);
+    EXPECT_EQ(sale().ChangedRowNo(), 0);
+    EXPECT_DOUBLE_EQ(sale().ChangedRowQTY(), 12);
+    sale().enterText(QStringLiteral("12"));
+    EXPECT_DOUBLE_EQ(quantityOf(0), 24);
+    EXPECT_DOUBLE_EQ(sale().total(), 24 * 10900.0);
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(SaleEntry, AQuantityGoesToTheLineOfTheLastBarcode) {
+    sale().enterText(QStringLiteral("6261234567890"));
+    sale().enterText(QStringLiteral("1001"));
+    sale().enterText(QStringLiteral("5"));
+    EXPECT_DOUBLE_EQ(quantityOf(0), 1);
+    EXPECT_DOUBLE_EQ(quantityOf(1), 5);
+    EXPECT_EQ(sale().Barcode(), QStringLiteral("1001"));
+}
+
+TEST_P(SaleEntry, TenCharactersAreABarcodeWhileTheCardReaderIsOff) {
+    addGoods({QStringLiteral("0123456789"), 700, 0});
+    const EntryOutcome o = sale().enterText(QStringLiteral("0123456789"));
+    EXPECT_EQ(o.kind, EntryKind::Goods);
+    ASSERT_EQ(sale().lines().size(), 1);
+    EXPECT_TRUE(actions.cards.isEmpty());
+}
+
+TEST_P(SaleEntry, TenCharactersGoToTheCardLookUpWhileTheCardReaderIsOn) {
+    setFlag("IsKeyboardRFID", "Enable", true);
+    addGoods({QStringLiteral("0123456789"), 700, 0});
+    EntryOutcome o = sale().enterText(QStringLiteral("0123456789"));
+    EXPECT_EQ(o.kind, EntryKind::CardNumber);
+    EXPECT_TRUE(o.clearBox);
+    EXPECT_TRUE(sale().isEmpty());
+    ASSERT_EQ(actions.cards.size(), 1);
+    EXPECT_EQ(actions.cards.at(0), 123456789);
+
+    actions.cardAnswer = false;
+    o = sale().enterText(QStringLiteral("0123456789"));
+    EXPECT_FALSE(o.clearBox);  // a refused card stays in the box
+}
+
+TEST_P(SaleEntry, EightCharactersWithoutTheScalePrefixAreABarcode) {
+    setFlag("ScaleTicket", "Mizan", true);
+    setOption("ScaleTicket", "Prefix", QStringLiteral("2"));
+    addGoods({QStringLiteral("30012345"), 1200, 0});
+    const EntryOutcome o = sale().enterText(QStringLiteral("30012345"));
+    EXPECT_EQ(o.kind, EntryKind::Goods);
+    ASSERT_EQ(sale().lines().size(), 1);
+    EXPECT_EQ(sale().lines().at(0).barcode, QStringLiteral("30012345"));
+}
+
+TEST_P(SaleEntry, ApostrophesAreRemovedBeforeTheLookUp) {
+    const EntryOutcome o = sale().enterText(QStringLiteral("6261'234567'890"));
+    EXPECT_EQ(o.boxText, QStringLiteral("6261234567890"));
+    ASSERT_EQ(sale().lines().size(), 1);
+    EXPECT_EQ(sale().lines().at(0).barcode, QStringLiteral("6261234567890"));
+}
+
+TEST_P(SaleEntry, ASpecificationCodeFindsTheFirstActiveArticle) {
+    addGoods({QStringLiteral("9990001"), 500, 0, QStringLiteral("Old"), 0, QStringLiteral("4455"),
+              false});
+    addGoods({QStringLiteral("9990002"), 600, 0, QStringLiteral("New"), 0, QStringLiteral("4455")});
+    sale().enterText(QStringLiteral("4455"));
+    ASSERT_EQ(sale().lines().size(), 1);
+    EXPECT_EQ(sale().lines().at(0).barcode, QStringLiteral("9990002"));
+    EXPECT_EQ(sale().Barcode(), QStringLiteral("9990002"));
+}
+
+TEST_P(SaleEntry, UnknownOrInactiveGoodsAddNothing) {
+    addGoods({QStringLiteral("5550001"), 500, 0, QStringLiteral("Gone"), 0, {}, false});
+    for (const QString& text : {QStringLiteral("5550001"), QStringLiteral("7777777")}) {
+        const EntryOutcome o = sale().enterText(text);
+        EXPECT_TRUE(o.notFound) << text.toStdString();
+        EXPECT_FALSE(o.linesChanged);
+    }
+    EXPECT_TRUE(sale().isEmpty());
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(SaleEntry, TheQuantityAskingFlagAsksAndACancelAddsNothing) {
+    addGoods({QStringLiteral("8880001"), 1000, 0, QStringLiteral("Rice"), 0, {}, true, true});
+    ScriptedQuantityAsker asker;
+    sale().setQuantityAsker(&asker);
+    asker.answer = 3.5;
+    sale().enterText(QStringLiteral("8880001"));
+    ASSERT_EQ(sale().lines().size(), 1);
+    EXPECT_DOUBLE_EQ(quantityOf(0), 3.5);
+    asker.answer.reset();
+    sale().enterText(QStringLiteral("8880001"));
+    EXPECT_DOUBLE_EQ(quantityOf(0), 3.5);
+    EXPECT_EQ(asker.asked.size(), 2);
+}
+
+TEST_P(SaleEntry, WithoutQuickEntryShortTextsAreBarcodes) {
+    setFlag("SaleOptions", "QuickEntry", false);
+    addGoods({QStringLiteral("12"), 300, 0});
+    sale().enterText(QStringLiteral("1001"));
+    sale().enterText(QStringLiteral("12"));
+    ASSERT_EQ(sale().lines().size(), 2);
+    EXPECT_DOUBLE_EQ(quantityOf(0), 1);
+}
+
+TEST_P(SaleEntry, TheDisplayIsSentTheTotalOnlyWhileItIsOn) {
+    RecordingDisplay display;
+    sale().setDisplay(&display);
+    sale().enterText(QStringLiteral("1001"));
+    EXPECT_TRUE(display.shown.isEmpty());
+    setFlag("IsActivePoolDisplay", "Enable", true);
+    sale().enterText(QStringLiteral("6261234567890"));
+    sale().enterText(QStringLiteral("3"));
+    sale().removeLine(0);
+    EXPECT_EQ(display.shown, (QStringList{QStringLiteral("13,400"), QStringLiteral("35,200"),
+                                          QStringLiteral("32,700")}));
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(SaleEntry);
+
+}  // namespace
+}  // namespace sandogh::test

@@ -1,0 +1,114 @@
+// Weighed tickets read from the scale vendors' tables: MizanNet by the ticket key of
+// today's date, OnlineSales by today's short Jalali date, receipt and scale.
+
+#include <gtest/gtest.h>
+
+#include "SaleShopTest.h"
+#include "data/schema/ShopSchema.h"
+
+namespace sandogh::test {
+namespace {
+
+class WeighedTicket : public SaleShopTest {
+protected:
+    void SetUp() override {
+        SaleShopTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        setOption("ScaleTicket", "Prefix", QStringLiteral("2"));
+        GoodsRowSpec cheese{QStringLiteral("501"), 400000, 9, QStringLiteral("Cheese")};
+        cheese.type = 1;  // weighed: the scale sends grams
+        cheese.specCode = QStringLiteral("31");
+        addGoods(cheese);
+        GoodsRowSpec eggs{QStringLiteral("502"), 30000, 0, QStringLiteral("Eggs")};
+        eggs.specCode = QStringLiteral("32");
+        addGoods(eggs);
+    }
+    void mizanLine(const QString& key, qint64 plu, double weight, double qty) {
+        exec(QStringLiteral("INSERT INTO ") + table("MizanNetDetail", kMizanNetDatabase) +
+                 QStringLiteral(" (TotalBarcode, PluNo, Weight, Qty) VALUES (:k, :p, :w, :q)"),
+             {{QStringLiteral(":k"), key},
+              {QStringLiteral(":p"), plu},
+              {QStringLiteral(":w"), weight},
+              {QStringLiteral(":q"), qty}});
+    }
+    void onlineLine(const QString& date, int receipt, int scale, qint64 item, double amount) {
+        Session s = db().session();
+        exec(
+            QStringLiteral("INSERT INTO ") + table("Sales", kOnlineSalesDatabase) +
+                QStringLiteral(" (") + s.dialect().quote(QStringLiteral("Date")) +
+                QStringLiteral(", Receipt, ScaleNo, ItemCode, Amount) VALUES (:d, :r, :s, :i, :a)"),
+            {{QStringLiteral(":d"), date},
+             {QStringLiteral(":r"), receipt},
+             {QStringLiteral(":s"), scale},
+             {QStringLiteral(":i"), item},
+             {QStringLiteral(":a"), amount}});
+    }
+    const SaleLine* lineOf(const QString& barcode) {
+        const int row = sale().linesModel().findBarcode(barcode);
+        return row < 0 ? nullptr : &sale().lines().at(row);
+    }
+};
+
+TEST_P(WeighedTicket, AMizanTicketBringsItsLinesWithGramsAsKilograms) {
+    setFlag("ScaleTicket", "Mizan", true);
+    // Ticket 00123 of scale 3, printed on 21 March 2025 (the clock's day).
+    const QString key = QStringLiteral("00000300000001232103250");
+    mizanLine(key, 501, 750, 0);  // 750 g of cheese
+    mizanLine(key, 502, 0, 12);   // 12 eggs: no weight, a count
+    mizanLine(key, 999, 0, 1);    // not in the goods list: left out
+    mizanLine(QStringLiteral("00000300000001232003250"), 502, 0, 5);  // yesterday's ticket
+
+    const EntryOutcome o = sale().enterText(QStringLiteral("23001237"));
+    EXPECT_EQ(o.kind, EntryKind::MizanTicket);
+    EXPECT_TRUE(o.linesChanged);
+    ASSERT_EQ(sale().lines().size(), 2);
+    ASSERT_NE(lineOf(QStringLiteral("501")), nullptr);
+    EXPECT_DOUBLE_EQ(lineOf(QStringLiteral("501"))->quantity, 0.75);
+    EXPECT_DOUBLE_EQ(lineOf(QStringLiteral("501"))->total, 400000 * 0.75 * 1.09);
+    EXPECT_DOUBLE_EQ(lineOf(QStringLiteral("502"))->quantity, 12);
+}
+
+TEST_P(WeighedTicket, TheSameMizanTicketTwiceMergesItsWeights) {
+    setFlag("ScaleTicket", "Mizan", true);
+    mizanLine(QStringLiteral("00000100000000452103250"), 501, 250, 0);
+    sale().enterText(QStringLiteral("21000456"));
+    sale().enterText(QStringLiteral("21000456"));
+    ASSERT_EQ(sale().lines().size(), 1);
+    EXPECT_DOUBLE_EQ(sale().lines().at(0).quantity, 0.5);
+}
+
+TEST_P(WeighedTicket, AMizanTicketWithoutLinesAddsNothing) {
+    setFlag("ScaleTicket", "Mizan", true);
+    const EntryOutcome o = sale().enterText(QStringLiteral("23009997"));
+    EXPECT_EQ(o.kind, EntryKind::MizanTicket);
+    EXPECT_TRUE(o.notFound);
+    EXPECT_TRUE(sale().isEmpty());
+}
+
+TEST_P(WeighedTicket, AnOnlineSalesTicketReadsTodaysReceiptOfItsScale) {
+    setFlag("ScaleTicket", "OnlineSales", true);
+    // The clock's day is 1404/01/01.
+    onlineLine(QStringLiteral("04/01/01"), 42, 7, 31, 1.25);
+    onlineLine(QStringLiteral("04/01/01"), 42, 7, 32, 6);
+    onlineLine(QStringLiteral("04/01/01"), 42, 8, 32, 9);  // another scale
+    onlineLine(QStringLiteral("03/12/29"), 42, 7, 32, 9);  // another day
+    const EntryOutcome o = sale().enterText(QStringLiteral("PP01ABCDEFG0042007"));
+    EXPECT_EQ(o.kind, EntryKind::OnlineSalesTicket);
+    ASSERT_EQ(sale().lines().size(), 2);
+    EXPECT_DOUBLE_EQ(lineOf(QStringLiteral("501"))->quantity, 1.25);
+    EXPECT_DOUBLE_EQ(lineOf(QStringLiteral("502"))->quantity, 6);
+}
+
+TEST_P(WeighedTicket, TicketsAreBarcodesWhileTheirScaleSystemsAreOff) {
+    addGoods({QStringLiteral("23001237"), 100, 0});
+    sale().enterText(QStringLiteral("23001237"));
+    ASSERT_EQ(sale().lines().size(), 1);
+    EXPECT_EQ(sale().lines().at(0).barcode, QStringLiteral("23001237"));
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(WeighedTicket);
+
+}  // namespace
+}  // namespace sandogh::test

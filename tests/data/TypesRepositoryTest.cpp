@@ -1,0 +1,357 @@
+// The parameter table: lists and their search, the checks and saves of a value with its
+// links, deleting with the use count, the picker, party codes and single-valued settings.
+
+#include "ShopFixture.h"
+#include "data/Database.h"
+#include "data/procedures/TypesProcedures.h"
+#include "data/repositories/ListMessages.h"
+#include "data/repositories/TypesRepository.h"
+#include "support/QtPrinters.h"
+
+namespace sandogh {
+namespace {
+
+using Column = TypesRepository::SearchColumn;
+using Value = TypesRepository::Value;
+
+class TypesRepositoryTest : public test::ShopFixture {
+protected:
+    TypesRepository repo() { return TypesRepository(db(), &messages()); }
+
+    // Saves a value that must pass; its counter.
+    int add(int typeNo, const QString& code, const QString& name, const QList<int>& parents = {},
+            const QString& nameEng = {}, const QString& note = {}) {
+        Value v{0, typeNo, code, name, nameEng, note};
+        const CheckResult r = repo().save(v, parents);
+        EXPECT_TRUE(r.ok) << r.message.toStdString();
+        return v.counter;
+    }
+
+    void addLevel(int typeNo, int digits) {
+        Session s = session();
+        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Code_Parameters (TypeNo, Name, DigitQty, "
+                                          "ParameterLevel) VALUES (:t, :n, :d, :l)"),
+                           {{QStringLiteral(":t"), typeNo},
+                            {QStringLiteral(":n"), QStringLiteral("L%1").arg(typeNo)},
+                            {QStringLiteral(":d"), digits},
+                            {QStringLiteral(":l"), typeNo % 100}}));
+    }
+
+    static QStringList codesOf(const QList<Value>& values) {
+        QStringList codes;
+        for (const Value& v : values) {
+            codes << v.code;
+        }
+        return codes;
+    }
+};
+
+TEST_P(TypesRepositoryTest, EmptyTableGivesCounterOneAndPartyCodeOne) {
+    TypesRepository r = repo();
+    EXPECT_EQ(r.newCounter(61), 1);
+    EXPECT_EQ(r.newPartyCode(), 1);
+    EXPECT_TRUE(r.list(61).isEmpty());
+    EXPECT_TRUE(r.picker(501, 7).isEmpty());
+    EXPECT_TRUE(r.units().isEmpty());
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(TypesRepositoryTest, CountersAreUniqueOverTheWholeTable) {
+    const int unit = add(61, QStringLiteral("1"), QStringLiteral("عدد"));
+    const int grade = add(1010, QStringLiteral("1"), QStringLiteral("A"));
+    EXPECT_EQ(unit, 1);
+    EXPECT_EQ(grade, 2);
+    Session s = session();
+    EXPECT_EQ(procedures::sp_Types_GetNewCounter(s, 61), 3);
+}
+
+TEST_P(TypesRepositoryTest, ListIsOrderedByCodeAndSearchedBySubstring) {
+    add(1011, QStringLiteral("30"), QStringLiteral("نانوا"), {}, QStringLiteral("Baker"));
+    add(1011, QStringLiteral("10"), QStringLiteral("معلم"), {}, QStringLiteral("Teacher"),
+        QStringLiteral("school"));
+    add(1011, QStringLiteral("20"), QStringLiteral("راننده"), {}, QStringLiteral("Driver"));
+    add(1012, QStringLiteral("11"), QStringLiteral("other list"));
+    TypesRepository r = repo();
+    EXPECT_EQ(codesOf(r.list(1011)), (QStringList{"10", "20", "30"}));
+    struct Case {
+        Column column;
+        const char* text;
+        QStringList codes;
+    };
+    const Case cases[] = {
+        {Column::Code, "0", {"10", "20", "30"}},
+        {Column::Code, "2", {"20"}},
+        {Column::Name, "نانو", {"30"}},
+        {Column::NameEng, "iv", {"20"}},
+        {Column::Note, "hoo", {"10"}},
+        {Column::Name, "", {"10", "20", "30"}},
+        {Column::Name, "none", {}},
+        {Column::Code, "' OR '1'='1", {}},
+    };
+    for (const Case& c : cases) {
+        QStringList found = codesOf(r.list(1011, c.column, QString::fromUtf8(c.text)));
+        QStringList expected = c.codes;
+        found.sort();
+        expected.sort();
+        EXPECT_EQ(found, expected) << c.text;
+    }
+    const QList<Value> values = r.list(1011);
+    EXPECT_EQ(values.first().name, QStringLiteral("معلم"));
+    EXPECT_EQ(values.first().note, QStringLiteral("school"));
+    EXPECT_EQ(values.first().typeNo, 1011);
+}
+
+TEST_P(TypesRepositoryTest, TextWithQuotesAndSqlWordsIsKeptAsTyped) {
+    const QString name = QStringLiteral("O'Reilly'; DROP TABLE Goods; --");
+    const QString code = QStringLiteral("1'2");
+    const int counter = add(61, code, name, {}, QStringLiteral("it's"), QStringLiteral("--"));
+    const QList<Value> values = repo().list(61, Column::Name, QStringLiteral("'; DROP"));
+    ASSERT_EQ(values.size(), 1);
+    EXPECT_EQ(values.first().counter, counter);
+    EXPECT_EQ(values.first().name, name);
+    EXPECT_EQ(values.first().code, code);
+    EXPECT_EQ(values.first().nameEng, QStringLiteral("it's"));
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Goods")), 0);  // still there
+}
+
+TEST_P(TypesRepositoryTest, SaveChecksNameCodeDigitsAndRepeatsInOrder) {
+    using namespace listmessages;
+    addLevel(502, 3);
+    add(502, QStringLiteral("001"), QStringLiteral("Dairy"));
+    struct Case {
+        int typeNo;
+        const char* code;
+        const char* name;
+        QString message;
+        QString title;
+    };
+    const Case cases[] = {
+        {502, "001", "", kEnterName, kNoticeTitle},
+        {502, "001", "   ", kEnterName, kNoticeTitle},
+        {502, "", "x", kEnterCode, kNoticeTitle},
+        {502, "01", "x", kCodeMustBe + QStringLiteral("3") + kDigitsOrLetters, warningTitle()},
+        {502, "0001", "x", kCodeMustBe + QStringLiteral("3") + kDigitsOrLetters, warningTitle()},
+        {502, "001", "x", kRepeatedCode, warningTitle()},
+        // No digit count for a list that is not a code level, nor for a level without one.
+        {61, "0001", "x", {}, warningTitle()},
+        {503, "1", "x", {}, warningTitle()},
+        {502, "002", "x", {}, warningTitle()},
+        {502, "ab3", "x", {}, warningTitle()},
+    };
+    for (const Case& c : cases) {
+        const Value v{0, c.typeNo, QString::fromUtf8(c.code), QString::fromUtf8(c.name), {}, {}};
+        const CheckResult r = repo().check(v);
+        EXPECT_EQ(r.ok, c.message.isEmpty()) << c.code << " " << c.name;
+        EXPECT_EQ(r.message, c.message) << c.code;
+        EXPECT_EQ(r.title, c.title) << c.code;
+    }
+}
+
+TEST_P(TypesRepositoryTest, ARefusedSaveWritesNothing) {
+    addLevel(501, 2);
+    Value v{0, 501, QStringLiteral("1"), QStringLiteral("short code"), {}, {}};
+    const CheckResult r = repo().save(v, {});
+    EXPECT_FALSE(r.ok);
+    EXPECT_EQ(r.message,
+              listmessages::kCodeMustBe + QStringLiteral("2") + listmessages::kDigitsOrLetters);
+    EXPECT_EQ(v.counter, 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types")), 0);
+}
+
+TEST_P(TypesRepositoryTest, EditingAValueKeepsItsCodeAndReplacesItsLinks) {
+    const int parentA = add(501, QStringLiteral("1"), QStringLiteral("A"));
+    const int parentB = add(501, QStringLiteral("2"), QStringLiteral("B"));
+    const int child = add(502, QStringLiteral("10"), QStringLiteral("child"), {parentA});
+    add(502, QStringLiteral("11"), QStringLiteral("other"));
+    Value edited{child,
+                 502,
+                 QStringLiteral("10"),
+                 QStringLiteral("renamed"),
+                 QStringLiteral("en"),
+                 QStringLiteral("n")};
+    const CheckResult r = repo().save(edited, {parentB});
+    ASSERT_TRUE(r.ok) << r.message.toStdString();
+    EXPECT_EQ(edited.counter, child);
+    const auto row = [&] {
+        Session s = session();
+        return procedures::sp_Types_SelectRow(s, child);
+    }();
+    ASSERT_TRUE(row.has_value());
+    EXPECT_EQ(row->name, QStringLiteral("renamed"));
+    EXPECT_EQ(row->nameEng, QStringLiteral("en"));
+    EXPECT_EQ(row->typeNo, 502);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM TypesLink WHERE Counter = :c"),
+                    {{QStringLiteral(":c"), child}}),
+              1);
+    EXPECT_EQ(count(QStringLiteral("SELECT Link FROM TypesLink WHERE Counter = :c"),
+                    {{QStringLiteral(":c"), child}}),
+              parentB);
+    // Taking another value's code is still a repeat.
+    edited.code = QStringLiteral("11");
+    EXPECT_EQ(repo().save(edited, {}).message, listmessages::kRepeatedCode);
+}
+
+TEST_P(TypesRepositoryTest, ParentOptionsAreTickedWhereLinked) {
+    const int a = add(501, QStringLiteral("1"), QStringLiteral("Beta"));
+    const int b = add(501, QStringLiteral("2"), QStringLiteral("Alpha"));
+    const int child = add(502, QStringLiteral("10"), QStringLiteral("c"), {a});
+    const QList<TypesRepository::ParentOption> options = repo().parentOptions(501, child);
+    ASSERT_EQ(options.size(), 2);
+    EXPECT_EQ(options.at(0).name, QStringLiteral("Alpha"));
+    EXPECT_EQ(options.at(0).counter, b);
+    EXPECT_FALSE(options.at(0).linked);
+    EXPECT_TRUE(options.at(1).linked);
+    for (const auto& o : repo().parentOptions(501, 0)) {
+        EXPECT_FALSE(o.linked);  // a new value hangs under nothing yet
+    }
+}
+
+TEST_P(TypesRepositoryTest, PickerListsLinkedChildrenOrFallsBackToTheWholeList) {
+    const int dairy = add(501, QStringLiteral("1"), QStringLiteral("Dairy"));
+    const int bakery = add(501, QStringLiteral("2"), QStringLiteral("Bakery"));
+    add(502, QStringLiteral("10"), QStringLiteral("Milk"), {dairy});
+    add(502, QStringLiteral("11"), QStringLiteral("Cheese"), {dairy});
+    add(502, QStringLiteral("20"), QStringLiteral("Bread"));
+    TypesRepository r = repo();
+    struct Case {
+        int parent;
+        Column column;
+        const char* text;
+        QStringList codes;
+    };
+    const Case cases[] = {
+        {dairy, Column::None, "", {"10", "11"}},
+        {dairy, Column::Name, "ees", {"11"}},
+        {dairy, Column::Code, "2", {}},
+        {bakery, Column::None, "", {"10", "11", "20"}},  // no links under it: everything
+        {0, Column::None, "", {"10", "11", "20"}},
+        {0, Column::Code, "0", {"10", "20"}},
+        {9999, Column::Name, "Bread", {"20"}},
+    };
+    for (const Case& c : cases) {
+        QStringList found = codesOf(r.picker(502, c.parent, c.column, QString::fromUtf8(c.text)));
+        found.sort();
+        EXPECT_EQ(found, c.codes) << c.parent << " " << c.text;
+    }
+    const QList<Value> milk = r.picker(502, dairy, Column::Code, QStringLiteral("10"));
+    ASSERT_EQ(milk.size(), 1);
+    EXPECT_EQ(milk.first().name, QStringLiteral("Milk"));
+    EXPECT_GT(milk.first().counter, 0);
+}
+
+TEST_P(TypesRepositoryTest, DeleteIsRefusedWhileGoodsOrAccountsUseTheValue) {
+    using namespace listmessages;
+    const int used = add(503, QStringLiteral("1"), QStringLiteral("used"));
+    const int unused = add(503, QStringLiteral("2"), QStringLiteral("unused"));
+    const int account = add(202, QStringLiteral("1"), QStringLiteral("account"));
+    const int child = add(504, QStringLiteral("1"), QStringLiteral("child"), {unused});
+    Session s = session();
+    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, LevelID3) VALUES ('1', :c)"),
+                       {{QStringLiteral(":c"), used}}));
+    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Acc_Code (LevelID2) VALUES (:c)"),
+                       {{QStringLiteral(":c"), account}}));
+    TypesRepository r = repo();
+    EXPECT_EQ(r.useCount(503, used), 1);
+    EXPECT_EQ(r.useCount(503, unused), 0);
+    EXPECT_EQ(r.useCount(202, account), 1);
+    EXPECT_EQ(r.useCount(61, 1), 0);
+
+    const CheckResult refused = r.canDelete(503, used);
+    EXPECT_FALSE(refused.ok);
+    EXPECT_EQ(refused.message, kCannotDelete + QLatin1Char('\n') + kTiedToGoods);
+    EXPECT_FALSE(r.canDelete(202, account).ok);
+
+    const CheckResult allowed = r.canDelete(503, unused);
+    ASSERT_TRUE(allowed.ok);
+    EXPECT_EQ(allowed.message, kDeleteQuestion);
+    // The value goes with its links, and so do the links of the values under it.
+    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO TypesLink (Counter, Link) VALUES (:c, 1)"),
+                       {{QStringLiteral(":c"), unused}}));
+    ASSERT_TRUE(r.remove(unused));
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types WHERE Counter = :c"),
+                    {{QStringLiteral(":c"), unused}}),
+              0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM TypesLink WHERE Counter = :c"),
+                    {{QStringLiteral(":c"), unused}}),
+              0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types WHERE Counter = :c"),
+                    {{QStringLiteral(":c"), child}}),
+              1);
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(TypesRepositoryTest, LevelNineValuesAreNeverDeletedThroughTheList) {
+    const int value = add(509, QStringLiteral("1"), QStringLiteral("unused level 9 value"));
+    const CheckResult r = repo().canDelete(509, value);
+    EXPECT_FALSE(r.ok);
+    EXPECT_EQ(r.message,
+              listmessages::kCannotDelete + QLatin1Char('\n') + listmessages::kTiedToGoods);
+    // The person sees the connection message first, as before.
+    ASSERT_EQ(messages().count(), 1);
+    EXPECT_EQ(messages().messages().first().text, Database::connectionFailureMessage());
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types")), 1);
+}
+
+TEST_P(TypesRepositoryTest, PartyCodesShareOneRunWithDashesRemoved) {
+    Session s = session();
+    struct Party {
+        int typeNo;
+        const char* code;
+    };
+    const Party parties[] = {{10, "12-3"}, {11, "124"}, {10, ""}, {61, "999"}};
+    int counter = 100;
+    for (const Party& p : parties) {
+        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code) "
+                                          "VALUES (:counter, :typeNo, :code)"),
+                           {{QStringLiteral(":counter"), ++counter},
+                            {QStringLiteral(":typeNo"), p.typeNo},
+                            {QStringLiteral(":code"), QString::fromLatin1(p.code)}}));
+    }
+    EXPECT_EQ(repo().newPartyCode(), 125);
+    ASSERT_TRUE(
+        s.exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code) VALUES "
+                              "(200, 10, '9-9-9')")));
+    EXPECT_EQ(repo().newPartyCode(), 1000);
+    EXPECT_EQ(repo().newCounter(10), 201);
+}
+
+TEST_P(TypesRepositoryTest, SingleValuedSettingsAreMadeOnFirstSaveThenUpdated) {
+    TypesRepository r = repo();
+    EXPECT_EQ(r.singleCode(), QString());
+    EXPECT_EQ(r.clubFigures().purchaseFactor, 0);
+    ASSERT_TRUE(r.saveSingleCode(QStringLiteral("7")));
+    ASSERT_TRUE(r.saveSingleCode(QStringLiteral("8")));
+    ASSERT_TRUE(r.saveSingleName(QStringLiteral("پيام")));
+    ASSERT_TRUE(r.saveClubFigures({1500000, 25000.5}));
+    ASSERT_TRUE(r.saveClubFigures({2000000, 30000}));
+    EXPECT_EQ(r.singleCode(), QStringLiteral("8"));
+    EXPECT_EQ(r.singleName(), QStringLiteral("پيام"));
+    EXPECT_EQ(r.clubFigures().purchaseFactor, 2000000);
+    EXPECT_EQ(r.clubFigures().rebateAmount, 30000);
+    for (const int typeNo : {TypesRepository::kSingleCodeSetting,
+                             TypesRepository::kSingleNameSetting, TypesRepository::kClubFigures}) {
+        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types WHERE TypeNo = :t"),
+                        {{QStringLiteral(":t"), typeNo}}),
+                  1)
+            << typeNo;
+    }
+    // Figures typed with separators are read as amounts.
+    Session s = session();
+    ASSERT_TRUE(s.exec(QStringLiteral("UPDATE Types SET Value1 = :v WHERE TypeNo = 1009"),
+                       {{QStringLiteral(":v"), QStringLiteral("1,250,000")}}));
+    EXPECT_EQ(r.clubFigures().purchaseFactor, 1250000);
+}
+
+TEST_P(TypesRepositoryTest, UnitsAreListedByName) {
+    add(61, QStringLiteral("2"), QStringLiteral("kg"));
+    add(61, QStringLiteral("1"), QStringLiteral("box"));
+    const QList<Value> units = repo().units();
+    ASSERT_EQ(units.size(), 2);
+    EXPECT_EQ(units.at(0).name, QStringLiteral("box"));
+    EXPECT_EQ(units.at(1).name, QStringLiteral("kg"));
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(TypesRepositoryTest);
+
+}  // namespace
+}  // namespace sandogh

@@ -8,6 +8,7 @@ int runWords(AdminCall& call);
 int runDevice(AdminCall& call);
 int runInitDb(AdminCall& call);
 int runDemo(AdminCall& call);
+int runSell(AdminCall& call);
 
 const QList<AdminCommand>& adminCommands() {
     static const QList<AdminCommand> commands = {
@@ -20,6 +21,7 @@ const QList<AdminCommand>& adminCommands() {
          runInitDb},
         {"demo", "demo                       a demo shop (Provider.txt, database, goods, users)",
          runDemo},
+        {"sell", "sell [--customer N] [--return] --dry-run ENTRY...  ring up a sale", runSell},
     };
     return commands;
 }

@@ -1,0 +1,201 @@
+#include <QCoreApplication>
+#include <QDate>
+#include <chrono>
+
+#include "AdminArgs.h"
+#include "AdminCommand.h"
+#include "common/JalaliCalendar.h"
+#include "data/Clock.h"
+#include "data/ConnectionFile.h"
+#include "data/ConnectionSettings.h"
+#include "data/Database.h"
+#include "data/ErrorLog.h"
+#include "data/MessageService.h"
+#include "data/SqlQuery.h"
+#include "data/schema/Migrator.h"
+#include "data/schema/ShopSchema.h"
+#include "sales/SaleSession.h"
+#include "sales/SaleTexts.h"
+#include "settings/MachineSettings.h"
+#include "settings/QSettingsStore.h"
+
+namespace sandogh {
+
+namespace {
+
+const QString kMissingConnectionFile =
+    QStringLiteral("فايل Provider.txt در مسير برنامه موجود نيست!");
+
+const char* const kUsage =
+    "usage: sandogh-admin sell [--dir D] [--user NAME] [--station ID] [--date YYYY/MM/DD]\n"
+    "                          [--customer COUNTER] [--return] [--sales-type N] --dry-run "
+    "ENTRY...\n"
+    "Each ENTRY is typed into the barcode box and ended with Enter. --dry-run prints the lines\n"
+    "(barcode, quantity, unit price, tax percent, line total, tab-separated) and the total;\n"
+    "it is required for now, as saving a sale is not available from the command line yet.\n";
+
+// Messages go to the error stream; prompts (the price, the quantity) are answered with
+// nothing, that is, cancelled.
+class ConsoleMessages final : public MessageService {
+public:
+    explicit ConsoleMessages(QTextStream& err) : m_err(err) {}
+    bool show(const QString& text, MessageStyle, const QString& title) override {
+        m_err << title << ' ' << text.trimmed() << '\n';
+        m_err.flush();
+        return true;
+    }
+    bool prompt(const QString& text, QString&, bool) override {
+        m_err << text.trimmed() << ": " << QStringLiteral("(no answer)") << '\n';
+        m_err.flush();
+        return false;
+    }
+
+private:
+    QTextStream& m_err;
+};
+
+QString todayJalali() {
+    using namespace std::chrono;
+    const QDate today = QDate::currentDate();
+    const DaySerial serial = PlatformDate::fromDate(
+        year_month_day{year{today.year()}, month{static_cast<unsigned>(today.month())},
+                       day{static_cast<unsigned>(today.day())}});
+    return QString::fromStdString(JalaliCalendar::toJalaliText(serial));
+}
+
+// A number as plain digits: "3", "10000", "0.75", "32700".
+QString plain(double value) {
+    QString text = QString::number(value, 'f', 6);
+    while (text.endsWith(u'0')) {
+        text.chop(1);
+    }
+    if (text.endsWith(u'.')) {
+        text.chop(1);
+    }
+    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+}
+
+int usage(AdminCall& call, const QString& problem) {
+    call.err << "sandogh-admin sell: " << problem << '\n' << kUsage;
+    return ExitUsage;
+}
+
+// The ID of an active user by login name; -1 when there is none.
+int userIdOf(Database& database, const QString& userName) {
+    Session s = database.session(QStringLiteral("sandogh-admin"), QStringLiteral("sell"));
+    SqlQuery q(s, QStringLiteral("SELECT ID FROM Users WHERE UserName = :name AND Active = 1"));
+    q.bind(QStringLiteral(":name"), userName);
+    return q.exec() && q.next() ? q.integer(0) : -1;
+}
+
+}  // namespace
+
+// sandogh-admin sell: a sale rung up from the command line through the same sale session
+// as the sale screen, on the shop database of the program folder.
+int runSell(AdminCall& call) {
+    const AdminArgs args(call.args,
+                         {QStringLiteral("user"), QStringLiteral("station"), QStringLiteral("date"),
+                          QStringLiteral("customer"), QStringLiteral("sales-type")},
+                         {QStringLiteral("return"), QStringLiteral("dry-run")});
+    if (!args.ok()) {
+        return usage(call, args.error());
+    }
+    if (!args.flag(QStringLiteral("dry-run"))) {
+        return usage(call, QStringLiteral("--dry-run is required: saving is not available here "
+                                          "yet"));
+    }
+    if (args.positional().isEmpty()) {
+        return usage(call, QStringLiteral("no ENTRY given"));
+    }
+    bool ok = true;
+    const int station = args.value(QStringLiteral("station"), QStringLiteral("0")).toInt(&ok);
+    if (!ok) {
+        return usage(call, QStringLiteral("--station needs a number"));
+    }
+    const int customer = args.value(QStringLiteral("customer"), QStringLiteral("0")).toInt(&ok);
+    if (!ok) {
+        return usage(call, QStringLiteral("--customer needs a number (the customer's Counter)"));
+    }
+    const int salesType = args.value(QStringLiteral("sales-type"), QStringLiteral("1")).toInt(&ok);
+    if (!ok ||
+        (salesType != SaleSession::kFirstSalesType && salesType != SaleSession::kSecondSalesType)) {
+        return usage(call, QStringLiteral("--sales-type is 1 or 2"));
+    }
+    QString date;
+    if (args.has(QStringLiteral("date"))) {
+        const std::optional<std::string> normal =
+            JalaliCalendar::normalizeDateText(args.value(QStringLiteral("date")).toStdString());
+        if (!normal) {
+            return usage(call, QStringLiteral("--date is a Jalali date YYYY/MM/DD"));
+        }
+        date = QString::fromStdString(*normal);
+    }
+
+    ConsoleMessages messages(call.err);
+    SystemClock clock;
+    ErrorLog log(call.programDir, &messages, clock, todayJalali(),
+                 QStringLiteral("sandogh-admin ") + QCoreApplication::applicationVersion());
+    QSettingsStore store;
+    MachineSettings settings(store);
+
+    ConnectionFile file(call.programDir, &log);
+    if (!file.LoadPrimary(settings.fiscalYearDatabase().trimmed())) {
+        call.err << kMissingConnectionFile << '\n';
+        return ExitFailed;
+    }
+    ConnectionSettings connection;
+    QString error;
+    if (!ConnectionSettings::parse(file.connectionString(), call.programDir, connection, &error)) {
+        call.err << "sandogh-admin sell: " << error << '\n';
+        return ExitFailed;
+    }
+    DatabaseOptions options;
+    options.otherDatabases = Migrator::otherDatabasesOf(shopMigrations());
+    Database database(connection, &messages, &log, options);
+
+    SaleSession sale(database, settings, messages, clock);
+    if (args.has(QStringLiteral("user"))) {
+        const QString name = args.value(QStringLiteral("user"));
+        const int id = userIdOf(database, name);
+        if (id < 0) {
+            call.err << "sandogh-admin sell: no active user \"" << name << "\"\n";
+            return ExitFailed;
+        }
+        sale.setUser(id, name);
+    }
+    if (station != 0) {
+        sale.setStation(station);
+    }
+    if (!date.isEmpty()) {
+        sale.setSaleDate(date);
+    }
+    if (args.flag(QStringLiteral("return"))) {
+        sale.setMode(SaleMode::Return);
+    }
+    sale.setSalesType(salesType);
+    if (customer != 0 && !sale.selectCustomer(customer)) {
+        static_cast<MessageService&>(messages).show(SaleTexts::customerNotResolved(),
+                                                    MessageStyle::Critical);
+        return ExitFailed;
+    }
+
+    for (const QString& entry : args.positional()) {
+        const EntryOutcome outcome = sale.enterText(entry);
+        if (outcome.refused) {
+            return ExitFailed;
+        }
+        if (outcome.notFound) {
+            call.err << "sandogh-admin sell: nothing found for \"" << outcome.boxText << "\"\n";
+            return ExitFailed;
+        }
+    }
+
+    for (const SaleLine& line : sale.lines()) {
+        call.out << line.barcode << '\t' << plain(line.quantity) << '\t' << plain(line.unitPrice)
+                 << '\t' << plain(line.taxPercent) << '\t' << plain(line.total) << '\n';
+    }
+    call.out << plain(sale.total()) << '\n';
+    return ExitOk;
+}
+
+}  // namespace sandogh

@@ -1,0 +1,345 @@
+#include <gtest/gtest.h>
+
+#include "ShopBackendTest.h"
+#include "data/repositories/GoodsMessages.h"
+#include "data/repositories/GoodsRepository.h"
+#include "data/repositories/GoodsSavedHook.h"
+
+namespace sandogh {
+namespace {
+
+// Remembers what the follow-up of each save and delete was told.
+class RecordingHook final : public GoodsSavedHook {
+public:
+    bool goodsSaved(Session& session, const GoodsArticle& article) override {
+        sessionValid = session.isValid();
+        saved << article;
+        return true;
+    }
+    bool goodsDeleted(Session& /*session*/, const GoodsArticle& article) override {
+        deleted << article;
+        return true;
+    }
+    QList<GoodsArticle> saved;
+    QList<GoodsArticle> deleted;
+    bool sessionValid = false;
+};
+
+class GoodsRepositoryTest : public test::ShopBackendTest {
+protected:
+    static constexpr int kUser = 7;
+
+    GoodsRepository repository() { return GoodsRepository(db(), clock, kUser, &hook); }
+
+    static GoodsArticle article(const QString& barcode, const QString& name, double cost) {
+        GoodsArticle a;
+        a.barcode = barcode;
+        a.name = name;
+        a.cost = cost;
+        return a;
+    }
+
+    qint64 priceRows(const QString& barcode) {
+        return number(QStringLiteral("SELECT COUNT(*) FROM Price_History WHERE EAN_CODE = :b"),
+                      {{QStringLiteral(":b"), barcode}});
+    }
+
+    RecordingHook hook;
+};
+
+TEST_P(GoodsRepositoryTest, ANewArticleGetsItsStockRowOnBranchOneAndItsFirstPrice) {
+    GoodsRepository goods = repository();
+    GoodsArticle a =
+        article(QStringLiteral(" 6260000000017 "), QStringLiteral("شیر کم‌چرب"), 48000);
+    a.specCode = QStringLiteral(" 17 ");
+    a.weighed = true;
+    a.favourite = true;
+    a.favoriteTab = 2;
+    a.askQuantity = true;
+    const CheckResult saved = goods.save(a);
+    ASSERT_TRUE(saved.ok) << saved.message.toStdString();
+    EXPECT_EQ(saved.message, listmessages::kSaved);
+    EXPECT_GT(a.id, 0);
+    EXPECT_EQ(a.barcode, QStringLiteral("6260000000017"));
+
+    Session s = db().session();
+    SqlQuery stock(s, QStringLiteral("SELECT Import, Export, Stock, Branch FROM Stock "
+                                     "WHERE Barcode = '6260000000017'"));
+    ASSERT_TRUE(stock.exec() && stock.next());
+    EXPECT_EQ(stock.number(0), 0.0);
+    EXPECT_EQ(stock.number(1), 0.0);
+    EXPECT_EQ(stock.number(2), 0.0);
+    EXPECT_EQ(stock.integer(3), 1);
+
+    SqlQuery row(s, QStringLiteral("SELECT Spec_Code, GType, Type, ISFavorite, FavoriteTab, AQIS, "
+                                   "ISActive FROM Goods WHERE ID = :id"));
+    row.bind(QStringLiteral(":id"), a.id);
+    ASSERT_TRUE(row.exec() && row.next());
+    EXPECT_EQ(row.text(0), QStringLiteral("17"));
+    EXPECT_EQ(row.integer(1), 1);
+    EXPECT_EQ(row.integer(2), 1);
+    EXPECT_EQ(row.integer(3), 1);
+    EXPECT_EQ(row.integer(4), 2);
+    EXPECT_EQ(row.integer(5), 1);
+    EXPECT_EQ(row.integer(6), 1);
+
+    SqlQuery price(s, QStringLiteral("SELECT UserID, DateTime, Price FROM Price_History "
+                                     "WHERE EAN_CODE = '6260000000017'"));
+    ASSERT_TRUE(price.exec() && price.next());
+    EXPECT_EQ(price.integer(0), kUser);
+    // The fixed clock stands at 21 March 2025, 09:30: Farvardin 1st, 1404.
+    EXPECT_EQ(price.text(1), QStringLiteral("1404/01/01 09:30:00"));
+    EXPECT_EQ(price.number(2), 48000.0);
+    EXPECT_FALSE(price.next());
+}
+
+TEST_P(GoodsRepositoryTest, APriceRowIsWrittenOnlyWhenTheSalePriceChanges) {
+    GoodsRepository goods = repository();
+    GoodsArticle a = article(QStringLiteral("1001"), QStringLiteral("Tea"), 1000);
+    ASSERT_TRUE(goods.save(a).ok);
+    ASSERT_EQ(priceRows(QStringLiteral("1001")), 1);
+
+    a.name = QStringLiteral("Black tea");
+    a.cost2 = 900;  // the second price is not the sale price of the history
+    ASSERT_TRUE(goods.save(a).ok);
+    EXPECT_EQ(priceRows(QStringLiteral("1001")), 1);
+
+    a.cost = 1250;
+    clock.advanceSeconds(60);
+    ASSERT_TRUE(goods.save(a).ok);
+    EXPECT_EQ(priceRows(QStringLiteral("1001")), 2);
+    EXPECT_EQ(goods.latestPrice(QStringLiteral("1001")), 1250.0);
+
+    ASSERT_TRUE(goods.save(a).ok);
+    EXPECT_EQ(priceRows(QStringLiteral("1001")), 2);
+    EXPECT_EQ(rows(QStringLiteral("Goods")), 1);
+    EXPECT_EQ(rows(QStringLiteral("Stock")), 1);
+}
+
+TEST_P(GoodsRepositoryTest, NamesHoldingQuotesAndSqlWordsAreStoredAsTyped) {
+    GoodsRepository goods = repository();
+    const QString name = QStringLiteral("O'Brien's \"best\"'); DROP TABLE Goods; --");
+    const QString latin = QStringLiteral("50% off_ [x] \\ ''");
+    GoodsArticle a = article(QStringLiteral("2002"), name, 1);
+    a.enName = latin;
+    a.stockNo1 = QStringLiteral("'A'");
+    ASSERT_TRUE(goods.save(a).ok);
+    const auto found = goods.find(QStringLiteral("2002"));
+    ASSERT_TRUE(found.has_value());
+    EXPECT_EQ(found->name, name);
+    EXPECT_EQ(found->enName, latin);
+    EXPECT_EQ(found->stockNo1, QStringLiteral("'A'"));
+    EXPECT_EQ(rows(QStringLiteral("Goods")), 1);
+}
+
+TEST_P(GoodsRepositoryTest, BadInputIsRefusedWithItsMessageAndNothingIsSaved) {
+    GoodsRepository goods = repository();
+    GoodsArticle first = article(QStringLiteral("3003"), QStringLiteral("Rice"), 10);
+    ASSERT_TRUE(goods.save(first).ok);
+    hook.saved.clear();
+
+    struct Case {
+        const char* what;
+        GoodsArticle input;
+        QString message;
+    };
+    const Case cases[] = {
+        {"empty barcode", article(QStringLiteral("  "), QStringLiteral("X"), 1),
+         goodsmessages::kEnterBarcode},
+        {"only a quote", article(QStringLiteral("'"), QStringLiteral("X"), 1),
+         goodsmessages::kEnterBarcode},
+        {"empty name", article(QStringLiteral("3004"), QStringLiteral("   "), 1),
+         listmessages::kEnterName},
+        {"barcode used", article(QStringLiteral("3003"), QStringLiteral("Other"), 1),
+         goodsmessages::kBarcodeTaken},
+        {"barcode used, typed with blanks",
+         article(QStringLiteral(" 3003"), QStringLiteral("O"), 1), goodsmessages::kBarcodeTaken},
+    };
+    for (const Case& c : cases) {
+        GoodsArticle input = c.input;
+        const CheckResult result = goods.save(input);
+        EXPECT_FALSE(result.ok) << c.what;
+        EXPECT_EQ(result.message, c.message) << c.what;
+        EXPECT_EQ(input.id, 0) << c.what;
+    }
+    EXPECT_EQ(rows(QStringLiteral("Goods")), 1);
+    EXPECT_EQ(rows(QStringLiteral("Stock")), 1);
+    EXPECT_EQ(rows(QStringLiteral("Price_History")), 1);
+    EXPECT_TRUE(hook.saved.isEmpty());
+}
+
+TEST_P(GoodsRepositoryTest, DeleteTakesTheRowsHangingOnTheBarcodeAndLeavesOthers) {
+    GoodsRepository goods = repository();
+    GoodsArticle gone = article(QStringLiteral("4004"), QStringLiteral("Gone"), 5);
+    gone.specCode = QStringLiteral("44");
+    GoodsArticle kept = article(QStringLiteral("4005"), QStringLiteral("Kept"), 5);
+    ASSERT_TRUE(goods.save(gone).ok);
+    ASSERT_TRUE(goods.save(kept).ok);
+    for (const char* barcode : {"4004", "4005"}) {
+        const SqlBinds b{{QStringLiteral(":b"), QString::fromLatin1(barcode)}};
+        ASSERT_TRUE(
+            exec(QStringLiteral("INSERT INTO tblRelatedCode (Ean_Code, Price) VALUES (:b, 1)"), b));
+        ASSERT_TRUE(
+            exec(QStringLiteral("INSERT INTO SetItem (SetId, Ean_Code) VALUES (9, :b)"), b));
+        ASSERT_TRUE(exec(
+            QStringLiteral("INSERT INTO ItemLock (Ean_Code, Qty, IsLock) VALUES (:b, 2, 1)"), b));
+    }
+
+    const CheckResult allowed = goods.canDelete(QStringLiteral("4004"));
+    EXPECT_TRUE(allowed.ok);
+    EXPECT_EQ(allowed.message, listmessages::kDeleteQuestion);
+    ASSERT_TRUE(goods.remove(QStringLiteral("4004")).ok);
+
+    for (const QString& table :
+         {QStringLiteral("Goods WHERE EAN_Code"), QStringLiteral("Stock WHERE Barcode"),
+          QStringLiteral("tblRelatedCode WHERE Ean_Code"), QStringLiteral("SetItem WHERE Ean_Code"),
+          QStringLiteral("ItemLock WHERE Ean_Code"),
+          QStringLiteral("Price_History WHERE EAN_CODE")}) {
+        EXPECT_EQ(
+            number(QStringLiteral("SELECT COUNT(*) FROM ") + table + QStringLiteral(" = '4004'")),
+            0)
+            << table.toStdString();
+        EXPECT_EQ(
+            number(QStringLiteral("SELECT COUNT(*) FROM ") + table + QStringLiteral(" = '4005'")),
+            1)
+            << table.toStdString();
+    }
+    ASSERT_EQ(hook.deleted.size(), 1);
+    EXPECT_EQ(hook.deleted.first().barcode, QStringLiteral("4004"));
+    EXPECT_EQ(hook.deleted.first().specCode, QStringLiteral("44"));
+}
+
+TEST_P(GoodsRepositoryTest, AnArticleNamedByDocumentsIsNotDeletedButCanBeTakenOutOfUse) {
+    GoodsRepository goods = repository();
+    GoodsArticle sold = article(QStringLiteral("5005"), QStringLiteral("Sold"), 5);
+    ASSERT_TRUE(goods.save(sold).ok);
+    addDocumentLine(1, 2, QStringLiteral("5005"));
+
+    EXPECT_EQ(goods.documentLineCount(QStringLiteral("5005")), 1);
+    const CheckResult allowed = goods.canDelete(QStringLiteral("5005"));
+    EXPECT_FALSE(allowed.ok);
+    EXPECT_EQ(allowed.message, goodsmessages::inDocumentsRefusal());
+    const CheckResult removed = goods.remove(QStringLiteral("5005"));
+    EXPECT_FALSE(removed.ok);
+    EXPECT_EQ(removed.message, goodsmessages::inDocumentsRefusal());
+    EXPECT_EQ(rows(QStringLiteral("Goods")), 1);
+    EXPECT_EQ(rows(QStringLiteral("Stock")), 1);
+    EXPECT_EQ(rows(QStringLiteral("Whs_QTYDocD")), 1);
+    EXPECT_TRUE(hook.deleted.isEmpty());
+
+    ASSERT_TRUE(goods.setActive(QStringLiteral("5005"), false));
+    EXPECT_FALSE(goods.find(QStringLiteral("5005"))->active);
+    EXPECT_FALSE(goods.setActive(QStringLiteral("no such"), false));
+}
+
+TEST_P(GoodsRepositoryTest, TheHookHearsOfEverySaveWithTheArticleAsSaved) {
+    GoodsRepository goods = repository();
+    GoodsArticle a = article(QStringLiteral("6006"), QStringLiteral("Cheese"), 125000);
+    a.specCode = QStringLiteral("12");
+    a.weighed = true;
+    ASSERT_TRUE(goods.save(a).ok);
+    a.cost = 130000;
+    ASSERT_TRUE(goods.save(a).ok);
+    ASSERT_EQ(hook.saved.size(), 2);
+    EXPECT_TRUE(hook.sessionValid);
+    EXPECT_EQ(hook.saved.at(0).barcode, QStringLiteral("6006"));
+    EXPECT_EQ(hook.saved.at(0).specCode, QStringLiteral("12"));
+    EXPECT_EQ(hook.saved.at(0).cost, 125000.0);
+    EXPECT_TRUE(hook.saved.at(0).weighed);
+    EXPECT_EQ(hook.saved.at(1).cost, 130000.0);
+    EXPECT_EQ(hook.saved.at(1).id, a.id);
+}
+
+TEST_P(GoodsRepositoryTest, LevelsAreKeptAndComposeTheStructuredCode) {
+    addLevel(501, QStringLiteral("Group"), 2);
+    addLevel(502, QStringLiteral("Brand"), 3);
+    addLevel(503, QStringLiteral("Size"), 1);
+    addValue(100, 501, QStringLiteral("01"), QStringLiteral("Dairy"));
+    addValue(200, 502, QStringLiteral("002"), QStringLiteral("Pegah"), 100);
+    addValue(300, 503, QStringLiteral("L"), QStringLiteral("Large"));
+    GoodsRepository goods = repository();
+
+    GoodsArticle a = article(QStringLiteral("7007"), QStringLiteral("Milk"), 1);
+    a.levels = {100, 200, 300};
+    ASSERT_TRUE(goods.save(a).ok);
+    EXPECT_EQ(a.complexCode, QStringLiteral("01002L"));
+    Session s = db().session();
+    SqlQuery q(s, QStringLiteral("SELECT ComplexCode, LevelID1, LevelID2, LevelID3, LevelID4 "
+                                 "FROM Goods WHERE EAN_Code = '7007'"));
+    ASSERT_TRUE(q.exec() && q.next());
+    EXPECT_EQ(q.text(0), QStringLiteral("01002L"));
+    EXPECT_EQ(q.integer(1), 100);
+    EXPECT_EQ(q.integer(2), 200);
+    EXPECT_EQ(q.integer(3), 300);
+    EXPECT_EQ(q.integer(4), 0);
+
+    // A level left out before a chosen one keeps its place with zeros; a counter that is
+    // no value of its level is not kept.
+    GoodsArticle b = article(QStringLiteral("7008"), QStringLiteral("Other"), 1);
+    b.levels = {100, 0, 300, 200};
+    ASSERT_TRUE(goods.save(b).ok);
+    EXPECT_EQ(b.complexCode, QStringLiteral("01000L"));
+    EXPECT_EQ(b.levels[3], 0);
+    const auto values = goods.levelValues(a.levels);
+    EXPECT_EQ(values[1].code, QStringLiteral("002"));
+    EXPECT_EQ(values[1].name, QStringLiteral("Pegah"));
+}
+
+TEST(GoodsComplexCode, CodesFollowTheLevelOrderEachInItsWidth) {
+    using Codes = std::array<QString, GoodsArticle::kLevels>;
+    using Digits = std::array<int, GoodsArticle::kLevels>;
+    const Digits digits{2, 3, 1, 2};
+    struct Case {
+        Codes codes;
+        QString composed;
+    };
+    const Case cases[] = {
+        {{}, QString()},
+        {{QStringLiteral("01")}, QStringLiteral("01")},
+        {{QStringLiteral("01"), QStringLiteral("002")}, QStringLiteral("01002")},
+        {{QString(), QStringLiteral("002")}, QStringLiteral("00002")},
+        {{QStringLiteral("01"), QString(), QString(), QStringLiteral("AB")},
+         QStringLiteral("010000AB")},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(GoodsRepository::composeComplexCode(c.codes, digits), c.composed)
+            << c.composed.toStdString();
+    }
+}
+
+TEST_P(GoodsRepositoryTest, TheProposedBarcodeFollowsTheNewestArticle) {
+    GoodsRepository goods = repository();
+    EXPECT_EQ(goods.proposedBarcode(), QStringLiteral("1"));
+    GoodsArticle older = article(QStringLiteral("6260000000099"), QStringLiteral("Old"), 1);
+    GoodsArticle newest = article(QStringLiteral("6260000000009"), QStringLiteral("New"), 1);
+    ASSERT_TRUE(goods.save(older).ok);
+    ASSERT_TRUE(goods.save(newest).ok);
+    EXPECT_EQ(goods.proposedBarcode(), QStringLiteral("6260000000010"));
+}
+
+TEST_P(GoodsRepositoryTest, AnEditedArticleKeepsItsBarcodeAndTheColumnsItDoesNotShow) {
+    ASSERT_TRUE(
+        exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Note, C_In_Paket, G_Min, "
+                            "G_Max, Cost) VALUES ('8008', 'Soap', 'shelf note', 12, 3, 30, 9)")));
+    GoodsRepository goods = repository();
+    auto a = goods.find(QStringLiteral("8008"));
+    ASSERT_TRUE(a.has_value());
+    a->barcode = QStringLiteral("8009");  // an edit never moves the article to a barcode
+    a->name = QStringLiteral("Hand soap");
+    ASSERT_TRUE(goods.save(*a).ok);
+    const auto back = goods.find(QStringLiteral("8008"));
+    ASSERT_TRUE(back.has_value());
+    EXPECT_EQ(back->name, QStringLiteral("Hand soap"));
+    EXPECT_EQ(back->note, QStringLiteral("shelf note"));
+    EXPECT_EQ(back->inPacket, 12.0);
+    EXPECT_EQ(back->minimum, 3.0);
+    EXPECT_EQ(back->maximum, 30.0);
+    EXPECT_FALSE(goods.find(QStringLiteral("8009")).has_value());
+    // An article made elsewhere without a stock row gets none by an edit.
+    EXPECT_EQ(rows(QStringLiteral("Stock")), 0);
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(GoodsRepositoryTest);
+
+}  // namespace
+}  // namespace sandogh

@@ -183,6 +183,20 @@ TEST_P(SaleEntry, TheDisplayIsSentTheTotalOnlyWhileItIsOn) {
                                           QStringLiteral("32,700")}));
 }
 
+TEST_P(SaleEntry, AFailedLookUpAddsNothingAndTheEntryGoesOn) {
+    sale().enterText(QStringLiteral("1001"));
+    exec(QStringLiteral("ALTER TABLE DiscountD RENAME TO DiscountD_Away"));
+    const EntryOutcome o = sale().enterText(QStringLiteral("6261234567890"));
+    EXPECT_FALSE(o.linesChanged);
+    EXPECT_TRUE(o.clearBox);
+    ASSERT_EQ(sale().lines().size(), 1);
+    EXPECT_DOUBLE_EQ(sale().total(), 2500);
+
+    exec(QStringLiteral("ALTER TABLE DiscountD_Away RENAME TO DiscountD"));
+    EXPECT_TRUE(sale().enterText(QStringLiteral("6261234567890")).linesChanged);
+    EXPECT_EQ(sale().lines().size(), 2);
+}
+
 SANDOGH_INSTANTIATE_BACKENDS(SaleEntry);
 
 }  // namespace

@@ -182,6 +182,10 @@ int runSell(AdminCall& call) {
     for (const QString& entry : args.positional()) {
         const EntryOutcome outcome = sale.enterText(entry);
         if (outcome.refused) {
+            if (outcome.kind == EntryKind::CardNumber) {
+                call.err << "sandogh-admin sell: card numbers are not looked up here (\""
+                         << outcome.boxText << "\")\n";
+            }
             return ExitFailed;
         }
         if (outcome.notFound) {

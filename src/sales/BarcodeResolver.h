@@ -19,7 +19,7 @@ struct SaleOptions;
 //  5. "//" and a number: the saved sale of that number (TransType 2, the newest of that
 //     number), loaded whole; also in return mode, where it is the sale being returned;
 //  6. quick entry: 4 characters or more are an active article's barcode, else the first
-//     active article with that specification code; shorter texts are a quantity for the
+//     active article with that Spec_Code; shorter texts are a quantity for the
 //     last line. With quick entry off every text is looked up as a barcode.
 // Ticket lines whose article is not in Goods are left out; kilograms are taken from
 // grams for goods of Type 1. Lines are priced and merged by the sale (addGoods).

@@ -11,7 +11,7 @@ enum class EntryKind {
     MizanTicket,        // 8 characters with the scale prefix: a MizanNet weighed ticket
     OnlineSalesTicket,  // 18 characters: an OnlineSales weighed ticket
     Document,           // "//" and a number: a saved document loaded
-    Goods,              // a barcode or specification code
+    Goods,              // a barcode or a Spec_Code
     Quantity,           // a quantity for the last line
 };
 

@@ -37,9 +37,9 @@ std::optional<QString> SaleLookups::firstActiveBySpecCode(Session& session,
     const Dialect& d = session.dialect();
     SqlQuery q(session, QStringLiteral("SELECT ") + d.top(1) +
                             QStringLiteral("Ean_Code FROM Goods WHERE ISActive = 1 "
-                                           "AND Spec_Code = :spec") +
+                                           "AND Spec_Code = :specCode") +
                             d.limit(1));
-    q.bind(QStringLiteral(":spec"), specCode);
+    q.bind(QStringLiteral(":specCode"), specCode);
     if (!q.exec()) {
         return std::nullopt;
     }
@@ -213,8 +213,8 @@ std::optional<SaleLookups::TicketGoods> SaleLookups::goodsBySpecCode(Session& se
                                                                      const QString& specCode) {
     SqlQuery q(session, QStringLiteral("SELECT Ean_Code, COALESCE(Goods.Name, '') AS Name, "
                                        "COALESCE(Cost, 0) AS Cost, COALESCE(TaxValue, 0) AS "
-                                       "TaxValue FROM Goods WHERE Spec_Code = :spec"));
-    q.bind(QStringLiteral(":spec"), specCode);
+                                       "TaxValue FROM Goods WHERE Spec_Code = :specCode"));
+    q.bind(QStringLiteral(":specCode"), specCode);
     if (!q.exec()) {
         return std::nullopt;
     }

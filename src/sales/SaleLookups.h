@@ -45,7 +45,7 @@ public:
 
     // Active goods with this barcode; nullopt when the look-up failed.
     static std::optional<qint64> activeCount(Session& session, const QString& barcode);
-    // The first active article with this specification code; empty text for none.
+    // The first active article with this Spec_Code; empty text for none.
     static std::optional<QString> firstActiveBySpecCode(Session& session, const QString& specCode);
     // The quantity-asking flag AQIS (and the name, for the question).
     static Flag asksQuantity(Session& session, const QString& barcode);

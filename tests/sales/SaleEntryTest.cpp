@@ -126,7 +126,7 @@ TEST_P(SaleEntry, ApostrophesAreRemovedBeforeTheLookUp) {
     EXPECT_EQ(sale().lines().at(0).barcode, QStringLiteral("6261234567890"));
 }
 
-TEST_P(SaleEntry, ASpecificationCodeFindsTheFirstActiveArticle) {
+TEST_P(SaleEntry, ASpecCodeFindsTheFirstActiveArticle) {
     addGoods({QStringLiteral("9990001"), 500, 0, QStringLiteral("Old"), 0, QStringLiteral("4455"),
               false});
     addGoods({QStringLiteral("9990002"), 600, 0, QStringLiteral("New"), 0, QStringLiteral("4455")});

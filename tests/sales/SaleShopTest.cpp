@@ -44,12 +44,12 @@ QString SaleShopTest::table(const char* name, const char* database) {
                              database ? QString::fromLatin1(database) : QString());
 }
 
-void SaleShopTest::addGoods(const GoodsRowSpec& g) {
+void SaleShopTest::addGoods(const TestGoods& g) {
     exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Spec_Code, Name, Cost, Cost2, TaxValue, "
-                        "ISActive, AQIS, Type, GType) VALUES (:b, :spec, :name, :cost, :cost2, "
+                        "ISActive, AQIS, Type, GType) VALUES (:b, :specCode, :name, :cost, :cost2, "
                         ":tax, :active, :aqis, :type, :gtype)"),
          {{QStringLiteral(":b"), g.barcode},
-          {QStringLiteral(":spec"), g.specCode},
+          {QStringLiteral(":specCode"), g.specCode},
           {QStringLiteral(":name"), g.name},
           {QStringLiteral(":cost"), g.cost},
           {QStringLiteral(":cost2"), g.cost2},

@@ -17,7 +17,7 @@
 
 namespace sandogh::test {
 
-struct GoodsRowSpec {
+struct TestGoods {
     QString barcode{};
     double cost = 0;
     double tax = 0;
@@ -48,7 +48,7 @@ protected:
     void exec(const QString& sql, const SqlBinds& binds = {});
     QString table(const char* name, const char* database = nullptr);
 
-    void addGoods(const GoodsRowSpec& goods);
+    void addGoods(const TestGoods& goods);
     // A price-change document with one article.
     void addPriceChange(int code, const QString& from, const QString& to, const QString& barcode,
                         double newCost);

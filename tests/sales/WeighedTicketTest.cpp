@@ -17,11 +17,11 @@ protected:
             return;
         }
         setOption("ScaleTicket", "Prefix", QStringLiteral("2"));
-        GoodsRowSpec cheese{QStringLiteral("501"), 400000, 9, QStringLiteral("Cheese")};
+        TestGoods cheese{QStringLiteral("501"), 400000, 9, QStringLiteral("Cheese")};
         cheese.type = 1;  // weighed: the scale sends grams
         cheese.specCode = QStringLiteral("31");
         addGoods(cheese);
-        GoodsRowSpec eggs{QStringLiteral("502"), 30000, 0, QStringLiteral("Eggs")};
+        TestGoods eggs{QStringLiteral("502"), 30000, 0, QStringLiteral("Eggs")};
         eggs.specCode = QStringLiteral("32");
         addGoods(eggs);
     }

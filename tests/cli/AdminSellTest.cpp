@@ -80,6 +80,20 @@ TEST_P(AdminSellTest, TheSecondSalesTypeSellsAtCost2) {
     EXPECT_EQ(r.outText(), QStringLiteral("6261234567890\t1\t11000\t9\t11990\n11990\n"));
 }
 
+TEST_P(AdminSellTest, TheSaleDateChoosesThePriceChangeDocument) {
+    Session s = db().session();
+    ASSERT_TRUE(
+        s.exec(QStringLiteral("INSERT INTO DiscountH (Code, FDate, SDate) VALUES "
+                              "(1, '1404/02/01', '1404/02/31')")));
+    ASSERT_TRUE(
+        s.exec(QStringLiteral("INSERT INTO DiscountD (Code, Ean_Code, NewCost) VALUES "
+                              "(1, '1001', 2000)")));
+    const AdminProcess::Result r = sell({QStringLiteral("--date"), QStringLiteral("1404/02/10"),
+                                         QStringLiteral("--dry-run"), QStringLiteral("1001")});
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.outText(), QStringLiteral("1001\t1\t2000\t0\t2000\n2000\n"));
+}
+
 TEST_P(AdminSellTest, AQuantityBeforeAnyBarcodeIsRefused) {
     const AdminProcess::Result r = sell({QStringLiteral("--dry-run"), QStringLiteral("12")});
     EXPECT_EQ(r.exitCode, 1);
@@ -103,6 +117,10 @@ TEST_P(AdminSellTest, AnUnknownCustomerAnUnpricedArticleAndUnknownGoodsFail) {
     EXPECT_EQ(customer.exitCode, 1);
     EXPECT_TRUE(
         QString::fromUtf8(customer.err).contains(QStringLiteral("مشتري به درستي انتخاب نشده است")));
+    EXPECT_EQ(sell({QStringLiteral("--user"), QStringLiteral("nobody"), QStringLiteral("--dry-run"),
+                    QStringLiteral("1001")})
+                  .exitCode,
+              1);
     // The price prompt has no one to answer it.
     EXPECT_EQ(sell({QStringLiteral("--dry-run"), QStringLiteral("2002")}).exitCode, 1);
     EXPECT_EQ(sell({QStringLiteral("--dry-run"), QStringLiteral("9999")}).exitCode, 1);

@@ -21,10 +21,10 @@ enum class ColumnType {
 struct ColumnDef {
     QString name;
     ColumnType type = ColumnType::Int;
-    int length = 0;           // for Text
+    int length = 0;  // for Text
     bool nullable = true;
-    bool identity = false;    // database-allocated row number (at most one per table)
-    QString defaultValue;     // literal SQL default, empty for none ("0", "''")
+    bool identity = false;  // database-allocated row number (at most one per table)
+    QString defaultValue;   // literal SQL default, empty for none ("0", "''")
 };
 
 // A table. database is empty for the shop database, or the name of another

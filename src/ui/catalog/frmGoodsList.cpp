@@ -1,0 +1,189 @@
+#include "ui/catalog/frmGoodsList.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include "data/MessageService.h"
+#include "data/repositories/GoodsMessages.h"
+#include "ui/catalog/CatalogCaptions.h"
+#include "ui/catalog/GoodsListModel.h"
+#include "ui/catalog/GridSetup.h"
+#include "ui/catalog/ResultMessage.h"
+#include "ui/catalog/frmGood.h"
+
+namespace sandogh {
+
+namespace {
+
+using Column = GoodsListQuery::SearchColumn;
+
+// The search choices in the order of the grid's first columns.
+constexpr Column kSearchColumns[] = {Column::Barcode, Column::SpecCode, Column::Name};
+
+}  // namespace
+
+frmGoodsList::frmGoodsList(Database& database, MessageService& messages, const Clock& clock,
+                           int userId, GoodsSavedHook* hook, QWidget* parent)
+    : QWidget(parent)
+    , database_(database)
+    , messages_(messages)
+    , clock_(clock)
+    , userId_(userId)
+    , hook_(hook)
+    , repository_(database, clock, userId, hook)
+    , model_(new GoodsListModel(database, this))
+    , txtSearch(new QLineEdit(this))
+    , cboSearchColumn(new QComboBox(this))
+    , grdGoods(new QTableView(this))
+    , cmdNew(new QPushButton(catalogcaptions::kNew, this))
+    , cmdEdit(new QPushButton(catalogcaptions::kEdit, this))
+    , cmdDeactivate(new QPushButton(catalogcaptions::kDeactivate, this))
+    , cmdDelete(new QPushButton(catalogcaptions::kDelete, this))
+    , cmdExit(new QPushButton(catalogcaptions::kExit, this)) {
+    using namespace catalogcaptions;
+    setObjectName(QStringLiteral("frmGoodsList"));
+    setLayoutDirection(Qt::RightToLeft);
+    setWindowTitle(kGoodsListTitle);
+    txtSearch->setObjectName(QStringLiteral("txtSearch"));
+    cboSearchColumn->setObjectName(QStringLiteral("cboSearchColumn"));
+    grdGoods->setObjectName(QStringLiteral("grdGoods"));
+    cmdNew->setObjectName(QStringLiteral("cmdNew"));
+    cmdEdit->setObjectName(QStringLiteral("cmdEdit"));
+    cmdDeactivate->setObjectName(QStringLiteral("cmdDeactivate"));
+    cmdDelete->setObjectName(QStringLiteral("cmdDelete"));
+    cmdExit->setObjectName(QStringLiteral("cmdExit"));
+    cboSearchColumn->addItems({kBarcode, kSpecCode, kGoodsName});
+    cboSearchColumn->setCurrentIndex(2);
+
+    grdGoods->setModel(model_);
+    grdGoods->setSelectionBehavior(QAbstractItemView::SelectRows);
+    grdGoods->setSelectionMode(QAbstractItemView::SingleSelection);
+    grdGoods->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    grdGoods->setAlternatingRowColors(true);
+    grdGoods->verticalHeader()->setVisible(false);
+    // Rows of one height: the grid never measures rows it has not shown.
+    grdGoods->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    grdGoods->horizontalHeader()->setStretchLastSection(true);
+    grdGoods->setColumnWidth(GoodsListModel::Barcode, 130);
+    grdGoods->setColumnWidth(GoodsListModel::SpecCode, 80);
+    grdGoods->setColumnWidth(GoodsListModel::Name, 240);
+    grdGoods->setColumnWidth(GoodsListModel::EnName, 160);
+
+    auto* search = new QHBoxLayout;
+    search->addWidget(new QLabel(kSearch, this));
+    search->addWidget(txtSearch, 1);
+    search->addWidget(new QLabel(kSearchIn, this));
+    search->addWidget(cboSearchColumn);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdNew);
+    buttons->addWidget(cmdEdit);
+    buttons->addWidget(cmdDeactivate);
+    buttons->addWidget(cmdDelete);
+    buttons->addStretch(1);
+    buttons->addWidget(cmdExit);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(search);
+    layout->addWidget(grdGoods, 1);
+    layout->addLayout(buttons);
+    resize(980, 600);
+
+    connect(txtSearch, &QLineEdit::textChanged, this, &frmGoodsList::runSearch);
+    connect(cboSearchColumn, &QComboBox::currentIndexChanged, this, &frmGoodsList::runSearch);
+    connect(cmdNew, &QPushButton::clicked, this, [this] { openArticle({}); });
+    connect(cmdEdit, &QPushButton::clicked, this, [this] {
+        if (const QString barcode = currentBarcode(); !barcode.isEmpty()) {
+            openArticle(barcode);
+        }
+    });
+    connect(grdGoods, &QTableView::doubleClicked, this, [this] {
+        if (const QString barcode = currentBarcode(); !barcode.isEmpty()) {
+            openArticle(barcode);
+        }
+    });
+    connect(cmdDeactivate, &QPushButton::clicked, this, &frmGoodsList::deactivateCurrent);
+    connect(cmdDelete, &QPushButton::clicked, this, &frmGoodsList::deleteCurrent);
+    connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    GridSetup::selectRow(grdGoods, 0);
+}
+
+void frmGoodsList::runSearch() {
+    const int index = cboSearchColumn->currentIndex();
+    const Column column =
+        index >= 0 && index < int(std::size(kSearchColumns)) ? kSearchColumns[index] : Column::Name;
+    model_->search(column, txtSearch->text());
+    GridSetup::selectRow(grdGoods, 0);
+}
+
+void frmGoodsList::refreshKeeping(const QString& barcode) {
+    model_->refresh();
+    if (barcode.isEmpty() || !selectBarcode(barcode)) {
+        GridSetup::selectRow(grdGoods, 0);
+    }
+}
+
+QString frmGoodsList::currentBarcode() const {
+    const int row = GridSetup::selectedRow(grdGoods);
+    return row >= 0 && row < model_->rowCount() ? model_->row(row).barcode : QString();
+}
+
+bool frmGoodsList::selectBarcode(const QString& barcode) {
+    const int row = model_->rowOf(barcode);
+    if (row < 0) {
+        return false;
+    }
+    GridSetup::selectRow(grdGoods, row);
+    return true;
+}
+
+frmGood* frmGoodsList::openArticle(const QString& barcode) {
+    auto* screen = new frmGood(database_, messages_, clock_, userId_, hook_, barcode, this);
+    screen->setWindowFlag(Qt::Window);
+    screen->setAttribute(Qt::WA_DeleteOnClose);
+    connect(screen, &frmGood::saved, this, &frmGoodsList::refreshKeeping);
+    connect(screen, &frmGood::deleted, this, [this] { refreshKeeping({}); });
+    screen->show();
+    return screen;
+}
+
+void frmGoodsList::deactivateCurrent() {
+    const QString barcode = currentBarcode();
+    if (barcode.isEmpty() ||
+        !messages_.show(goodsmessages::kDeactivateConfirm, MessageStyle::QuestionYesNo)) {
+        return;
+    }
+    if (repository_.setActive(barcode, false)) {
+        refreshKeeping(barcode);
+    }
+}
+
+void frmGoodsList::deleteCurrent() {
+    const QString barcode = currentBarcode();
+    if (barcode.isEmpty()) {
+        return;
+    }
+    const CheckResult allowed = repository_.canDelete(barcode);
+    if (!allowed.ok) {
+        ResultMessage::show(messages_, allowed);
+        if (messages_.show(goodsmessages::kDeactivateQuestion, MessageStyle::QuestionYesNo) &&
+            repository_.setActive(barcode, false)) {
+            refreshKeeping(barcode);
+        }
+        return;
+    }
+    if (!messages_.show(allowed.message, MessageStyle::QuestionOkCancel)) {
+        return;
+    }
+    const CheckResult removed = repository_.remove(barcode);
+    ResultMessage::show(messages_, removed);
+    if (removed.ok) {
+        refreshKeeping({});
+    }
+}
+
+}  // namespace sandogh

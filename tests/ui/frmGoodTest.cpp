@@ -1,0 +1,287 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QToolButton>
+
+#include "CatalogScreenFixture.h"
+#include "data/repositories/GoodsMessages.h"
+#include "data/repositories/GoodsSavedHook.h"
+#include "data/schema/ShopSchema.h"
+#include "devices/ScaleExporter.h"
+#include "devices/ScaleGoodsHook.h"
+#include "ui/catalog/frmGood.h"
+#include "ui/catalog/frmParametersList.h"
+
+namespace sandogh {
+namespace {
+
+const QString kEnterName = QStringLiteral("نام را وارد نمائيد");
+const QString kSaved = QStringLiteral("اطلاعات جديد با موفقيت ذخيره گرديد.");
+const QString kNotice = QStringLiteral("توجه!");
+const QString kDeleteQuestion = QStringLiteral("آيا براي حذف اطمينان داريد؟");
+
+class RecordingHook final : public GoodsSavedHook {
+public:
+    bool goodsSaved(Session& /*session*/, const GoodsArticle& article) override {
+        saved << article;
+        return true;
+    }
+    bool goodsDeleted(Session& /*session*/, const GoodsArticle& article) override {
+        deleted << article;
+        return true;
+    }
+    QList<GoodsArticle> saved;
+    QList<GoodsArticle> deleted;
+};
+
+class frmGoodTest : public test::CatalogScreenFixture {
+protected:
+    void SetUp() override {
+        CatalogScreenFixture::SetUp();
+        if (HasFatalFailure()) {
+            return;
+        }
+        // Two goods levels, the second's values hanging under the first's; two units.
+        ASSERT_TRUE(exec(QStringLiteral(
+            "INSERT INTO Code_Parameters (TypeNo, Name, NameEnglish, DigitQty, ParameterLevel) "
+            "VALUES (501, 'گروه', 'Group', 2, 1), (502, 'برند', 'Brand', 3, 2)")));
+        ASSERT_TRUE(exec(QStringLiteral(
+            "INSERT INTO Types (Counter, TypeNo, Code, Name) VALUES (10, 501, '01', 'لبنیات'), "
+            "(11, 501, '02', 'نوشیدنی'), (20, 502, '001', 'پگاه'), (21, 502, '002', 'زمزم'), "
+            "(30, 61, '1', 'عدد'), (31, 61, '2', 'کیلوگرم')")));
+        ASSERT_TRUE(exec(
+            QStringLiteral("INSERT INTO TypesLink (Counter, Link) VALUES (20, 10), (21, 11)")));
+    }
+
+    std::unique_ptr<frmGood> openGood(const QString& barcode = {}, GoodsSavedHook* with = nullptr) {
+        auto screen = std::make_unique<frmGood>(*database, messages, clock, 3,
+                                                with != nullptr ? with : &hook, barcode);
+        screen->show();
+        return screen;
+    }
+    // Opens a level's picker with its button and confirms the value of a code.
+    void pick(frmGood& screen, int level, const QString& code, QList<int>* offered = nullptr) {
+        control<QToolButton>(&screen, QStringLiteral("cmdLevel%1").arg(level))->click();
+        auto* picker = openChild<frmParametersList>(&screen);
+        ASSERT_NE(picker, nullptr);
+        if (offered != nullptr) {
+            for (const auto& v : picker->values()) {
+                *offered << v.counter;
+            }
+        }
+        for (const auto& v : picker->values()) {
+            if (v.code == code) {
+                ASSERT_TRUE(picker->selectCounter(v.counter));
+            }
+        }
+        control<QPushButton>(picker, QStringLiteral("cmdOk"))->click();
+        EXPECT_FALSE(picker->isVisible());
+    }
+    void typeArticle(frmGood& screen, const QString& barcode, const QString& name,
+                     const QString& cost) {
+        typeInto<QLineEdit>(&screen, QStringLiteral("txtBarcode"), barcode);
+        typeInto<QLineEdit>(&screen, QStringLiteral("txtName"), name);
+        typeInto<QLineEdit>(&screen, QStringLiteral("txtCost"), cost);
+    }
+    qint64 goodsRows() { return number(QStringLiteral("SELECT COUNT(*) FROM Goods")); }
+
+    RecordingHook hook;
+};
+
+TEST_F(frmGoodTest, AnArticleWithItsLevelsIsSavedAsTyped) {
+    auto screen = openGood();
+    EXPECT_EQ(control<QLineEdit>(screen.get(), QStringLiteral("txtBarcode"))->text(),
+              QStringLiteral("1"));
+    EXPECT_EQ(control<QRadioButton>(screen.get(), QStringLiteral("optCounted"))->text(),
+              QStringLiteral("کالا تعدادي"));
+    EXPECT_EQ(control<QRadioButton>(screen.get(), QStringLiteral("optWeighed"))->text(),
+              QStringLiteral("کالاي وزني"));
+    EXPECT_TRUE(screen->hasLevel(1));
+    EXPECT_TRUE(screen->hasLevel(2));
+    EXPECT_FALSE(screen->hasLevel(3));
+
+    typeArticle(*screen, QStringLiteral("6260000000017"), QStringLiteral("پنیر لیقوان"),
+                QStringLiteral("125000"));
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtEnName"), QStringLiteral("Feta"));
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtSpecCode"), QStringLiteral("12"));
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtCost2"), QStringLiteral("120000"));
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtArticlePrice"), QStringLiteral("130000"));
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtTaxValue"), QStringLiteral("9"));
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtStockNo1"), QStringLiteral("A-3"));
+    auto* unit = control<QComboBox>(screen.get(), QStringLiteral("cboUnit"));
+    unit->setCurrentIndex(unit->findText(QStringLiteral("کیلوگرم")));
+    control<QRadioButton>(screen.get(), QStringLiteral("optWeighed"))->click();
+    control<QCheckBox>(screen.get(), QStringLiteral("chkFavorite"))->click();
+    control<QCheckBox>(screen.get(), QStringLiteral("chkAQIS"))->click();
+
+    pick(*screen, 1, QStringLiteral("01"));
+    EXPECT_EQ(control<QLineEdit>(screen.get(), QStringLiteral("txtLevel1"))->text(),
+              QStringLiteral("01 - لبنیات"));
+    QList<int> offered;
+    pick(*screen, 2, QStringLiteral("001"), &offered);
+    EXPECT_EQ(offered, QList<int>({20})) << "the brands under the chosen group only";
+    EXPECT_EQ(control<QLineEdit>(screen.get(), QStringLiteral("txtComplexCode"))->text(),
+              QStringLiteral("01001"));
+
+    control<QPushButton>(screen.get(), QStringLiteral("cmdSave"))->click();
+    ASSERT_EQ(messages.shown.size(), 1);
+    EXPECT_EQ(messages.shown.first().text, kSaved);
+    EXPECT_EQ(messages.shown.first().title, kNotice);
+
+    Session s = database->session();
+    SqlQuery q(s, QStringLiteral(
+                      "SELECT Name, EnName, Spec_Code, Cost, Cost2, ArticlePrice, TaxValue, Unit, "
+                      "GType, ISFavorite, AQIS, ComplexCode, LevelID1, LevelID2, StockNo1, "
+                      "ISActive FROM Goods WHERE EAN_Code = '6260000000017'"));
+    ASSERT_TRUE(q.exec() && q.next());
+    EXPECT_EQ(q.text(0), QStringLiteral("پنیر لیقوان"));
+    EXPECT_EQ(q.text(1), QStringLiteral("Feta"));
+    EXPECT_EQ(q.text(2), QStringLiteral("12"));
+    EXPECT_EQ(q.number(3), 125000.0);
+    EXPECT_EQ(q.number(4), 120000.0);
+    EXPECT_EQ(q.number(5), 130000.0);
+    EXPECT_EQ(q.number(6), 9.0);
+    EXPECT_EQ(q.integer(7), 31);
+    EXPECT_EQ(q.integer(8), 1);
+    EXPECT_EQ(q.integer(9), 1);
+    EXPECT_EQ(q.integer(10), 1);
+    EXPECT_EQ(q.text(11), QStringLiteral("01001"));
+    EXPECT_EQ(q.integer(12), 10);
+    EXPECT_EQ(q.integer(13), 20);
+    EXPECT_EQ(q.text(14), QStringLiteral("A-3"));
+    EXPECT_EQ(q.integer(15), 1);
+    EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*) FROM Stock WHERE Barcode = '6260000000017' "
+                                    "AND Branch = 1")),
+              1);
+    EXPECT_TRUE(screen->isEditing());
+    EXPECT_TRUE(control<QLineEdit>(screen.get(), QStringLiteral("txtBarcode"))->isReadOnly());
+
+    ASSERT_EQ(hook.saved.size(), 1);
+    EXPECT_EQ(hook.saved.first().specCode, QStringLiteral("12"));
+    EXPECT_EQ(hook.saved.first().name, QStringLiteral("پنیر لیقوان"));
+    EXPECT_EQ(hook.saved.first().barcode, QStringLiteral("6260000000017"));
+    EXPECT_EQ(hook.saved.first().cost, 125000.0);
+    EXPECT_TRUE(hook.saved.first().weighed);
+
+    // The next new article is proposed the barcode after it.
+    control<QPushButton>(screen.get(), QStringLiteral("cmdNew"))->click();
+    EXPECT_EQ(control<QLineEdit>(screen.get(), QStringLiteral("txtBarcode"))->text(),
+              QStringLiteral("6260000000018"));
+    EXPECT_TRUE(control<QLineEdit>(screen.get(), QStringLiteral("txtLevel1"))->text().isEmpty());
+}
+
+TEST_F(frmGoodTest, BadInputShowsTheMessageAndSavesNothing) {
+    ASSERT_TRUE(exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name) VALUES ('777', 'Old')")));
+    struct Case {
+        const char* what;
+        QString barcode;
+        QString name;
+        QString message;
+    };
+    const Case cases[] = {
+        {"empty barcode", QString(), QStringLiteral("نان"), goodsmessages::kEnterBarcode},
+        {"empty name", QStringLiteral("778"), QString(), kEnterName},
+        {"barcode already used", QStringLiteral("777"), QStringLiteral("نان"),
+         goodsmessages::kBarcodeTaken},
+    };
+    for (const Case& c : cases) {
+        messages.shown.clear();
+        auto screen = openGood();
+        typeArticle(*screen, c.barcode, c.name, QStringLiteral("1000"));
+        control<QPushButton>(screen.get(), QStringLiteral("cmdSave"))->click();
+        ASSERT_EQ(messages.shown.size(), 1) << c.what;
+        EXPECT_EQ(messages.shown.first().text, c.message) << c.what;
+        EXPECT_EQ(messages.shown.first().style, MessageStyle::Critical) << c.what;
+        EXPECT_EQ(goodsRows(), 1) << c.what;
+        EXPECT_FALSE(screen->isEditing()) << c.what;
+    }
+    EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*) FROM Stock")), 0);
+    EXPECT_TRUE(hook.saved.isEmpty());
+}
+
+TEST_F(frmGoodTest, AnArticleIsEditedAndDeletedWithTheHookTold) {
+    ASSERT_TRUE(exec(
+        QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Spec_Code, Cost, LevelID1, "
+                       "ComplexCode, ISActive) VALUES ('555', 'Tea', '5', 100, 11, '02', 1)")));
+    auto screen = openGood(QStringLiteral("555"));
+    ASSERT_TRUE(screen->isEditing());
+    EXPECT_EQ(control<QLineEdit>(screen.get(), QStringLiteral("txtLevel1"))->text(),
+              QStringLiteral("02 - نوشیدنی"));
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtCost"), QStringLiteral("150"));
+    ASSERT_TRUE(screen->save());
+    EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*) FROM Price_History WHERE EAN_CODE = '555'")),
+              1);
+
+    messages.shown.clear();
+    messages.answer = true;
+    control<QPushButton>(screen.get(), QStringLiteral("cmdDelete"))->click();
+    ASSERT_FALSE(messages.shown.isEmpty());
+    EXPECT_EQ(messages.shown.first().text, kDeleteQuestion);
+    EXPECT_EQ(goodsRows(), 0);
+    EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*) FROM Price_History")), 0);
+    ASSERT_EQ(hook.deleted.size(), 1);
+    EXPECT_EQ(hook.deleted.first().specCode, QStringLiteral("5"));
+    EXPECT_FALSE(screen->isEditing());
+}
+
+TEST_F(frmGoodTest, AnArticleInDocumentsIsOfferedToBeTakenOutOfUse) {
+    ASSERT_TRUE(exec(
+        QStringLiteral("INSERT INTO Goods (EAN_Code, Name, ISActive) VALUES ('888', 'Sold', 1)")));
+    ASSERT_TRUE(
+        exec(QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty) VALUES (1, '888', 1)")));
+    auto screen = openGood(QStringLiteral("888"));
+    messages.answer = true;
+    control<QPushButton>(screen.get(), QStringLiteral("cmdDelete"))->click();
+    EXPECT_EQ(shownTexts(), QStringList({goodsmessages::inDocumentsRefusal(),
+                                         goodsmessages::kDeactivateQuestion}));
+    EXPECT_EQ(goodsRows(), 1);
+    EXPECT_EQ(number(QStringLiteral("SELECT ISActive FROM Goods WHERE EAN_Code = '888'")), 0);
+    EXPECT_FALSE(control<QCheckBox>(screen.get(), QStringLiteral("chkActive"))->isChecked());
+    EXPECT_TRUE(hook.deleted.isEmpty());
+}
+
+TEST_F(frmGoodTest, TheScalesLearnTheArticleWhenItIsSavedAndForgetItWhenDeleted) {
+    ScaleExporter exporter(ScaleExportConfig{true, true, false}, messages);
+    ScaleGoodsHook scales(exporter);
+    auto screen = openGood({}, &scales);
+    typeArticle(*screen, QStringLiteral("2000012"), QStringLiteral("پنیر"),
+                QStringLiteral("125000"));
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtSpecCode"), QStringLiteral(" 12 "));
+    control<QRadioButton>(screen.get(), QStringLiteral("optWeighed"))->click();
+    ASSERT_TRUE(screen->save());
+
+    QString items;
+    {
+        Session s = database->session();
+        items =
+            s.dialect().table(QStringLiteral("Items"), QString::fromLatin1(kOnlineSalesDatabase));
+        SqlQuery takin(s, QStringLiteral("SELECT Code, Name1, BarCode, Price, Type FROM ") + items);
+        ASSERT_TRUE(takin.exec() && takin.next());
+        EXPECT_EQ(takin.int64(0), 12);
+        EXPECT_EQ(takin.text(1), QStringLiteral("پنیر"));
+        EXPECT_EQ(takin.text(2), QStringLiteral("2000012"));
+        EXPECT_EQ(takin.number(3), 125000.0);
+        EXPECT_EQ(takin.integer(4), 2);
+        const QString mizan = s.dialect().table(QStringLiteral("MizanNetItem"),
+                                                QString::fromLatin1(kMizanNetDatabase));
+        EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT WeightUnit FROM ") + mizan), 1);
+    }
+
+    // Saved again with a new price: the record is updated, not doubled.
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtCost"), QStringLiteral("99000"));
+    ASSERT_TRUE(screen->save());
+    EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*) FROM ") + items), 1);
+    EXPECT_EQ(number(QStringLiteral("SELECT Price FROM ") + items), 99000);
+
+    messages.answer = true;
+    control<QPushButton>(screen.get(), QStringLiteral("cmdDelete"))->click();
+    EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*) FROM ") + items), 0);
+    EXPECT_EQ(goodsRows(), 0);
+}
+
+}  // namespace
+}  // namespace sandogh

@@ -19,51 +19,14 @@
 #include "data/Database.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
-#include "devices/ProgramLauncher.h"
-#include "devices/RawPrinter.h"
 #include "settings/QSettingsStore.h"
 #include "support/FixedClock.h"
+#include "support/LaunchRecorder.h"
+#include "support/RawPrintRecorder.h"
 #include "support/RecordingMessageService.h"
 #include "support/TestDatabase.h"
 
 namespace sandogh::test {
-
-// Records the programs it is asked to start instead of starting them.
-class LaunchRecorder final : public ProgramLauncher {
-public:
-    struct Call {
-        QString program;
-        QStringList arguments;
-        QString workingDirectory;
-    };
-    bool startDetached(const QString& program, const QStringList& arguments,
-                       const QString& workingDirectory, bool) override {
-        calls.append({program, arguments, workingDirectory});
-        return true;
-    }
-    QStringList programs() const {
-        QStringList list;
-        for (const Call& c : calls) {
-            list << c.program;
-        }
-        return list;
-    }
-    QList<Call> calls;
-};
-
-// Keeps the raw jobs it is sent; refuses them all when there is "no default printer".
-class RawPrintRecorder final : public RawPrinter {
-public:
-    bool printRaw(const QString& jobName, const QByteArray& bytes) override {
-        if (!hasPrinter) {
-            return false;
-        }
-        jobs.append({jobName, bytes});
-        return true;
-    }
-    bool hasPrinter = true;
-    QList<QPair<QString, QByteArray>> jobs;
-};
 
 class AppTestContext {
 public:

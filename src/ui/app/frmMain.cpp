@@ -1,0 +1,246 @@
+#include "ui/app/frmMain.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QIcon>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPixmap>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "app/AppContext.h"
+#include "app/CompanionPrograms.h"
+#include "app/ShopInfo.h"
+#include "data/MessageService.h"
+#include "devices/CashDrawer.h"
+#include "devices/DeviceConfigs.h"
+#include "devices/GeneralPorts.h"
+#include "ui/app/MainMenuCommands.h"
+
+namespace sandogh {
+
+namespace {
+
+// Child windows show no icon (the platform would put its own there).
+QIcon blankIcon() {
+    QPixmap blank(16, 16);
+    blank.fill(Qt::transparent);
+    return QIcon(blank);
+}
+
+QLabel* statusPanel(const QString& name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setContentsMargins(8, 0, 8, 0);
+    return label;
+}
+
+}  // namespace
+
+frmMain::frmMain(AppContext& context, QWidget* parent) : QMainWindow(parent), m_context(context) {
+    setObjectName(QStringLiteral("frmMain"));
+    setLayoutDirection(Qt::RightToLeft);
+    setWindowTitle(QStringLiteral("صندوق"));
+
+    mdiMain = new QMdiArea(this);
+    mdiMain->setObjectName(QStringLiteral("mdiMain"));
+    mdiMain->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    mdiMain->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    mdiMain->setBackground(QColor(0xe6, 0xe9, 0xed));
+    setCentralWidget(mdiMain);
+
+    auto* tools = addToolBar(QStringLiteral("tlbMain"));
+    tools->setObjectName(QStringLiteral("tlbMain"));
+    tools->setMovable(false);
+    cmdCashDraw = new QPushButton(QStringLiteral("کشوی پول"), tools);
+    cmdCashDraw->setObjectName(QStringLiteral("cmdCashDraw"));
+    cmdCashDraw->setToolTip(QStringLiteral("باز کردن کشوی پول"));
+    tools->addWidget(cmdCashDraw);
+    connect(cmdCashDraw, &QPushButton::clicked, this, &frmMain::mnuOpenCash_Click);
+
+    buildMenus();
+    buildStatusBar();
+    resize(1100, 720);
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::buildMenus() {
+    QHash<MainMenu, QMenu*> menus;
+    for (MainMenu menu : MainMenuCommands::menus()) {
+        QMenu* m = menuBar()->addMenu(MainMenuCommands::menuCaption(menu));
+        m->setObjectName(QStringLiteral("mnu%1").arg(static_cast<int>(menu)));
+        menus.insert(menu, m);
+        m_menus << m;
+    }
+    for (const MainMenuCommand& command : MainMenuCommands::all()) {
+        QAction* action = menus.value(command.menu)->addAction(command.caption);
+        action->setObjectName(command.name);
+        if (!command.shortcut.isEmpty()) {
+            action->setShortcut(command.shortcut);
+        }
+        const auto run = command.run;
+        connect(action, &QAction::triggered, this, [this, run] { run(*this); });
+        m_actions.insert(command.name, action);
+        m_actionPermissions.insert(command.name, command.permission);
+    }
+    // Nothing shows until the user's permissions are known.
+    applyPermissions(Permissions(PermissionLevel::Cashier));
+}
+
+void frmMain::buildStatusBar() {
+    stbUser = statusPanel(QStringLiteral("stbUser"), this);
+    stbStation = statusPanel(QStringLiteral("stbStation"), this);
+    stbDate = statusPanel(QStringLiteral("stbDate"), this);
+    stbVersion = statusPanel(QStringLiteral("stbVersion"), this);
+    stbPort = statusPanel(QStringLiteral("stbPort"), this);
+    // User, cash desk and day from the start of the line; version and port at its end.
+    for (QLabel* panel : {stbUser, stbStation, stbDate}) {
+        statusBar()->addWidget(panel);
+    }
+    for (QLabel* panel : {stbPort, stbVersion}) {
+        statusBar()->addPermanentWidget(panel);
+    }
+}
+
+void frmMain::Form_Load() {
+    const UserAccount& user = m_context.user();
+    stbUser->setText(QStringLiteral("کاربر: ") + (user.name.isEmpty() ? user.userName : user.name));
+    const Station& station = m_context.station();
+    stbStation->setText(QStringLiteral("صندوق: ") +
+                        (station.name.isEmpty() ? QString::number(station.id) : station.name));
+    stbDate->setText(m_context.todayWeekday() + QLatin1Char(' ') + m_context.todayJalali());
+    stbVersion->setText(m_context.versionText());
+
+    if (m_context.hasDatabase()) {
+        ShopInfo shop(m_context.database());
+        m_context.setDisplayGreeting(shop.displayGreeting());
+        setWindowTitle(QStringLiteral("صندوق — ") + shop.shopName());
+    }
+
+    // The ports are configured by the first start-up branch that applies, then opened.
+    // The caller ID's polling belongs to the caller ID screen, which is not part of this
+    // program yet.
+    delete m_ports;
+    m_ports = new GeneralPorts(DeviceConfigs::generalPorts(m_context.machineSettings()), this);
+    m_ports->load();
+    stbPort->setText(m_ports->statusText());
+    stbPort->setVisible(!stbPort->text().isEmpty());
+}
+
+void frmMain::applyPermissions(const Permissions& permissions) {
+    for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it) {
+        const bool allowed = permissions.allows(m_actionPermissions.value(it.key()));
+        it.value()->setVisible(allowed);
+        it.value()->setEnabled(allowed);
+    }
+    for (QMenu* menu : m_menus) {
+        bool any = false;
+        for (const QAction* action : menu->actions()) {
+            any = any || action->isVisible();
+        }
+        menu->menuAction()->setVisible(any);
+    }
+    const bool drawer = permissions.allows(Permission::OpenDrawer);
+    cmdCashDraw->setVisible(drawer);
+    cmdCashDraw->setEnabled(drawer);
+}
+
+void frmMain::mnuOpenCash_Click() {
+    CashDrawer drawer(DeviceConfigs::drawer(m_context.machineSettings(), m_context.programFolder()),
+                      m_context.rawPrinter(), m_context.launcher(), m_context.messages());
+    drawer.mnuOpenCash_Click();
+}
+
+void frmMain::mnuScale_Click() {
+    CompanionPrograms programs(m_context.machineSettings(), m_context.launcher(),
+                               m_context.programFolder());
+    if (!programs.startScaleProgram()) {
+        m_context.messages().show(
+            QStringLiteral("برنامه ترازو پیدا نشد:\n") + programs.scaleProgram(),
+            MessageStyle::Information);
+    }
+}
+
+QWidget* frmMain::openChild(const QString& name, const std::function<QWidget*()>& create) {
+    if (QMdiSubWindow* open = m_children.value(name); open != nullptr) {
+        open->showNormal();
+        mdiMain->setActiveSubWindow(open);
+        return open->widget();
+    }
+    QWidget* screen = create();
+    if (screen->objectName().isEmpty()) {
+        screen->setObjectName(name);
+    }
+    QMdiSubWindow* window = mdiMain->addSubWindow(screen);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(screen->windowTitle());
+    window->setWindowIcon(blankIcon());
+    // A screen that closes itself (its own exit button) takes its frame with it.
+    screen->installEventFilter(this);
+    m_children.insert(name, window);
+    window->show();
+    mdiMain->setActiveSubWindow(window);
+    return screen;
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Hide) {
+        for (const QPointer<QMdiSubWindow>& child : std::as_const(m_children)) {
+            if (child == nullptr || child->widget() != watched) {
+                continue;
+            }
+            // Minimising or shading a child hides its screen too; only a screen hidden while
+            // its frame stays open has closed itself. Decided once the hiding is over.
+            QPointer<QMdiSubWindow> window = child;
+            QMetaObject::invokeMethod(
+                this,
+                [window] {
+                    if (window != nullptr && window->isVisible() && !window->isMinimized() &&
+                        !window->isShaded() && window->widget() != nullptr &&
+                        !window->widget()->isVisible()) {
+                        window->close();
+                    }
+                },
+                Qt::QueuedConnection);
+            break;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frmMain::OpenPort() {
+    if (m_ports != nullptr) {
+        m_ports->OpenPort();
+    }
+}
+
+void frmMain::ClosePort() {
+    if (m_ports != nullptr) {
+        m_ports->ClosePort();
+    }
+}
+
+void frmMain::ExitApplication() {
+    if (m_exiting) {
+        return;
+    }
+    m_exiting = true;
+    ClosePort();
+    mdiMain->closeAllSubWindows();
+    close();
+    emit exited();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (!m_exiting) {
+        ExitApplication();
+    }
+    event->accept();
+}
+
+}  // namespace sandogh

@@ -1,0 +1,157 @@
+// The login screen offscreen: today and the shop's name on load, a first administrator
+// for an empty shop, Enter moving and submitting, a refused login warned about, an
+// accepted one handed on with its user.
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "ScreenTestContext.h"
+#include "TypeText.h"
+#include "app/LoginService.h"
+#include "app/ShopInfo.h"
+#include "ui/app/frmLogin.h"
+
+namespace sandogh {
+namespace {
+
+class frmLoginTest : public ::testing::Test {
+protected:
+    std::unique_ptr<frmLogin> openScreen() {
+        auto screen = std::make_unique<frmLogin>(app.context);
+        screen->Form_Load();
+        screen->show();
+        screen->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(screen.get()));
+        return screen;
+    }
+
+    template <typename T>
+    static T* control(const frmLogin& screen, const char* name) {
+        T* found = screen.findChild<T*>(QString::fromLatin1(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+
+    // Types into the named box as a keyboard would.
+    static void type(const frmLogin& screen, const char* box, const QString& text) {
+        QLineEdit* edit = control<QLineEdit>(screen, box);
+        edit->clear();
+        test::typeText(edit, text);
+    }
+
+    test::ScreenTestContext app;
+};
+
+TEST_F(frmLoginTest, TheLoadShowsTodayAndTheShop) {
+    ASSERT_TRUE(app.openShop(true));
+    auto screen = openScreen();
+    EXPECT_EQ(control<QLabel>(*screen, "lblDate")->text(),
+              QStringLiteral("امروز : جمعه 1404/01/01"));
+    EXPECT_EQ(control<QLabel>(*screen, "lblCompany")->text(), DemoShop::shopName());
+    EXPECT_TRUE(app.messages.messages().isEmpty());
+    EXPECT_EQ(screen->layoutDirection(), Qt::RightToLeft);
+}
+
+TEST_F(frmLoginTest, AnEmptyShopIsGivenAnAdministratorAndToldSo) {
+    ASSERT_TRUE(app.openShop(false));
+    auto screen = openScreen();
+    EXPECT_EQ(control<QLabel>(*screen, "lblCompany")->text(), ShopInfo::defaultShopName());
+    ASSERT_EQ(app.messages.messages().size(), 1);
+    EXPECT_EQ(app.messages.messages().first().style, MessageStyle::Information);
+    EXPECT_TRUE(app.messages.messages().first().text.contains(
+        QString::fromLatin1(LoginService::kInitialAdministratorPassword)));
+    EXPECT_EQ(control<QLineEdit>(*screen, "txtUserName")->text(), QStringLiteral("admin"));
+
+    QSignalSpy loggedIn(screen.get(), &frmLogin::loggedIn);
+    type(*screen, "txtPassword", QString::fromLatin1(LoginService::kInitialAdministratorPassword));
+    QTest::mouseClick(control<QPushButton>(*screen, "cmdOK"), Qt::LeftButton);
+    ASSERT_EQ(loggedIn.count(), 1);
+    EXPECT_EQ(loggedIn.first().first().value<UserAccount>().level, PermissionLevel::Administrator);
+}
+
+TEST_F(frmLoginTest, TheRightPasswordLogsTheUserIn) {
+    ASSERT_TRUE(app.openShop(true));
+    const struct {
+        const char* userName;
+        const char* password;
+        PermissionLevel level;
+    } cases[] = {
+        {"admin", "1234", PermissionLevel::Administrator},
+        {" Cashier", "1111", PermissionLevel::Cashier},
+    };
+    for (const auto& c : cases) {
+        auto screen = openScreen();
+        QSignalSpy loggedIn(screen.get(), &frmLogin::loggedIn);
+        type(*screen, "txtUserName", QString::fromLatin1(c.userName));
+        type(*screen, "txtPassword", QString::fromLatin1(c.password));
+        QTest::mouseClick(control<QPushButton>(*screen, "cmdOK"), Qt::LeftButton);
+        ASSERT_EQ(loggedIn.count(), 1) << c.userName;
+        const auto user = loggedIn.first().first().value<UserAccount>();
+        EXPECT_EQ(user.userName, QString::fromLatin1(c.userName).trimmed().toLower());
+        EXPECT_EQ(user.level, c.level);
+        EXPECT_TRUE(user.isValid());
+    }
+    EXPECT_TRUE(app.messages.messages().isEmpty());
+}
+
+TEST_F(frmLoginTest, EnterMovesToThePasswordAndThenLogsIn) {
+    ASSERT_TRUE(app.openShop(true));
+    auto screen = openScreen();
+    QSignalSpy loggedIn(screen.get(), &frmLogin::loggedIn);
+    type(*screen, "txtUserName", QStringLiteral("cashier"));
+    QTest::keyClick(control<QLineEdit>(*screen, "txtUserName"), Qt::Key_Return);
+    EXPECT_TRUE(control<QLineEdit>(*screen, "txtPassword")->hasFocus());
+    EXPECT_EQ(loggedIn.count(), 0);
+    type(*screen, "txtPassword", QStringLiteral("1111"));
+    QTest::keyClick(control<QLineEdit>(*screen, "txtPassword"), Qt::Key_Return);
+    EXPECT_EQ(loggedIn.count(), 1);
+}
+
+TEST_F(frmLoginTest, ARefusedLoginIsWarnedAboutAndMayBeTriedAgain) {
+    ASSERT_TRUE(app.openShop(true));
+    auto screen = openScreen();
+    QSignalSpy loggedIn(screen.get(), &frmLogin::loggedIn);
+    const char* const attempts[][2] = {
+        {"admin", "4321"}, {"nobody", "1234"}, {"", ""}, {"admin", "12345"}};
+    int warnings = 0;
+    for (const auto& attempt : attempts) {
+        type(*screen, "txtUserName", QString::fromLatin1(attempt[0]));
+        type(*screen, "txtPassword", QString::fromLatin1(attempt[1]));
+        QTest::mouseClick(control<QPushButton>(*screen, "cmdOK"), Qt::LeftButton);
+        ++warnings;
+        ASSERT_EQ(app.messages.messages().size(), warnings) << attempt[0];
+        EXPECT_EQ(app.messages.messages().last().text, frmLogin::wrongLoginMessage());
+        EXPECT_EQ(app.messages.messages().last().style, MessageStyle::Warning);
+        EXPECT_TRUE(control<QLineEdit>(*screen, "txtPassword")->text().isEmpty());
+    }
+    EXPECT_EQ(loggedIn.count(), 0);
+    type(*screen, "txtUserName", QStringLiteral("admin"));
+    type(*screen, "txtPassword", QStringLiteral("1234"));
+    QTest::mouseClick(control<QPushButton>(*screen, "cmdOK"), Qt::LeftButton);
+    EXPECT_EQ(loggedIn.count(), 1);
+}
+
+TEST_F(frmLoginTest, CancelAndClosingBothCancelOnce) {
+    ASSERT_TRUE(app.openShop(true));
+    {
+        auto screen = openScreen();
+        QSignalSpy cancelled(screen.get(), &frmLogin::cancelled);
+        QTest::mouseClick(control<QPushButton>(*screen, "cmdCancel"), Qt::LeftButton);
+        screen->close();
+        EXPECT_EQ(cancelled.count(), 1);
+    }
+    {
+        auto screen = openScreen();
+        QSignalSpy cancelled(screen.get(), &frmLogin::cancelled);
+        screen->close();
+        EXPECT_EQ(cancelled.count(), 1);
+    }
+}
+
+}  // namespace
+}  // namespace sandogh

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <QTableView>
 
@@ -186,8 +186,10 @@ TEST_F(frmParametersTest, AValueOfALevelIsTickedUnderItsParents) {
     const auto* parents = control<QGroupBox>(form, QStringLiteral("grpParents"));
     EXPECT_TRUE(parents->isVisible());
     EXPECT_EQ(parents->title(), QStringLiteral(" Level:") + QStringLiteral("گروه"));
-    EXPECT_EQ(control<QListWidget>(form, QStringLiteral("lstParents"))->count(), 2);
-    ASSERT_TRUE(form->setParentTicked(11, true));
+    EXPECT_EQ(form->findChildren<QCheckBox*>().size(), 2);
+    EXPECT_EQ(control<QCheckBox>(form, QStringLiteral("chkParent10"))->text(),
+              QStringLiteral("01 - لبنیات"));
+    control<QCheckBox>(form, QStringLiteral("chkParent11"))->click();
     fillAndSave(form, QStringLiteral("پگاه"), QStringLiteral("007"));
     EXPECT_TRUE(messages.shown.isEmpty()) << shownTexts().join('|').toStdString();
     const int counter = int(number(QStringLiteral("SELECT Counter FROM Types WHERE TypeNo = 502")));

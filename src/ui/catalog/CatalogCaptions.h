@@ -61,6 +61,7 @@ inline const QString kStockNo1 = QStringLiteral("محل اول در انبار")
 inline const QString kStockNo2 = QStringLiteral("محل دوم در انبار");
 inline const QString kActive = QStringLiteral("فعال");
 inline const QString kStock = QStringLiteral("موجودي");
+inline const QString kArticle = QStringLiteral("کالا");
 inline const QString kPrices = QStringLiteral("قيمت‌ها");
 inline const QString kLevels = QStringLiteral("مشخصات ساختاري");
 inline const QString kSale = QStringLiteral("فروش");

@@ -91,7 +91,7 @@ frmGood::frmGood(Database& database, MessageService& messages, const Clock& cloc
     kinds->addButton(optCounted);
     kinds->addButton(optWeighed);
 
-    auto* article = new QGroupBox(this);
+    auto* article = new QGroupBox(kArticle, this);
     auto* articleForm = new QFormLayout(article);
     articleForm->addRow(kBarcode, txtBarcode);
     articleForm->addRow(kGoodsName, txtName);
@@ -179,8 +179,8 @@ QGroupBox* frmGood::buildLevels() {
         r.clear = new QToolButton(box);
         r.clear->setObjectName(QStringLiteral("cmdClearLevel%1").arg(n));
         r.clear->setText(kClear);
-        // Two levels a row.
-        const int column = (row % 2) * 4;
+        // Two levels a row, a gap between them.
+        const int column = (row % 2) * 5;
         grid->addWidget(r.label, row / 2, column);
         grid->addWidget(r.text, row / 2, column + 1);
         grid->addWidget(r.pick, row / 2, column + 2);
@@ -190,7 +190,8 @@ QGroupBox* frmGood::buildLevels() {
         connect(r.clear, &QToolButton::clicked, this, [this, n] { chooseLevel(n, 0); });
     }
     grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(5, 1);
+    grid->setColumnStretch(6, 1);
+    grid->setColumnMinimumWidth(4, 18);
     const int last = (row + 1) / 2;
     grid->addWidget(new QLabel(kComplexCode, box), last, 0);
     grid->addWidget(txtComplexCode, last, 1, 1, 3);

@@ -70,10 +70,14 @@ frmGoodsList::frmGoodsList(Database& database, MessageService& messages, const C
     // Rows of one height: the grid never measures rows it has not shown.
     grdGoods->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     grdGoods->horizontalHeader()->setStretchLastSection(true);
+    grdGoods->horizontalHeader()->setMinimumSectionSize(40);
     grdGoods->setColumnWidth(GoodsListModel::Barcode, 130);
     grdGoods->setColumnWidth(GoodsListModel::SpecCode, 80);
-    grdGoods->setColumnWidth(GoodsListModel::Name, 240);
-    grdGoods->setColumnWidth(GoodsListModel::EnName, 160);
+    grdGoods->setColumnWidth(GoodsListModel::Name, 230);
+    grdGoods->setColumnWidth(GoodsListModel::EnName, 130);
+    grdGoods->setColumnWidth(GoodsListModel::Unit, 70);
+    grdGoods->setColumnWidth(GoodsListModel::Cost, 100);
+    grdGoods->setColumnWidth(GoodsListModel::Stock, 80);
 
     auto* search = new QHBoxLayout;
     search->addWidget(new QLabel(kSearch, this));

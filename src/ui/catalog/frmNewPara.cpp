@@ -1,11 +1,12 @@
 #include "ui/catalog/frmNewPara.h"
 
+#include <QCheckBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "data/repositories/CodeLevelsRepository.h"
@@ -33,7 +34,7 @@ frmNewPara::frmNewPara(Database& database, MessageService& messages, int typeNo,
     , txtCode(new QLineEdit(this))
     , txtNote(new QLineEdit(this))
     , grpParents(new QGroupBox(this))
-    , lstParents(new QListWidget(grpParents))
+    , parentBoxes_(nullptr)
     , cmdSave(new QPushButton(catalogcaptions::kSave, this))
     , cmdCancel(new QPushButton(ButtonCaptions::cancel(), this)) {
     using namespace catalogcaptions;
@@ -45,7 +46,6 @@ frmNewPara::frmNewPara(Database& database, MessageService& messages, int typeNo,
     txtCode->setObjectName(QStringLiteral("txtCode"));
     txtNote->setObjectName(QStringLiteral("txtNote"));
     grpParents->setObjectName(QStringLiteral("grpParents"));
-    lstParents->setObjectName(QStringLiteral("lstParents"));
     cmdSave->setObjectName(QStringLiteral("cmdSave"));
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     txtNameEng->setLayoutDirection(Qt::LeftToRight);
@@ -56,8 +56,16 @@ frmNewPara::frmNewPara(Database& database, MessageService& messages, int typeNo,
     form->addRow(kNameEng, txtNameEng);
     form->addRow(kCode, txtCode);
     form->addRow(kNote, txtNote);
+    auto* scroll = new QScrollArea(grpParents);
+    scroll->setObjectName(QStringLiteral("scrParents"));
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    auto* boxes = new QWidget(scroll);
+    parentBoxes_ = new QVBoxLayout(boxes);
+    parentBoxes_->setContentsMargins(4, 4, 4, 4);
+    scroll->setWidget(boxes);
     auto* parents = new QVBoxLayout(grpParents);
-    parents->addWidget(lstParents);
+    parents->addWidget(scroll);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     buttons->addWidget(cmdSave);
@@ -113,14 +121,16 @@ frmNewPara::frmNewPara(Database& database, MessageService& messages, int typeNo,
 }
 
 void frmNewPara::loadParents() {
-    lstParents->clear();
+    QWidget* holder = parentBoxes_->parentWidget();
     for (const auto& option : repository_.parentOptions(parentTypeNo_, value_.counter)) {
-        auto* item =
-            new QListWidgetItem(option.code + QStringLiteral(" - ") + option.name, lstParents);
-        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
-        item->setCheckState(option.linked ? Qt::Checked : Qt::Unchecked);
-        item->setData(Qt::UserRole, option.counter);
+        auto* box = new QCheckBox(option.code + QStringLiteral(" - ") + option.name, holder);
+        box->setObjectName(QStringLiteral("chkParent%1").arg(option.counter));
+        box->setProperty("counter", option.counter);
+        box->setChecked(option.linked);
+        parentBoxes_->addWidget(box);
+        chkParents_ << box;
     }
+    parentBoxes_->addStretch(1);
 }
 
 QList<int> frmNewPara::tickedParents() const {
@@ -128,20 +138,18 @@ QList<int> frmNewPara::tickedParents() const {
     if (parentTypeNo_ == 0) {
         return parents;
     }
-    for (int i = 0; i < lstParents->count(); ++i) {
-        const QListWidgetItem* item = lstParents->item(i);
-        if (item->checkState() == Qt::Checked) {
-            parents << item->data(Qt::UserRole).toInt();
+    for (const QCheckBox* box : chkParents_) {
+        if (box->isChecked()) {
+            parents << box->property("counter").toInt();
         }
     }
     return parents;
 }
 
 bool frmNewPara::setParentTicked(int parentCounter, bool ticked) {
-    for (int i = 0; i < lstParents->count(); ++i) {
-        QListWidgetItem* item = lstParents->item(i);
-        if (item->data(Qt::UserRole).toInt() == parentCounter) {
-            item->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
+    for (QCheckBox* box : chkParents_) {
+        if (box->property("counter").toInt() == parentCounter) {
+            box->setChecked(ticked);
             return true;
         }
     }

@@ -5,10 +5,11 @@
 
 #include "data/repositories/TypesRepository.h"
 
+class QCheckBox;
 class QGroupBox;
 class QLineEdit;
-class QListWidget;
 class QPushButton;
+class QVBoxLayout;
 
 namespace sandogh {
 
@@ -17,9 +18,10 @@ class MessageService;
 
 // The edit form of one value of a parameter list: name, Latin name, code and note. For
 // the values of a code level it also lists the values of the level above it, one tick
-// box each under the heading " Level:" and that level's name; the ticked ones are the
-// parents the value is offered under. Saving runs the checks of the list (name, code,
-// the level's digit count, a repeated code) and shows the first that fails.
+// box each (named chkParent and the parent's Counter) under the heading " Level:" and
+// that level's name; the ticked ones are the parents the value is offered under. Saving runs the
+// checks of the list (name, code, the level's digit count, a repeated code) and shows the first
+// that fails.
 class frmNewPara : public QDialog {
     Q_OBJECT
 
@@ -60,7 +62,8 @@ private:
     QLineEdit* txtCode;
     QLineEdit* txtNote;
     QGroupBox* grpParents;
-    QListWidget* lstParents;
+    QVBoxLayout* parentBoxes_;
+    QList<QCheckBox*> chkParents_;
     QPushButton* cmdSave;
     QPushButton* cmdCancel;
 };

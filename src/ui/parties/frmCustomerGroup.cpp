@@ -54,6 +54,7 @@ frmCustomerGroup::frmCustomerGroup(Database& database, MessageService& messages,
     setObjectName(QStringLiteral("frmCustomerGroup"));
     setLayoutDirection(Qt::RightToLeft);
     setWindowTitle(kGroupsTitle);
+    cmdColor->setLayoutDirection(Qt::LeftToRight);  // "#rrggbb"
     txtCode->setReadOnly(true);
     txtCode->setFocusPolicy(Qt::NoFocus);
     txtDiscountPercent->setDecimals(2);

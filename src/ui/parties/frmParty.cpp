@@ -51,7 +51,9 @@ frmParty::frmParty(Database& database, MessageService& messages, int typeNo, int
     setObjectName(QStringLiteral("frmParty"));
     setLayoutDirection(Qt::RightToLeft);
     setWindowTitle(person ? kCustomerTitle : kSupplierTitle);
-    for (QLineEdit* box : {txtCode, txtTel, txtMobile, txtEmail}) {
+    // Numbers, addresses of e-mail and dates read left to right.
+    for (QLineEdit* box :
+         {txtCode, txtTel, txtMobile, txtEmail, static_cast<QLineEdit*>(txtBirthday)}) {
         box->setLayoutDirection(Qt::LeftToRight);
     }
     cmdSave->setDefault(true);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
@@ -153,6 +154,28 @@ TEST_F(frmCodeParametersTest, ValuesOfALevelAreLinkedUnderTheValuesOfTheLevelAbo
                      {{QStringLiteral(":c"), pegah}, {QStringLiteral(":p"), dairy}}),
               1);
     ASSERT_EQ(messages.shown.size(), 1);  // the digit count, once
+}
+
+TEST_F(frmCodeParametersTest, TheSearchNarrowsByNameOrLatinName) {
+    ASSERT_TRUE(exec(QStringLiteral(
+        "INSERT INTO Code_Parameters (TypeNo, Name, NameEnglish, DigitQty, ParameterLevel) VALUES "
+        "(501, 'گروه', 'Group', 2, 1), (502, 'برند', 'Brand', 3, 2), "
+        "(503, 'زیرگروه', 'Subgroup', 2, 3), (201, 'کل', 'Group', 1, 1)")));
+    auto screen = openLevels(Family::Goods);
+    auto typeNos = [&screen] {
+        QList<int> numbers;
+        for (const auto& level : screen->levels()) {
+            numbers << level.typeNo;
+        }
+        return numbers;
+    };
+    EXPECT_EQ(typeNos(), QList<int>({501, 502, 503}));
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtSearch"), QStringLiteral("گروه"));
+    EXPECT_EQ(typeNos(), QList<int>({501, 503}));
+    control<QComboBox>(screen.get(), QStringLiteral("cboSearchColumn"))->setCurrentIndex(1);
+    EXPECT_TRUE(typeNos().isEmpty());
+    typeInto<QLineEdit>(screen.get(), QStringLiteral("txtSearch"), QStringLiteral("Br"));
+    EXPECT_EQ(typeNos(), QList<int>({502}));
 }
 
 }  // namespace

@@ -7,6 +7,10 @@
 
 namespace sandogh::test {
 
+// A namespace of its own: the shared test support library has a RecordingMessageService
+// of a different shape under the same name, and both are linked into this executable.
+inline namespace widgets {
+
 // Remembers every message instead of showing it; questions get the answer set in advance.
 class RecordingMessageService final : public MessageService {
 public:
@@ -26,4 +30,5 @@ public:
     bool answer = true;
 };
 
+}  // namespace widgets
 }  // namespace sandogh::test

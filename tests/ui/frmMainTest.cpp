@@ -17,6 +17,7 @@
 #include "app/Permissions.h"
 #include "devices/CashDrawer.h"
 #include "settings/SettingKeys.h"
+#include "ui/app/MainMenuCommands.h"
 #include "ui/app/frmMain.h"
 
 namespace sandogh {
@@ -62,10 +63,10 @@ TEST_F(frmMainTest, EachRoleSeesOnlyItsCommands) {
         const char* command;
         bool cashier;
     } cases[] = {
-        {"mnuSetUp", false},
-        {"mnuScale", false},
-        {"mnuOpenCash", true},
-        {"mnuExit", true},
+        {"mnuSetUp", false},     {"mnuScale", false},       {"mnuGoodsList", false},
+        {"mnuCustomers", false}, {"mnuSuppliers", false},   {"mnuCustomerGroups", false},
+        {"mnuUnits", false},     {"mnuGoodsLevels", false}, {"mnuAccountLevels", false},
+        {"mnuOpenCash", true},   {"mnuExit", true},
     };
     auto cashier = openWindow(PermissionLevel::Cashier);
     auto administrator = openWindow(PermissionLevel::Administrator);
@@ -76,17 +77,23 @@ TEST_F(frmMainTest, EachRoleSeesOnlyItsCommands) {
     }
     EXPECT_TRUE(cashier->findChild<QPushButton*>(QStringLiteral("cmdCashDraw"))->isVisible());
 
-    // A menu whose every command is hidden is hidden with them.
-    int cashierMenus = 0;
-    int administratorMenus = 0;
+    // The cashier's menu bar: the system menu (exit) and the sales menu (drawer).
+    QStringList cashierMenus;
     for (QAction* menu : cashier->menuBar()->actions()) {
-        cashierMenus += menu->isVisible() ? 1 : 0;
+        if (menu->isVisible()) {
+            cashierMenus << menu->text();
+        }
     }
+    EXPECT_EQ(cashierMenus, (QStringList{MainMenuCommands::menuCaption(MainMenu::System),
+                                         MainMenuCommands::menuCaption(MainMenu::Sales)}));
+    // A menu shows exactly when one of its commands does.
     for (QAction* menu : administrator->menuBar()->actions()) {
-        administratorMenus += menu->isVisible() ? 1 : 0;
+        bool any = false;
+        for (const QAction* command : menu->menu()->actions()) {
+            any = any || command->isVisible();
+        }
+        EXPECT_EQ(menu->isVisible(), any) << menu->text().toStdString();
     }
-    EXPECT_EQ(cashierMenus, 2);  // the system menu (exit) and the sales menu (drawer)
-    EXPECT_EQ(administratorMenus, 3);
 }
 
 TEST_F(frmMainTest, TheDrawerButtonKicksTheDrawerThroughThePrinter) {
@@ -161,6 +168,22 @@ TEST_F(frmMainTest, AScreenOpensOnceAsAChildWindow) {
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(window->mdiArea()->subWindowList().isEmpty());
+}
+
+TEST_F(frmMainTest, EachListIsItsOwnChildWindow) {
+    auto window = openWindow(PermissionLevel::Administrator);
+    for (const char* command : {"mnuCustomers", "mnuSuppliers", "mnuCustomers", "mnuGoodsList",
+                                "mnuGoodsLevels", "mnuAccountLevels", "mnuUnits"}) {
+        action(*window, command)->trigger();
+    }
+    QStringList titles;
+    for (const QMdiSubWindow* child : window->mdiArea()->subWindowList()) {
+        titles << child->windowTitle();
+    }
+    EXPECT_EQ(titles.size(), 6);
+    EXPECT_EQ(QSet<QString>(titles.cbegin(), titles.cend()).size(), 6);
+    EXPECT_EQ(window->mdiArea()->activeSubWindow()->widget()->objectName(),
+              QStringLiteral("frmParameters"));
 }
 
 TEST_F(frmMainTest, TheScaleProgramIsStartedOrMissedAloud) {

@@ -2,18 +2,24 @@
 
 #include "app/AppContext.h"
 #include "ui/app/frmMain.h"
+#include "ui/catalog/CatalogScreens.h"
+#include "ui/catalog/frmCodeParameters.h"
+#include "ui/catalog/frmGoodsList.h"
+#include "ui/catalog/frmParameters.h"
+#include "ui/parties/frmCustomerGroup.h"
+#include "ui/parties/frmParties.h"
 #include "ui/settings/frmSetUp.h"
 
 namespace sandogh {
 
 namespace {
 
-// Opens Screen(context) as a child window of the main window, or brings the open one
-// forward. For screens whose constructor takes the application context and a parent.
-template <typename Screen>
-std::function<void(frmMain&)> screen(const QString& name) {
-    return [name](frmMain& main) {
-        main.openChild(name, [&main] { return new Screen(main.context()); });
+// Opens the child window called name, made from the context by make, or brings the open one
+// forward.
+std::function<void(frmMain&)> child(const QString& name,
+                                    std::function<QWidget*(AppContext&)> make) {
+    return [name, make](frmMain& main) {
+        main.openChild(name, [&main, &make] { return make(main.context()); });
     };
 }
 
@@ -56,17 +62,45 @@ QString MainMenuCommands::menuCaption(MainMenu menu) {
 }
 
 QList<MainMenuCommand> MainMenuCommands::all() {
-    // Screens of the form frmX(AppContext&) are added as
-    //   {"mnuX", caption, menu, permission, screen<frmX>("frmX")},
+    using Family = CodeLevelsRepository::Family;
+    // A screen is one line: action name, caption, menu, permission, and how it opens.
     return {
         {QStringLiteral("mnuSetUp"), QStringLiteral("تنظیمات این صندوق"), MainMenu::System,
          Permission::SetUp, openSetUp},
+        {QStringLiteral("mnuAccountLevels"), QStringLiteral("سطوح کد حساب"), MainMenu::System,
+         Permission::CodeLevels,
+         child(QStringLiteral("frmCodeParameters/Accounts"),
+               [](AppContext& c) { return CatalogScreens::codeLevels(c, Family::Accounts); })},
         {QStringLiteral("mnuExit"), QStringLiteral("خروج"), MainMenu::System,
          Permission::LeaveProgram, [](frmMain& main) { main.ExitApplication(); },
          QKeySequence(Qt::ALT | Qt::Key_F4)},
         {QStringLiteral("mnuOpenCash"), QStringLiteral("باز کردن کشوی پول"), MainMenu::Sales,
          Permission::OpenDrawer, [](frmMain& main) { main.mnuOpenCash_Click(); },
          QKeySequence(Qt::CTRL | Qt::Key_K)},
+        {QStringLiteral("mnuGoodsList"), QStringLiteral("فهرست کالاها"), MainMenu::Goods,
+         Permission::Goods,
+         child(QStringLiteral("frmGoodsList"),
+               [](AppContext& c) { return CatalogScreens::goodsList(c); })},
+        {QStringLiteral("mnuGoodsLevels"), QStringLiteral("سطوح کد کالا"), MainMenu::Goods,
+         Permission::CodeLevels,
+         child(QStringLiteral("frmCodeParameters/Goods"),
+               [](AppContext& c) { return CatalogScreens::codeLevels(c, Family::Goods); })},
+        {QStringLiteral("mnuUnits"), QStringLiteral("واحدهای اندازه‌گیری"),
+         MainMenu::Goods, Permission::Parameters,
+         child(QStringLiteral("frmParameters/61"),
+               [](AppContext& c) { return CatalogScreens::parameters(c, 61); })},
+        {QStringLiteral("mnuCustomers"), QStringLiteral("مشتریان"), MainMenu::Customers,
+         Permission::Customers,
+         child(QStringLiteral("frmParties/10"),
+               [](AppContext& c) { return CatalogScreens::parties(c, 10); })},
+        {QStringLiteral("mnuSuppliers"), QStringLiteral("تأمین‌کنندگان"),
+         MainMenu::Customers, Permission::Customers,
+         child(QStringLiteral("frmParties/11"),
+               [](AppContext& c) { return CatalogScreens::parties(c, 11); })},
+        {QStringLiteral("mnuCustomerGroups"), QStringLiteral("گروه‌های مشتری"),
+         MainMenu::Customers, Permission::Customers,
+         child(QStringLiteral("frmCustomerGroup"),
+               [](AppContext& c) { return CatalogScreens::customerGroups(c); })},
         {QStringLiteral("mnuScale"), QStringLiteral("برنامه ترازو"), MainMenu::Tools,
          Permission::ScaleProgram, [](frmMain& main) { main.mnuScale_Click(); }},
     };

@@ -9,7 +9,7 @@ namespace sandogh {
 
 // Every command of the main window's menus, in menu order. A new screen is one more line
 // in MainMenuCommands.cpp: its action name, caption, menu, permission and how it opens
-// (screen<T>() for a child window of the main window, one instance at a time).
+// (child() for a child window of the main window, one instance at a time).
 class MainMenuCommands {
 public:
     static QList<MainMenuCommand> all();

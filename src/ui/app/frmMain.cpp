@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QToolBar>
+#include <algorithm>
 
 #include "app/AppContext.h"
 #include "app/CompanionPrograms.h"
@@ -24,6 +25,10 @@
 namespace sandogh {
 
 namespace {
+
+// The share of the MDI area a child window opens with, at least.
+constexpr double kChildShare = 0.85;
+constexpr int kCascadeStep = 28;
 
 // Child windows show no icon (the platform would put its own there).
 QIcon blankIcon() {
@@ -183,6 +188,14 @@ QWidget* frmMain::openChild(const QString& name, const std::function<QWidget*()>
     // A screen that closes itself (its own exit button) takes its frame with it.
     screen->installEventFilter(this);
     m_children.insert(name, window);
+    // Lists and forms get most of the area rather than their smallest size, from its right
+    // (reading) side, each one a step below and aside the one opened before.
+    const QSize area = mdiMain->viewport()->size();
+    window->resize(window->sizeHint().expandedTo(area * kChildShare).boundedTo(area));
+    const int step = kCascadeStep * static_cast<int>(mdiMain->subWindowList().size() - 1);
+    const int x = std::max(0, area.width() - window->width() - step);
+    window->move(isRightToLeft() ? x : std::min(step, area.width() - window->width()),
+                 std::min(step, std::max(0, area.height() - window->height())));
     window->show();
     mdiMain->setActiveSubWindow(window);
     return screen;

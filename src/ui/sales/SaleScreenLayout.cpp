@@ -1,0 +1,148 @@
+#include "ui/sales/SaleScreenLayout.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/sales/SaleCustomerPanel.h"
+#include "ui/sales/SaleDetailPanel.h"
+#include "ui/sales/SaleFavouritesPanel.h"
+#include "ui/sales/SaleGridView.h"
+#include "ui/sales/SaleTotalsPanel.h"
+#include "ui/sales/frmSale.h"
+
+namespace sandogh {
+
+namespace {
+
+constexpr double kCaptionScale = 1.7;
+constexpr double kBarcodeScale = 2.1;
+constexpr double kGridScale = 1.3;
+constexpr double kButtonScale = 1.1;
+constexpr double kSaveScale = 1.3;
+constexpr int kSideColumnWidth = 400;
+constexpr int kBarcodeMinWidth = 420;
+
+QFont scaled(const QFont& base, double scale, bool bold = false) {
+    QFont font = base;
+    const qreal size = base.pointSizeF() > 0 ? base.pointSizeF() : 10;
+    font.setPointSizeF(size * scale);
+    font.setBold(bold);
+    return font;
+}
+
+QHBoxLayout* topBar(frmSale& s) {
+    s.lblCaption->setFont(scaled(s.font(), kCaptionScale, true));
+    s.txtNo->setMinimumWidth(90);
+    s.txtNo->setMaximumWidth(120);
+    s.txtNo->setFont(scaled(s.font(), kButtonScale, true));
+    auto* bar = new QHBoxLayout;
+    bar->addWidget(s.lblCaption);
+    auto* lblNo = new QLabel(QStringLiteral("شماره:"), &s);
+    lblNo->setBuddy(s.txtNo);
+    bar->addSpacing(12);
+    bar->addWidget(lblNo);
+    bar->addWidget(s.txtNo);
+    bar->addSpacing(16);
+    bar->addWidget(s.lblDailySale);
+    bar->addSpacing(16);
+    bar->addWidget(s.lblDailyReceived);
+    bar->addStretch(1);
+    bar->addWidget(s.btnGoodDefinition);
+    bar->addWidget(s.cmdNewSaleForm);
+    bar->addWidget(s.btnDetail);
+    return bar;
+}
+
+QHBoxLayout* barcodeRow(frmSale& s) {
+    s.txtBarcode->setFont(scaled(s.font(), kBarcodeScale, true));
+    s.txtBarcode->setMinimumWidth(kBarcodeMinWidth);
+    s.txtBarcode->setStyleSheet(
+        QStringLiteral("QLineEdit { border: 2px solid #2f6f9f; border-radius: 5px;"
+                       " padding: 3px 8px; background: #fffef4; }"
+                       "QLineEdit:focus { border: 3px solid #d08a1c; }"));
+    auto* label = new QLabel(QStringLiteral("بارکد:"), &s);
+    label->setFont(scaled(s.font(), kCaptionScale, true));
+    label->setBuddy(s.txtBarcode);
+    auto* row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(s.txtBarcode, 1);
+    row->addWidget(s.btnBarcodeSearch);
+    row->addWidget(s.btnGetScaleWeight);
+    return row;
+}
+
+QVBoxLayout* sideColumn(frmSale& s) {
+    auto* customerButtons = new QHBoxLayout;
+    customerButtons->addWidget(s.btnCalculateHesab);
+    customerButtons->addWidget(s.btnBuyFactor);
+    customerButtons->addStretch(1);
+    auto* column = new QVBoxLayout;
+    column->addWidget(s.customerPanel());
+    column->addLayout(customerButtons);
+    column->addWidget(s.frmDetail);
+    column->addWidget(s.favouritesPanel(), 1);
+    if (!s.favouritesPanel()->isVisibleTo(&s)) {
+        column->addStretch(1);
+    }
+    return column;
+}
+
+QHBoxLayout* buttonRow(frmSale& s) {
+    QFont saveFont = scaled(s.font(), kSaveScale, true);
+    s.cmdSave->setFont(saveFont);
+    s.cmdSave->setMinimumWidth(160);
+    s.cmdSave->setStyleSheet(
+        QStringLiteral("QPushButton { background: #2e7d4f; color: white; border: 1px solid #1f5a38;"
+                       " padding: 6px 18px; }"
+                       "QPushButton:focus { border: 2px solid #123d25; }"
+                       "QPushButton:disabled { background: #a9c7b4; }"));
+    s.chkPrint->setFont(scaled(s.font(), kButtonScale, true));
+    auto* row = new QHBoxLayout;
+    row->addWidget(s.cmdSave);
+    row->addWidget(s.chkPrint);
+    row->addSpacing(16);
+    row->addWidget(s.btnPaymentType);
+    row->addWidget(s.btnParsianPos);
+    row->addWidget(s.btnOpenCash);
+    row->addSpacing(16);
+    row->addWidget(s.cmdDel);
+    row->addWidget(s.btnProfit);
+    row->addStretch(1);
+    row->addWidget(s.cmdExit);
+    return row;
+}
+
+}  // namespace
+
+void SaleScreenLayout::arrange(frmSale& s) {
+    s.setLayoutDirection(Qt::RightToLeft);
+    s.Grid1->setFont(scaled(s.font(), kGridScale));
+    s.Grid1->horizontalHeader()->setFont(scaled(s.font(), kButtonScale, true));
+
+    auto* side = new QWidget(&s);
+    side->setObjectName(QStringLiteral("fraSide"));
+    side->setLayout(sideColumn(s));
+    side->setFixedWidth(kSideColumnWidth);
+    side->layout()->setContentsMargins(0, 0, 0, 0);
+
+    // The goods name takes what the side column leaves.
+    auto* body = new QHBoxLayout;
+    body->addWidget(s.Grid1, 1);
+    body->addWidget(side);
+
+    auto* page = new QVBoxLayout(&s);
+    page->setContentsMargins(8, 6, 8, 6);
+    page->setSpacing(6);
+    page->addLayout(topBar(s));
+    page->addLayout(barcodeRow(s));
+    page->addLayout(body, 1);
+    page->addWidget(s.totalsPanel());
+    page->addLayout(buttonRow(s));
+}
+
+}  // namespace sandogh

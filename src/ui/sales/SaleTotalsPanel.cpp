@@ -1,0 +1,169 @@
+#include "ui/sales/SaleTotalsPanel.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+
+#include "sales/SaleSession.h"
+#include "ui/widgets/AmountEdit.h"
+
+namespace sandogh {
+
+namespace {
+
+constexpr double kTotalScale = 2.4;
+constexpr double kAmountScale = 1.35;
+constexpr int kPercentDecimals = 2;
+// Widths the boxes may shrink to: large digits of a Persian font would otherwise ask for
+// the width of its widest glyph and push the panel past the screen.
+constexpr int kAmountMinWidth = 100;
+constexpr int kPercentMinWidth = 64;
+constexpr int kTotalMinWidth = 230;
+
+QFont scaledFont(const QFont& base, double scale, bool bold) {
+    QFont font = base;
+    const qreal size = base.pointSizeF() > 0 ? base.pointSizeF() : 10;
+    font.setPointSizeF(size * scale);
+    font.setBold(bold);
+    return font;
+}
+
+AmountEdit* amountBox(QWidget* parent, const char* name) {
+    auto* box = new AmountEdit(parent);
+    box->setObjectName(QString::fromLatin1(name));
+    box->setFont(scaledFont(parent->font(), kAmountScale, true));
+    box->setMinimumWidth(kAmountMinWidth);
+    return box;
+}
+
+QComboBox* kindBox(QWidget* parent, const char* name) {
+    auto* combo = new QComboBox(parent);
+    combo->setObjectName(QString::fromLatin1(name));
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(8);
+    return combo;
+}
+
+}  // namespace
+
+SaleTotalsPanel::SaleTotalsPanel(QWidget* parent)
+    : QFrame(parent)
+    , txtSum(amountBox(this, "txtSum"))
+    , txtDiscountPercent(amountBox(this, "txtDiscountPercent"))
+    , txtDiscount(amountBox(this, "txtDiscount"))
+    , cmbDiscountType(kindBox(this, "cmbDiscountType"))
+    , txtOther(amountBox(this, "txtOther"))
+    , cmbOverhead(kindBox(this, "cmbOverhead"))
+    , txtSumReceived(amountBox(this, "txtSumReceived"))
+    , lblReceivedPrice(new QLabel(this))
+    , txtReceivedPrice(amountBox(this, "txtReceivedPrice"))
+    , txtReturn(amountBox(this, "txtReturn"))
+    , lblReturnCalculator(new QLabel(this)) {
+    setObjectName(QStringLiteral("fraTotals"));
+    setFrameShape(QFrame::StyledPanel);
+
+    txtSum->setReadOnly(true);
+    txtSum->setFocusPolicy(Qt::NoFocus);
+    txtSum->setFont(scaledFont(font(), kTotalScale, true));
+    txtSum->setMinimumWidth(kTotalMinWidth);
+    txtSum->setStyleSheet(QStringLiteral(
+        "QLineEdit { background: #10324a; color: #f7f3d8; border: 2px solid #0b2436; "
+        "border-radius: 6px; padding: 2px 10px; }"));
+    txtDiscountPercent->setDecimals(kPercentDecimals);
+    txtDiscountPercent->setMinimumWidth(kPercentMinWidth);
+    txtDiscountPercent->setMaximumWidth(90);
+    txtReturn->setReadOnly(true);
+    txtReturn->setFocusPolicy(Qt::NoFocus);
+    txtReturn->setNegativeAllowed(true);
+    txtReturn->setPlaceholderText(QStringLiteral("مانده"));
+
+    lblReceivedPrice->setObjectName(QStringLiteral("lblReceivedPrice"));
+    lblReturnCalculator->setObjectName(QStringLiteral("lblReturnCalculator"));
+    lblReturnCalculator->setFont(scaledFont(font(), kAmountScale, true));
+    lblReturnCalculator->setAlignment(Qt::AlignCenter);
+
+    buildLayout();
+    showMode(SaleMode::Sale);
+    txtSum->setValue(0);
+}
+
+void SaleTotalsPanel::buildLayout() {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(8, 6, 8, 6);
+    grid->setHorizontalSpacing(10);
+    grid->setVerticalSpacing(3);
+
+    // Read from the right, in the order the amounts follow from one another: what the
+    // lines come to (largest), what comes off and on, what is due, what was handed over
+    // and what goes back.
+    auto* lblSum = new QLabel(QStringLiteral("جمع کل"), this);
+    lblSum->setObjectName(QStringLiteral("lblSum"));
+    lblSum->setFont(scaledFont(font(), kAmountScale, true));
+    grid->addWidget(lblSum, 0, 0);
+    grid->addWidget(txtSum, 1, 0);
+    grid->setColumnStretch(0, 2);
+
+    int column = 1;
+    const auto addField = [&](const QString& caption, QWidget* field, QWidget* second = nullptr) {
+        auto* label = new QLabel(caption, this);
+        label->setBuddy(field);
+        grid->addWidget(label, 0, column, 1, second ? 2 : 1);
+        grid->addWidget(field, 1, column);
+        if (second != nullptr) {
+            grid->addWidget(second, 1, ++column);
+        }
+        ++column;
+    };
+    addField(QStringLiteral("تخفیف ٪"), txtDiscountPercent);
+    addField(QStringLiteral("مبلغ تخفیف (Ctrl+J)"), txtDiscount, cmbDiscountType);
+    addField(QStringLiteral("هزینه اضافه (Ctrl+Z)"), txtOther, cmbOverhead);
+    addField(QStringLiteral("قابل پرداخت (Ctrl+B)"), txtSumReceived);
+    grid->addWidget(lblReceivedPrice, 0, column);
+    grid->addWidget(txtReceivedPrice, 1, column++);
+    grid->addWidget(lblReturnCalculator, 0, column);
+    grid->addWidget(txtReturn, 1, column);
+}
+
+void SaleTotalsPanel::showTotal(const QString& totalText) {
+    txtSum->setText(totalText);
+}
+
+void SaleTotalsPanel::showMode(SaleMode mode) {
+    lblReceivedPrice->setText(SaleSession::amountLabelOf(mode));
+    lblReceivedPrice->setToolTip(QStringLiteral("Ctrl+C"));
+}
+
+void SaleTotalsPanel::fillKinds(QComboBox* combo, const QList<SaleScreenLists::Item>& kinds) {
+    combo->clear();
+    // The first entry is none: the document is saved without a kind.
+    combo->addItem(QString(), QVariant());
+    for (const SaleScreenLists::Item& kind : kinds) {
+        combo->addItem(kind.name, kind.code);
+    }
+}
+
+void SaleTotalsPanel::setDiscountKinds(const QList<SaleScreenLists::Item>& kinds) {
+    fillKinds(cmbDiscountType, kinds);
+}
+
+void SaleTotalsPanel::setOverheadKinds(const QList<SaleScreenLists::Item>& kinds) {
+    fillKinds(cmbOverhead, kinds);
+}
+
+void SaleTotalsPanel::setDiscountEnabled(bool enabled) {
+    txtDiscount->setEnabled(enabled);
+    txtDiscountPercent->setEnabled(enabled);
+    cmbDiscountType->setEnabled(enabled);
+}
+
+void SaleTotalsPanel::clearSettlement() {
+    for (AmountEdit* box :
+         {txtDiscountPercent, txtDiscount, txtOther, txtSumReceived, txtReceivedPrice, txtReturn}) {
+        box->clear();
+    }
+    cmbDiscountType->setCurrentIndex(0);
+    cmbOverhead->setCurrentIndex(0);
+    lblReturnCalculator->clear();
+}
+
+}  // namespace sandogh

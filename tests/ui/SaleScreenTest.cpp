@@ -1,0 +1,169 @@
+#include "SaleScreenTest.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+
+#include "data/Database.h"
+#include "data/schema/Migrator.h"
+#include "data/schema/ShopSchema.h"
+#include "sales/SaleSession.h"
+#include "support/BackendTest.h"
+#include "ui/sales/frmSale.h"
+
+namespace sandogh::test {
+
+void SaleScreenTest::SetUp() {
+    bool skip = false;
+    m_db = createOrReport(Backend::SQLite, &skip);
+    ASSERT_NE(m_db, nullptr);
+    const Migrator::Result migrated = Migrator(db()).apply(shopMigrations());
+    ASSERT_TRUE(migrated.ok) << migrated.message.toStdString();
+    ASSERT_TRUE(m_settingsDir.isValid());
+    m_store = std::make_unique<QSettingsStore>(
+        QStringLiteral("Retail"), m_settingsDir.filePath(QStringLiteral("Retail.ini")));
+    m_settings = std::make_unique<MachineSettings>(*m_store);
+    setOption("Station", "ID", QString::number(kStation));
+    setOption("UserInfo", "UserName", QStringLiteral("cashier"));
+    exec(QStringLiteral("INSERT INTO Stations (ID, Station_Name) VALUES (:id, 'Desk')"),
+         {{QStringLiteral(":id"), kStation}});
+}
+
+void SaleScreenTest::TearDown() {
+    closeScreen();
+    m_settings.reset();
+    m_store.reset();
+    m_db.reset();
+}
+
+void SaleScreenTest::setOption(const char* section, const char* key, const QString& value) {
+    ASSERT_TRUE(m_store->write(QString::fromLatin1(section), QString::fromLatin1(key), value));
+}
+
+void SaleScreenTest::exec(const QString& sql, const SqlBinds& binds) {
+    Session s = db().session();
+    ASSERT_TRUE(s.exec(sql, binds))
+        << sql.toStdString() << ": " << s.lastError().text().toStdString();
+}
+
+void SaleScreenTest::addGoods(const ShopGoods& g) {
+    exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue, ISActive, AQIS, "
+                        "Type, GType, ISFavorite, FavoriteTab) VALUES (:b, :name, :cost, :cost2, "
+                        ":tax, 1, :aqis, 0, 0, :fav, :tab)"),
+         {{QStringLiteral(":b"), g.barcode},
+          {QStringLiteral(":name"), g.name},
+          {QStringLiteral(":cost"), g.cost},
+          {QStringLiteral(":cost2"), g.cost2},
+          {QStringLiteral(":tax"), g.tax},
+          {QStringLiteral(":fav"), g.favourite ? 1 : 0},
+          {QStringLiteral(":tab"), g.favouriteTab},
+          {QStringLiteral(":aqis"), g.asksQuantity ? 1 : 0}});
+}
+
+void SaleScreenTest::addPriceChange(int code, const QString& from, const QString& to,
+                                    const QString& barcode, double newCost) {
+    exec(QStringLiteral("INSERT INTO DiscountH (Code, FDate, SDate) VALUES (:c, :f, :s)"),
+         {{QStringLiteral(":c"), code}, {QStringLiteral(":f"), from}, {QStringLiteral(":s"), to}});
+    exec(QStringLiteral("INSERT INTO DiscountD (Code, Ean_Code, NewCost) VALUES (:c, :b, :n)"),
+         {{QStringLiteral(":c"), code},
+          {QStringLiteral(":b"), barcode},
+          {QStringLiteral(":n"), newCost}});
+}
+
+void SaleScreenTest::addLock(const QString& barcode, double qty) {
+    exec(QStringLiteral("INSERT INTO ItemLock (Ean_Code, Qty, IsLock) VALUES (:b, :q, 1)"),
+         {{QStringLiteral(":b"), barcode}, {QStringLiteral(":q"), qty}});
+}
+
+void SaleScreenTest::addDocument(qint64 code, int transType, const QString& barcode, double qty,
+                                 double docSum, double received, const QString& date) {
+    exec(QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, StationID, "
+                        "DocSum, ReceivedPrice) VALUES (:code, :no, :t, :d, :s, :sum, :rec)"),
+         {{QStringLiteral(":code"), code},
+          {QStringLiteral(":no"), QString::number(code)},
+          {QStringLiteral(":t"), transType},
+          {QStringLiteral(":d"), date},
+          {QStringLiteral(":s"), kStation},
+          {QStringLiteral(":sum"), docSum},
+          {QStringLiteral(":rec"), received}});
+    exec(QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Fee, Price, TaxValue, "
+                        "Discount) VALUES (:code, :b, :q, 0, 0, 0, 0, 0)"),
+         {{QStringLiteral(":code"), code},
+          {QStringLiteral(":b"), barcode},
+          {QStringLiteral(":q"), qty}});
+}
+
+void SaleScreenTest::addUser(int id, const QString& userName, bool active) {
+    exec(QStringLiteral("INSERT INTO Users (ID, Name, UserName, Active) VALUES (:id, :name, :user, "
+                        ":active)"),
+         {{QStringLiteral(":id"), id},
+          {QStringLiteral(":name"), userName},
+          {QStringLiteral(":user"), userName},
+          {QStringLiteral(":active"), active ? 1 : 0}});
+}
+
+void SaleScreenTest::addCustomer(int counter, const QString& code, const QString& name,
+                                 const QString& family, const QString& mobile) {
+    exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, Value5, Account) "
+                        "VALUES (:c, 10, :code, :name, :family, :mobile, :account)"),
+         {{QStringLiteral(":c"), counter},
+          {QStringLiteral(":code"), code},
+          {QStringLiteral(":name"), name},
+          {QStringLiteral(":family"), family},
+          {QStringLiteral(":mobile"), mobile},
+          {QStringLiteral(":account"), 1000 + counter}});
+}
+
+frmSale& SaleScreenTest::openScreen() {
+    m_screen = std::make_unique<frmSale>(db(), settings(), messages(), m_clock);
+    m_screen->resize(1280, 720);
+    m_screen->show();
+    QApplication::setActiveWindow(m_screen.get());
+    m_screen->txtBarcode->setFocus();
+    return *m_screen;
+}
+
+void SaleScreenTest::closeScreen() {
+    m_screen.reset();
+}
+
+void SaleScreenTest::scan(const QString& text) {
+    QTest::keyClicks(m_screen->txtBarcode, text);
+    QTest::keyClick(m_screen->txtBarcode, Qt::Key_Return);
+}
+
+void SaleScreenTest::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QWidget* target = QApplication::focusWidget();
+    if (target == nullptr || (target != m_screen.get() && !m_screen->isAncestorOf(target))) {
+        target = m_screen->txtBarcode;
+    }
+    QTest::keyClick(target, key, modifiers);
+}
+
+QLineEdit* SaleScreenTest::box(const char* name) {
+    auto* found = m_screen->findChild<QLineEdit*>(QString::fromLatin1(name));
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
+
+bool SaleScreenTest::barcodeHasFocus() {
+    return m_screen->focusWidget() == m_screen->txtBarcode;
+}
+
+int SaleScreenTest::lineCount() {
+    return m_screen->session().linesModel().lineCount();
+}
+
+double SaleScreenTest::quantityOf(int row) {
+    return m_screen->session().linesModel().line(row).quantity;
+}
+
+double SaleScreenTest::unitPriceOf(int row) {
+    return m_screen->session().linesModel().line(row).unitPrice;
+}
+
+QString SaleScreenTest::totalShown() {
+    return box("txtSum")->text();
+}
+
+}  // namespace sandogh::test

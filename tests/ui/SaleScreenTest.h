@@ -1,0 +1,147 @@
+#pragma once
+
+// A sale screen on a fresh SQLite shop: the schema applied, this desk's settings in a
+// temporary INI file, a clock standing at 21 March 2025 (1404/01/01), a few goods put in
+// by each test, and helpers that type into the screen as a cashier does.
+
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <memory>
+#include <string>
+
+#include "data/Session.h"
+#include "sales/SaleActions.h"
+#include "sales/TotalDisplay.h"
+#include "settings/MachineSettings.h"
+#include "settings/QSettingsStore.h"
+#include "support/FixedClock.h"
+#include "support/RecordingMessageService.h"
+#include "support/TestDatabase.h"
+
+class QLineEdit;
+
+namespace sandogh {
+
+class frmSale;
+
+namespace test {
+
+// The totals the customer display was sent.
+class RecordingTotalDisplay final : public TotalDisplay {
+public:
+    void showTotal(const QString& amountText) override { shown << amountText; }
+    QStringList shown;
+};
+
+// What the screen handed on to saving, payment and the terminals.
+class RecordingSaleActions final : public SaleActions {
+public:
+    bool save() override {
+        ++saves;
+        return saveResult;
+    }
+    bool paymentType() override {
+        ++paymentTypes;
+        return true;
+    }
+    bool pecPayment() override {
+        ++pecPayments;
+        return true;
+    }
+    void terminalHandOff(const QString& command) override { handOffs << command; }
+    void openDrawer() override { ++drawers; }
+    bool cardLookup(qint64 cardNumber) override {
+        cards << cardNumber;
+        return cardResult;
+    }
+
+    int saves = 0;
+    bool saveResult = true;
+    int paymentTypes = 0;
+    int pecPayments = 0;
+    QStringList handOffs;
+    int drawers = 0;
+    QList<qint64> cards;
+    bool cardResult = false;
+};
+
+// Names the instances of a table-driven test after the name field of their case.
+struct CaseName {
+    template <typename Case>
+    std::string operator()(const ::testing::TestParamInfo<Case>& param) const {
+        return param.param.name;
+    }
+};
+
+struct ShopGoods {
+    QString barcode;
+    double cost = 0;
+    double tax = 0;
+    QString name = QStringLiteral("کالا");
+    double cost2 = 0;
+    bool favourite = false;
+    int favouriteTab = 0;
+    bool asksQuantity = false;
+};
+
+class SaleScreenTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    Database& db() { return m_db->database(); }
+    RecordingMessageService& messages() { return m_db->messages(); }
+    MachineSettings& settings() { return *m_settings; }
+    FixedClock& clock() { return m_clock; }
+
+    // Sets a switch of this desk before the screen opens.
+    void setOption(const char* section, const char* key, const QString& value);
+    // Runs a statement; fails the test when it fails.
+    void exec(const QString& sql, const SqlBinds& binds = {});
+
+    void addGoods(const ShopGoods& goods);
+    void addPriceChange(int code, const QString& from, const QString& to, const QString& barcode,
+                        double newCost);
+    void addLock(const QString& barcode, double qty);
+    // A document of this desk's station with one line: 1 purchase, 2 sale, 3 return.
+    void addDocument(qint64 code, int transType, const QString& barcode, double qty,
+                     double docSum = 0, double received = 0,
+                     const QString& date = QStringLiteral("1404/01/01"));
+    void addUser(int id, const QString& userName, bool active = true);
+    void addCustomer(int counter, const QString& code, const QString& name, const QString& family,
+                     const QString& mobile = {});
+
+    // Opens the screen (shown, active, the focus in the barcode box).
+    frmSale& openScreen();
+    frmSale& screen() { return *m_screen; }
+    void closeScreen();
+
+    // Types text into the barcode box and presses Enter.
+    void scan(const QString& text);
+    // A key pressed wherever the focus is on the screen.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    QLineEdit* box(const char* name);
+    // The barcode box is the screen's focus (the window gives it the keyboard whenever it
+    // is active; a dialog that just closed may leave the window inactive for a moment).
+    bool barcodeHasFocus();
+    int lineCount();
+    double quantityOf(int row);
+    double unitPriceOf(int row);
+    QString totalShown();
+
+    static constexpr int kStation = 1;
+
+private:
+    std::unique_ptr<TestDatabase> m_db;
+    QTemporaryDir m_settingsDir;
+    std::unique_ptr<QSettingsStore> m_store;
+    std::unique_ptr<MachineSettings> m_settings;
+    FixedClock m_clock{QDateTime(QDate(2025, 3, 21), QTime(9, 30))};
+    std::unique_ptr<frmSale> m_screen;
+};
+
+}  // namespace test
+}  // namespace sandogh

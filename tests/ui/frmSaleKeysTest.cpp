@@ -1,0 +1,333 @@
+// The keys of the sale screen: each reaches the screen before its controls and does what
+// the key table says.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "DialogDriver.h"
+#include "SaleScreenTest.h"
+#include "sales/SaleSession.h"
+#include "sales/SaleTexts.h"
+#include "ui/sales/SaleDetailPanel.h"
+#include "ui/sales/SaleGridView.h"
+#include "ui/sales/frmSale.h"
+#include "ui/widgets/AmountEdit.h"
+
+namespace sandogh::test {
+namespace {
+
+class frmSaleKeysTest : public SaleScreenTest {
+protected:
+    // Two lines: A (10,000) and B (2,500).
+    void ringUpTwoLines() {
+        addGoods({QStringLiteral("6261001"), 10000, 0, QStringLiteral("الف")});
+        addGoods({QStringLiteral("6261002"), 2500, 0, QStringLiteral("ب")});
+        openScreen();
+        scan(QStringLiteral("6261001"));
+        scan(QStringLiteral("6261002"));
+        ASSERT_EQ(lineCount(), 2);
+    }
+};
+
+TEST_F(frmSaleKeysTest, CtrlDDeletesTheSelectedLine) {
+    ringUpTwoLines();
+    screen().Grid1->selectLine(0);
+
+    press(Qt::Key_D, Qt::ControlModifier);
+
+    ASSERT_EQ(lineCount(), 1);
+    EXPECT_EQ(screen().session().linesModel().line(0).barcode, QStringLiteral("6261002"));
+    EXPECT_EQ(totalShown(), QStringLiteral("2,500"));
+    EXPECT_TRUE(barcodeHasFocus());
+}
+
+TEST_F(frmSaleKeysTest, CmdDelDeletesTheLineJustRungUp) {
+    ringUpTwoLines();
+
+    QTest::mouseClick(screen().cmdDel, Qt::LeftButton);
+
+    ASSERT_EQ(lineCount(), 1);
+    EXPECT_EQ(screen().session().linesModel().line(0).barcode, QStringLiteral("6261001"));
+}
+
+TEST_F(frmSaleKeysTest, CtrlMSwitchesBetweenSaleAndReturn) {
+    openScreen();
+    auto* received = screen().findChild<QLabel*>(QStringLiteral("lblReceivedPrice"));
+    ASSERT_NE(received, nullptr);
+    EXPECT_EQ(screen().lblCaption->text(), QStringLiteral("فاکتور فروش"));
+    EXPECT_EQ(received->text(), QStringLiteral("مبلغ دريافت شده :"));
+
+    press(Qt::Key_M, Qt::ControlModifier);
+
+    EXPECT_EQ(screen().session().mode(), SaleMode::Return);
+    EXPECT_EQ(screen().lblCaption->text(), QStringLiteral("فاکتور مرجوعي فروش"));
+    EXPECT_EQ(screen().windowTitle(), QStringLiteral("فاکتور مرجوعي فروش"));
+    EXPECT_EQ(received->text(), QStringLiteral("مبلغ پرداخت شده :"));
+    EXPECT_TRUE(screen().frmDetail->rdoTypeReturn->isChecked());
+
+    press(Qt::Key_M, Qt::ControlModifier);
+    EXPECT_EQ(screen().lblCaption->text(), QStringLiteral("فاکتور فروش"));
+    EXPECT_TRUE(screen().frmDetail->rdoTypeSale->isChecked());
+}
+
+TEST_F(frmSaleKeysTest, SalesTypeStaysWhileLinesAreOnTheGrid) {
+    ringUpTwoLines();
+    QTest::mouseClick(screen().btnDetail, Qt::LeftButton);
+    ASSERT_TRUE(screen().frmDetail->isVisible());
+
+    QTest::mouseClick(screen().frmDetail->rdoSalesTypeSecond, Qt::LeftButton);
+
+    EXPECT_EQ(messages().countOf(SaleTexts::salesTypeOnlyWhileEmpty()), 1);
+    EXPECT_EQ(screen().session().salesType(), SaleSession::kFirstSalesType);
+    EXPECT_TRUE(screen().frmDetail->rdoSalesTypeFirst->isChecked());
+
+    // With the grid emptied the second type is taken.
+    press(Qt::Key_Escape);  // closes the detail panel
+    press(Qt::Key_Escape);  // a new sale
+    ASSERT_EQ(lineCount(), 0);
+    QTest::mouseClick(screen().btnDetail, Qt::LeftButton);
+    QTest::mouseClick(screen().frmDetail->rdoSalesTypeSecond, Qt::LeftButton);
+    EXPECT_EQ(screen().session().salesType(), SaleSession::kSecondSalesType);
+    EXPECT_EQ(messages().countOf(SaleTexts::salesTypeOnlyWhileEmpty()), 1);
+}
+
+TEST_F(frmSaleKeysTest, EscapeClosesTheDetailPanelFirstThenStartsANewSale) {
+    ringUpTwoLines();
+    QTest::mouseClick(screen().btnDetail, Qt::LeftButton);
+    ASSERT_TRUE(screen().frmDetail->isVisible());
+    screen().frmDetail->txtNote->setFocus();
+
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(screen().frmDetail->isVisible());
+    EXPECT_EQ(lineCount(), 2);
+
+    QTest::keyClicks(screen().txtBarcode, QStringLiteral("62"));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(lineCount(), 0);
+    EXPECT_EQ(totalShown(), QStringLiteral("0"));
+    EXPECT_TRUE(screen().txtBarcode->text().isEmpty());
+    EXPECT_TRUE(barcodeHasFocus());
+}
+
+struct FocusCase {
+    Qt::Key key;
+    const char* box;
+    bool selected;
+};
+
+class frmSaleFocusTest : public SaleScreenTest, public ::testing::WithParamInterface<FocusCase> {};
+
+TEST_P(frmSaleFocusTest, CtrlKeyFocusesItsBox) {
+    openScreen();
+    QLineEdit* target = box(GetParam().box);
+    ASSERT_NE(target, nullptr);
+    target->setText(QStringLiteral("1,000"));
+    target->deselect();
+
+    press(GetParam().key, Qt::ControlModifier);
+
+    EXPECT_TRUE(target->hasFocus());
+    EXPECT_EQ(target->hasSelectedText(), GetParam().selected);
+    EXPECT_EQ(target->text(), QStringLiteral("1,000"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, frmSaleFocusTest,
+                         ::testing::Values(FocusCase{Qt::Key_B, "txtSumReceived", false},
+                                           FocusCase{Qt::Key_C, "txtReceivedPrice", false},
+                                           FocusCase{Qt::Key_J, "txtDiscount", true},
+                                           FocusCase{Qt::Key_Z, "txtOther", false},
+                                           FocusCase{Qt::Key_S, "txtAccountSearch", true}));
+
+TEST_F(frmSaleKeysTest, KeysAreTheScreensEvenInsideABox) {
+    // Ctrl+C in the discount box is the focus key, not a copy.
+    openScreen();
+    QLineEdit* discount = box("txtDiscount");
+    discount->setFocus();
+    ASSERT_TRUE(discount->hasFocus());
+
+    press(Qt::Key_C, Qt::ControlModifier);
+
+    EXPECT_TRUE(box("txtReceivedPrice")->hasFocus());
+}
+
+struct HandOffCase {
+    Qt::Key key;
+    const char* command;
+};
+
+class frmSaleTerminalTest : public SaleScreenTest,
+                            public ::testing::WithParamInterface<HandOffCase> {};
+
+TEST_P(frmSaleTerminalTest, FunctionKeyHandsTheTerminalOn) {
+    RecordingSaleActions actions;
+    openScreen().setActions(&actions);
+
+    press(GetParam().key);
+
+    EXPECT_EQ(actions.handOffs, QStringList{QString::fromLatin1(GetParam().command)});
+    EXPECT_EQ(actions.saves, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Terminals, frmSaleTerminalTest,
+                         ::testing::Values(HandOffCase{Qt::Key_F7, "mnuPosMellat,"},
+                                           HandOffCase{Qt::Key_F8, "mnuPosSaman,"},
+                                           HandOffCase{Qt::Key_F9, "mnuPosPasargad,"},
+                                           HandOffCase{Qt::Key_F10, "mnuKishPsp,"},
+                                           HandOffCase{Qt::Key_F11, "mnuAsanPardakhtPsp,"},
+                                           HandOffCase{Qt::Key_F12, "mnuDamavandPsp,"}));
+
+TEST_F(frmSaleKeysTest, F5PaysOnTheCardTerminal) {
+    RecordingSaleActions actions;
+    openScreen().setActions(&actions);
+
+    press(Qt::Key_F5);
+    QTest::mouseClick(screen().btnParsianPos, Qt::LeftButton);
+
+    EXPECT_EQ(actions.pecPayments, 2);
+}
+
+struct SaveCase {
+    const char* name;
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    bool saveEnabled;
+    bool print;
+    int saves;
+};
+
+class frmSaleSaveKeyTest : public SaleScreenTest, public ::testing::WithParamInterface<SaveCase> {};
+
+TEST_P(frmSaleSaveKeyTest, SavesOnlyWhenAllowed) {
+    const SaveCase& c = GetParam();
+    RecordingSaleActions actions;
+    actions.saveResult = false;
+    openScreen().setActions(&actions);
+    screen().cmdSave->setEnabled(c.saveEnabled);
+    screen().chkPrint->setChecked(c.print);
+
+    press(c.key, c.modifiers);
+
+    EXPECT_EQ(actions.saves, c.saves);
+    EXPECT_EQ(screen().cmdSave->isEnabled(), c.saveEnabled);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Keys, frmSaleSaveKeyTest,
+    ::testing::Values(SaveCase{"F6", Qt::Key_F6, Qt::NoModifier, true, false, 1},
+                      SaveCase{"F6Disabled", Qt::Key_F6, Qt::NoModifier, false, false, 0},
+                      SaveCase{"CtrlEnter", Qt::Key_Return, Qt::ControlModifier, true, false, 1},
+                      SaveCase{"CtrlKeypadEnter", Qt::Key_Enter,
+                               Qt::ControlModifier | Qt::KeypadModifier, true, false, 1},
+                      SaveCase{"CtrlF6Printing", Qt::Key_F6, Qt::ControlModifier, true, true, 1},
+                      SaveCase{"CtrlF6NotPrinting", Qt::Key_F6, Qt::ControlModifier, true, false,
+                               0},
+                      SaveCase{"CtrlF6Disabled", Qt::Key_F6, Qt::ControlModifier, false, true, 0}),
+    CaseName());
+
+struct RequestCase {
+    const char* name;
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    const char* signal;
+    const char* enableSection;  // the desk's switch the request needs, or null
+};
+
+class frmSaleRequestTest : public SaleScreenTest,
+                           public ::testing::WithParamInterface<RequestCase> {};
+
+TEST_P(frmSaleRequestTest, AsksTheMainWindowForAnotherScreen) {
+    const RequestCase& c = GetParam();
+    if (c.enableSection != nullptr) {
+        setOption(c.enableSection, "Enable", QStringLiteral("1"));
+    }
+    openScreen();
+    QSignalSpy spy(&screen(), c.signal);
+
+    press(c.key, c.modifiers);
+
+    EXPECT_EQ(spy.count(), 1);
+}
+
+const RequestCase kGoodDefinition{"F2", Qt::Key_F2, Qt::NoModifier,
+                                  SIGNAL(goodDefinitionRequested()), "GoodDefinition"};
+const RequestCase kNewSaleForm{"F3", Qt::Key_F3, Qt::NoModifier, SIGNAL(newSaleFormRequested()),
+                               "SalesNewForm"};
+const RequestCase kDeleteInvoice{"CtrlP", Qt::Key_P, Qt::ControlModifier,
+                                 SIGNAL(deleteInvoiceRequested()), nullptr};
+
+INSTANTIATE_TEST_SUITE_P(Keys, frmSaleRequestTest,
+                         ::testing::Values(kGoodDefinition, kNewSaleForm, kDeleteInvoice),
+                         CaseName());
+
+class frmSaleSwitchedOffRequestTest : public frmSaleRequestTest {};
+
+TEST_P(frmSaleSwitchedOffRequestTest, NothingIsAskedWhileTheDeskSwitchIsOff) {
+    openScreen();
+    QSignalSpy spy(&screen(), GetParam().signal);
+
+    press(GetParam().key, GetParam().modifiers);
+
+    EXPECT_EQ(spy.count(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, frmSaleSwitchedOffRequestTest,
+                         ::testing::Values(kGoodDefinition, kNewSaleForm), CaseName());
+
+TEST_F(frmSaleKeysTest, CtrlQChangesTheQuantityOfTheSelectedLine) {
+    ringUpTwoLines();
+    screen().Grid1->selectLine(0);
+    DialogDriver typeQuantity(QStringLiteral("frmChangeQty"), [](QWidget* dialog) {
+        auto* qty = dialog->findChild<QLineEdit*>(QStringLiteral("txtQty"));
+        ASSERT_NE(qty, nullptr);
+        qty->selectAll();
+        QTest::keyClicks(qty, QStringLiteral("2.5"));
+        QTest::keyClick(qty, Qt::Key_Return);
+    });
+
+    press(Qt::Key_Q, Qt::ControlModifier);
+
+    EXPECT_DOUBLE_EQ(quantityOf(0), 2.5);
+    EXPECT_DOUBLE_EQ(quantityOf(1), 1);
+    EXPECT_EQ(totalShown(), QStringLiteral("27,500"));
+    EXPECT_EQ(screen().session().ChangedRowNo(), 0);
+    EXPECT_TRUE(barcodeHasFocus());
+}
+
+TEST_F(frmSaleKeysTest, CtrlQCancelledChangesNothing) {
+    ringUpTwoLines();
+    DialogDriver cancel(QStringLiteral("frmChangeQty"),
+                        [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+
+    press(Qt::Key_Q, Qt::ControlModifier);
+
+    EXPECT_DOUBLE_EQ(quantityOf(1), 1);
+    EXPECT_EQ(lineCount(), 2);
+}
+
+TEST_F(frmSaleKeysTest, CtrlLSearchesGoodsAndComesBackToTheBarcodeBox) {
+    addGoods({QStringLiteral("6261003"), 4000});
+    openScreen();
+    int searches = 0;
+    screen().setGoodsSearch([&searches] {
+        ++searches;
+        return QStringLiteral("6261003");
+    });
+    box("txtDiscount")->setFocus();
+
+    press(Qt::Key_L, Qt::ControlModifier);
+
+    EXPECT_EQ(searches, 1);
+    EXPECT_EQ(lineCount(), 1);
+    EXPECT_TRUE(barcodeHasFocus());
+}
+
+}  // namespace
+}  // namespace sandogh::test

@@ -1,0 +1,289 @@
+// The parts of the sale screen around the grid: favourites, customer, day's totals, the
+// pick lists, and leaving the screen.
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QTest>
+
+#include "SaleScreenTest.h"
+#include "sales/SaleSession.h"
+#include "sales/SaleTexts.h"
+#include "ui/sales/SaleCustomerPanel.h"
+#include "ui/sales/SaleDetailPanel.h"
+#include "ui/sales/SaleFavouritesPanel.h"
+#include "ui/sales/SaleTotalsPanel.h"
+#include "ui/sales/frmSale.h"
+
+namespace sandogh::test {
+namespace {
+
+class frmSalePanelsTest : public SaleScreenTest {
+protected:
+    void addFavourites() {
+        addGoods({QStringLiteral("7001"), 1500, 0, QStringLiteral("نان"), 0, true, 1});
+        addGoods({QStringLiteral("7002"), 900, 0, QStringLiteral("شیر"), 0, true, 1});
+        addGoods({QStringLiteral("7003"), 30000, 0, QStringLiteral("برنج"), 0, true, 3});
+    }
+    QTableWidget* favouritesGrid() {
+        auto* grid = screen().findChild<QTableWidget*>(QStringLiteral("dgGoods"));
+        EXPECT_NE(grid, nullptr);
+        return grid;
+    }
+};
+
+TEST_F(frmSalePanelsTest, FavouriteTabsAreTheOnesHoldingGoods) {
+    addFavourites();
+    openScreen();
+
+    SaleFavouritesPanel* panel = screen().favouritesPanel();
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(panel->tabs(), (QList<int>{1, 3}));
+    QTableWidget* grid = favouritesGrid();
+    ASSERT_EQ(grid->rowCount(), 2);
+    // Ordered by name.
+    EXPECT_EQ(grid->item(0, SaleFavouritesPanel::ColName)->text(), QStringLiteral("شیر"));
+    EXPECT_EQ(grid->item(1, SaleFavouritesPanel::ColCost)->text(), QStringLiteral("1,500"));
+
+    panel->tabFavourites->setCurrentIndex(1);
+    ASSERT_EQ(grid->rowCount(), 1);
+    EXPECT_EQ(grid->item(0, SaleFavouritesPanel::ColBarcode)->text(), QStringLiteral("7003"));
+}
+
+TEST_F(frmSalePanelsTest, NoFavouritesNoPanel) {
+    openScreen();
+    EXPECT_FALSE(screen().favouritesPanel()->isVisible());
+}
+
+TEST_F(frmSalePanelsTest, ChoosingAFavouriteRingsItUp) {
+    addFavourites();
+    openScreen();
+    QTableWidget* grid = favouritesGrid();
+    const QRect cell = grid->visualItemRect(grid->item(1, SaleFavouritesPanel::ColName));
+
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+
+    ASSERT_EQ(lineCount(), 1);
+    EXPECT_EQ(screen().session().linesModel().line(0).barcode, QStringLiteral("7001"));
+    EXPECT_DOUBLE_EQ(quantityOf(0), 2);
+    EXPECT_TRUE(barcodeHasFocus());
+}
+
+TEST_F(frmSalePanelsTest, FavouriteColumnOrderIsKeptAndRestored) {
+    addFavourites();
+    openScreen();
+    QHeaderView* header = favouritesGrid()->horizontalHeader();
+
+    // The user drags the price column to the front.
+    header->moveSection(header->visualIndex(SaleFavouritesPanel::ColCost), 0);
+
+    EXPECT_EQ(settings().saleGoodsColumnOrder(), QStringLiteral("2,0,1"));
+
+    closeScreen();
+    openScreen();
+    header = favouritesGrid()->horizontalHeader();
+    EXPECT_EQ(header->logicalIndex(0), SaleFavouritesPanel::ColCost);
+    EXPECT_EQ(header->logicalIndex(1), SaleFavouritesPanel::ColBarcode);
+    EXPECT_EQ(header->logicalIndex(2), SaleFavouritesPanel::ColName);
+    // Putting the order back is no move of the user's: the kept text stays.
+    EXPECT_EQ(settings().saleGoodsColumnOrder(), QStringLiteral("2,0,1"));
+}
+
+struct OrderCase {
+    const char* text;
+    QList<int> order;
+};
+
+class SaleFavouritesOrderTest : public ::testing::TestWithParam<OrderCase> {};
+
+TEST_P(SaleFavouritesOrderTest, ParsesOnlyAWholeOrder) {
+    EXPECT_EQ(SaleFavouritesPanel::parseColumnOrder(QString::fromLatin1(GetParam().text)),
+              GetParam().order);
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, SaleFavouritesOrderTest,
+                         ::testing::Values(OrderCase{"2,0,1", {2, 0, 1}},
+                                           OrderCase{" 1, 2 ,0", {1, 2, 0}}, OrderCase{"", {}},
+                                           OrderCase{"0,1", {}}, OrderCase{"0,0,1", {}},
+                                           OrderCase{"0,1,3", {}}, OrderCase{"a,b,c", {}},
+                                           OrderCase{"0,1,2,3", {}}));
+
+TEST_F(frmSalePanelsTest, CustomerSearchEnterSearchesArrowsMove) {
+    addCustomer(11, QStringLiteral("101"), QStringLiteral("علی"), QStringLiteral("رضایی"));
+    addCustomer(12, QStringLiteral("102"), QStringLiteral("علی"), QStringLiteral("کریمی"));
+    addCustomer(13, QStringLiteral("103"), QStringLiteral("مریم"), QStringLiteral("احمدی"));
+    openScreen();
+    SaleCustomerPanel* panel = screen().customerPanel();
+    press(Qt::Key_S, Qt::ControlModifier);
+    ASSERT_TRUE(panel->txtAccountSearch->hasFocus());
+    panel->txtAccountSearch->setText(QStringLiteral("علی"));
+
+    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
+
+    ASSERT_EQ(panel->lstCustomers->count(), 2);
+    EXPECT_EQ(screen().session().CompanyId(), 11);
+    EXPECT_EQ(panel->txtCustomerName->text(), QStringLiteral("علی رضایی"));
+    EXPECT_EQ(panel->txtAccount->text(), QStringLiteral("1011"));
+    EXPECT_TRUE(panel->lblCredit->text().startsWith(SaleTexts::customerBalance()));
+
+    // The arrows move in the results found; they do not search the box's new text.
+    panel->txtAccountSearch->setText(QStringLiteral("مریم"));
+    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Down);
+    EXPECT_EQ(screen().session().CompanyId(), 12);
+    EXPECT_EQ(panel->txtCustomerName->text(), QStringLiteral("علی کریمی"));
+    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Down);
+    EXPECT_EQ(screen().session().CompanyId(), 12);
+    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Up);
+    EXPECT_EQ(screen().session().CompanyId(), 11);
+    EXPECT_EQ(panel->lstCustomers->currentRow(), 0);
+
+    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
+    EXPECT_EQ(screen().session().CompanyId(), 13);
+}
+
+TEST_F(frmSalePanelsTest, CustomerSearchByCodeAndNothingFound) {
+    addCustomer(21, QStringLiteral("501"), QStringLiteral("سارا"), QStringLiteral("نوری"));
+    openScreen();
+    SaleCustomerPanel* panel = screen().customerPanel();
+    panel->cmbSearchKind->setCurrentIndex(1);  // customer code
+    panel->txtAccountSearch->setText(QStringLiteral("501"));
+    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
+    EXPECT_EQ(screen().session().CompanyId(), 21);
+
+    panel->txtAccountSearch->setText(QStringLiteral("999"));
+    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
+    EXPECT_EQ(screen().session().CompanyId(), 0);
+    EXPECT_TRUE(panel->txtCustomerName->text().isEmpty());
+    EXPECT_EQ(panel->txtAccountSearch->text(), QStringLiteral("999"));
+}
+
+TEST_F(frmSalePanelsTest, CustomerSummaryOnCtrlH) {
+    addCustomer(31, QStringLiteral("301"), QStringLiteral("رضا"), QStringLiteral("پاکزاد"));
+    openScreen();
+    press(Qt::Key_H, Qt::ControlModifier);
+    EXPECT_EQ(messages().countOf(SaleTexts::customerNotResolved()), 1);
+
+    SaleCustomerPanel* panel = screen().customerPanel();
+    panel->txtAccountSearch->setText(QStringLiteral("رضا"));
+    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
+    messages().clear();
+    press(Qt::Key_H, Qt::ControlModifier);
+
+    ASSERT_EQ(messages().count(), 1);
+    const QStringList lines = messages().messages().first().text.split(QStringLiteral("\r\n"));
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_EQ(lines.at(0), SaleTexts::customerName() + QStringLiteral("رضا پاکزاد"));
+    EXPECT_EQ(lines.at(1), SaleTexts::customerPurchaseCount() + QStringLiteral("0"));
+}
+
+TEST_F(frmSalePanelsTest, NewSaleForgetsTheCustomer) {
+    addCustomer(41, QStringLiteral("401"), QStringLiteral("نیما"), QStringLiteral("صالحی"));
+    openScreen();
+    SaleCustomerPanel* panel = screen().customerPanel();
+    panel->txtAccountSearch->setText(QStringLiteral("نیما"));
+    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
+    ASSERT_EQ(screen().session().CompanyId(), 41);
+
+    press(Qt::Key_Escape);
+
+    EXPECT_EQ(screen().session().CompanyId(), 0);
+    EXPECT_TRUE(panel->txtAccountSearch->text().isEmpty());
+    EXPECT_TRUE(panel->txtCustomerName->text().isEmpty());
+}
+
+TEST_F(frmSalePanelsTest, DailyTotalsShownOnOpeningAndOnCtrlT) {
+    setOption("Cash", "DisplayDailySale", QStringLiteral("1"));
+    addGoods({QStringLiteral("7101"), 1000});
+    addDocument(1, 2, QStringLiteral("7101"), 1, 150000, 140000);
+    addDocument(2, 2, QStringLiteral("7101"), 1, 50000, 50000);
+    // Another day's sale and this day's return are not in the sales figures.
+    addDocument(3, 2, QStringLiteral("7101"), 1, 99000, 99000, QStringLiteral("1403/12/29"));
+    addDocument(4, 3, QStringLiteral("7101"), 1, 7000, 7000);
+    openScreen();
+
+    EXPECT_TRUE(screen().lblDailySale->isVisible());
+    EXPECT_EQ(screen().lblDailySale->text(), QStringLiteral("فروش روزانه صندوق :200,000"));
+    EXPECT_EQ(screen().lblDailyReceived->text(), QStringLiteral("مبلغ روزانه صندوق :190,000"));
+
+    addDocument(5, 2, QStringLiteral("7101"), 1, 10000, 10000);
+    press(Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(screen().lblDailySale->text(), QStringLiteral("فروش روزانه صندوق :210,000"));
+}
+
+TEST_F(frmSalePanelsTest, DailyTotalsStayHiddenWhileSwitchedOff) {
+    addDocument(1, 2, QStringLiteral("7102"), 1, 150000, 140000);
+    openScreen();
+    press(Qt::Key_T, Qt::ControlModifier);
+    EXPECT_FALSE(screen().lblDailySale->isVisible());
+    EXPECT_TRUE(screen().lblDailySale->text().isEmpty());
+}
+
+TEST_F(frmSalePanelsTest, PickListsAreFilledOnOpening) {
+    exec(QStringLiteral("INSERT INTO DiscountType (Id, Name) VALUES (1, 'تخفیف ویژه')"));
+    exec(QStringLiteral("INSERT INTO Overhead (Id, Name) VALUES (1, 'حمل')"));
+    exec(QStringLiteral("INSERT INTO tblWarehouse (Code, Name, ISActive) VALUES (1, 'اصلی', 1)"));
+    exec(QStringLiteral("INSERT INTO tblWarehouse (Code, Name, ISActive) VALUES (2, 'قدیم', 0)"));
+    exec(QStringLiteral("INSERT INTO ReturnCause (Id, Name) VALUES (3, 'معیوب')"));
+    exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (2, 'کارت')"));
+    exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'نقد')"));
+    openScreen();
+
+    SaleTotalsPanel* totals = screen().totalsPanel();
+    SaleDetailPanel* detail = screen().detailPanel();
+    EXPECT_EQ(totals->cmbDiscountType->count(), 2);
+    EXPECT_EQ(totals->cmbDiscountType->itemText(1), QStringLiteral("تخفیف ویژه"));
+    EXPECT_EQ(totals->cmbOverhead->itemText(1), QStringLiteral("حمل"));
+    ASSERT_EQ(detail->cmbWarehouseSelector->count(), 2);
+    EXPECT_EQ(detail->cmbPayType->itemText(1), QStringLiteral("نقد"));
+    EXPECT_EQ(detail->cmbPayType->itemText(2), QStringLiteral("کارت"));
+    EXPECT_EQ(detail->cmbReturnCause->itemData(1).toInt(), 3);
+
+    // Choosing the warehouse tells the sale.
+    detail->cmbWarehouseSelector->setCurrentIndex(1);
+    EXPECT_EQ(screen().session().warehouse(), QStringLiteral("1"));
+    detail->cmbWarehouseSelector->setCurrentIndex(0);
+    EXPECT_TRUE(screen().session().warehouse().isEmpty());
+}
+
+struct LeaveCase {
+    const char* name;
+    bool withLines;
+    bool answer;
+    bool asked;
+    bool stillOpen;
+};
+
+class frmSaleLeaveTest : public SaleScreenTest, public ::testing::WithParamInterface<LeaveCase> {};
+
+TEST_P(frmSaleLeaveTest, CmdExit) {
+    const LeaveCase& c = GetParam();
+    addGoods({QStringLiteral("7201"), 1000});
+    openScreen();
+    if (c.withLines) {
+        scan(QStringLiteral("7201"));
+    }
+    messages().queueAnswer(c.answer);
+
+    QTest::mouseClick(screen().cmdExit, Qt::LeftButton);
+
+    EXPECT_EQ(messages().countOf(SaleTexts::unsavedSale()), c.asked ? 1 : 0);
+    EXPECT_EQ(screen().isVisible(), c.stillOpen);
+    EXPECT_EQ(lineCount(), c.withLines ? 1 : 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, frmSaleLeaveTest,
+                         ::testing::Values(LeaveCase{"UnsavedNo", true, false, true, true},
+                                           LeaveCase{"UnsavedYes", true, true, true, false},
+                                           LeaveCase{"Empty", false, false, false, false}),
+                         CaseName());
+
+}  // namespace
+}  // namespace sandogh::test

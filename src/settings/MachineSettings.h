@@ -163,6 +163,8 @@ public:
     bool setReceiptOutput(ReceiptOutput output);
     QString receiptPrinterName() const { return text(settingkeys::ReceiptPrinter); }
     QString receiptEscPosDevice() const { return text(settingkeys::ReceiptEscPosDevice); }
+    int receiptDotsWidth() const { return integer(settingkeys::ReceiptDotsWidth); }
+    QString receiptPdfFolder() const { return text(settingkeys::ReceiptPdfFolder); }
     QString companionProgram() const { return text(settingkeys::CompanionProgram); }
     // companionProgram made absolute against the program folder. The receipt goes to
     // receiptOutput() when no program is found there.

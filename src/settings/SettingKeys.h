@@ -131,6 +131,9 @@ inline constexpr SettingKey ReceiptMode = number("Receipt", "Mode", "1");
 inline constexpr SettingKey ReceiptOutputKind = text("Receipt", "Output", "printer");
 inline constexpr SettingKey ReceiptPrinter = text("Receipt", "PrinterName");
 inline constexpr SettingKey ReceiptEscPosDevice = text("Receipt", "EscPosDevice");
+// Print width of the ESC/POS receipt printer in dots: 576 (80 mm paper) or 384 (58 mm).
+inline constexpr SettingKey ReceiptDotsWidth = number("Receipt", "DotsWidth", "576");
+inline constexpr SettingKey ReceiptPdfFolder = text("Receipt", "PdfFolder");
 inline constexpr SettingKey CompanionProgram =
     text("Programs", "Companion", "Program/KotrimoAcc.exe");
 

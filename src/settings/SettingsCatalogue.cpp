@@ -121,6 +121,8 @@ std::vector<SettingDescriptor> buildCatalogue() {
         {k::ReceiptOutputKind, "خروجی فیش بدون برنامه حسابداری", G::Receipt},
         {k::ReceiptPrinter, "چاپگر فیش", G::Receipt},
         {k::ReceiptEscPosDevice, "مسیر دستگاه چاپگر ESC/POS", G::Receipt},
+        {k::ReceiptDotsWidth, "عرض چاپ فیش ESC/POS (نقطه)", G::Receipt},
+        {k::ReceiptPdfFolder, "پوشه فایل‌های PDF فیش", G::Receipt},
 
         // Customers and users.
         {k::MandatoryRfCardPass, "الزام رمز کارت مشتری", G::Customers},

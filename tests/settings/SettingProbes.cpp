@@ -127,6 +127,8 @@ std::vector<SettingProbe> buildProbes() {
         PROBE(ReceiptOutputKind, receiptOutput),
         PROBE(ReceiptPrinter, receiptPrinterName),
         PROBE(ReceiptEscPosDevice, receiptEscPosDevice),
+        PROBE(ReceiptDotsWidth, receiptDotsWidth),
+        PROBE(ReceiptPdfFolder, receiptPdfFolder),
         PROBE(CompanionProgram, companionProgram),
         PROBE(MandatoryRfCardPass, rfCardPasswordMandatory),
         PROBE(CustomerGrouping, customerGrouping),

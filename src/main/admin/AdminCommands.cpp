@@ -9,6 +9,7 @@ int runDevice(AdminCall& call);
 int runInitDb(AdminCall& call);
 int runDemo(AdminCall& call);
 int runSell(AdminCall& call);
+int runReceipt(AdminCall& call);
 
 const QList<AdminCommand>& adminCommands() {
     static const QList<AdminCommand> commands = {
@@ -22,6 +23,8 @@ const QList<AdminCommand>& adminCommands() {
         {"demo", "demo                       a demo shop (Provider.txt, database, goods, users)",
          runDemo},
         {"sell", "sell [--customer N] [--return] --dry-run ENTRY...  ring up a sale", runSell},
+        {"receipt", "receipt CODE [--pdf FILE]  the receipt of a saved sale (command or PDF)",
+         runReceipt},
     };
     return commands;
 }

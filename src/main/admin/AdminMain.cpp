@@ -1,7 +1,10 @@
 #include <QCoreApplication>
 #include <QDir>
+#include <QGuiApplication>
 #include <QTextStream>
 #include <cstdio>
+#include <cstring>
+#include <memory>
 
 #include "AdminCommand.h"
 
@@ -38,10 +41,24 @@ QString takeProgramDir(QStringList& args, bool& ok) {
     return QDir(dir).absolutePath();
 }
 
+// Commands that lay text out with fonts need the GUI application, offscreen by default.
+bool needsFonts(int argc, char** argv) {
+    return argc > 1 && std::strcmp(argv[1], "receipt") == 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
+    std::unique_ptr<QCoreApplication> application;
+    if (needsFonts(argc, argv)) {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
+        application = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    QCoreApplication& app = *application;
     QCoreApplication::setApplicationName(QStringLiteral("sandogh-admin"));
     QTextStream out(stdout);
     QTextStream err(stderr);

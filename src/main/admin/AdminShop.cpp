@@ -1,0 +1,62 @@
+#include "AdminShop.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <chrono>
+
+#include "common/JalaliCalendar.h"
+#include "data/ConnectionFile.h"
+#include "data/ConnectionSettings.h"
+#include "data/schema/Migrator.h"
+#include "data/schema/ShopSchema.h"
+
+namespace sandogh {
+
+namespace {
+
+// The start-up's message for a connection file that cannot be read, whatever the reason.
+const QString kMissingConnectionFile =
+    QStringLiteral("فايل Provider.txt در مسير برنامه موجود نيست!");
+
+QString todayJalaliText() {
+    using namespace std::chrono;
+    const QDate today = QDate::currentDate();
+    const DaySerial serial = PlatformDate::fromDate(
+        year_month_day{year{today.year()}, month{static_cast<unsigned>(today.month())},
+                       day{static_cast<unsigned>(today.day())}});
+    return QString::fromStdString(JalaliCalendar::toJalaliText(serial));
+}
+
+}  // namespace
+
+bool AdminShop::PrintedMessages::show(const QString& text, MessageStyle, const QString& title) {
+    m_err << title << ' ' << text.trimmed() << '\n';
+    m_err.flush();
+    return true;
+}
+
+AdminShop::AdminShop(const QString& programDir, QTextStream& err)
+    : m_programDir(programDir), m_err(err), m_messages(err), m_settings(m_store) {}
+
+bool AdminShop::open(const QString& commandName) {
+    m_log = std::make_unique<ErrorLog>(
+        m_programDir, &m_messages, m_clock, todayJalaliText(),
+        QStringLiteral("sandogh-admin ") + QCoreApplication::applicationVersion());
+    ConnectionFile file(m_programDir, m_log.get());
+    if (!file.LoadPrimary(m_settings.fiscalYearDatabase().trimmed())) {
+        m_err << kMissingConnectionFile << '\n';
+        return false;
+    }
+    ConnectionSettings connection;
+    QString error;
+    if (!ConnectionSettings::parse(file.connectionString(), m_programDir, connection, &error)) {
+        m_err << "sandogh-admin " << commandName << ": " << error << '\n';
+        return false;
+    }
+    DatabaseOptions options;
+    options.otherDatabases = Migrator::otherDatabasesOf(shopMigrations());
+    m_database = std::make_unique<Database>(connection, &m_messages, m_log.get(), options);
+    return true;
+}
+
+}  // namespace sandogh

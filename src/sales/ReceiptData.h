@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace sandogh {
+
+// One line of a saved sale as the receipt prints it.
+struct ReceiptLine {
+    QString barcode;
+    QString name;  // Goods.Name; empty when the article is gone
+    double quantity = 0;
+    double unitPrice = 0;  // Fee: the net unit price
+    double total = 0;      // Price: the line amount
+};
+
+// Everything a receipt shows, read from a saved sale (ReceiptReader). Amounts are rials.
+struct ReceiptData {
+    // The shop heading (Company).
+    QString shopName;
+    QString shopTel;
+    QString shopAddress;
+    QString title;  // e.g. the reprint title; empty on the sale itself
+
+    // The header (Whs_QTYDocH).
+    qint64 code = 0;
+    QString docNo;
+    QString docDate;
+    QString docTime;
+    int transType = 0;
+    int customerId = 0;
+    QString customerName;  // Name + ' ' + Value1 of the customer; empty without one
+    QString payTypeName;   // tblPaymentType.Name
+    int discountTypeId = 0;
+    QString discountName;  // DiscountType.Name
+    bool discountIsGift = false;
+    int overheadId = 0;
+    QString overheadName;  // Overhead.Name
+    double docSum = 0;     // the lines' total
+    double discount = 0;
+    double overhead = 0;  // Sarbar
+    double received = 0;  // ReceivedPrice: what the sale came to
+    std::optional<double> change;
+
+    QList<ReceiptLine> lines;
+
+    QString totalInWords;  // DocSum in words and the currency word
+    QString sentence;      // the sentence of the day, "Description : Author"
+
+    double payable() const { return docSum - discount + overhead; }
+};
+
+}  // namespace sandogh

@@ -21,6 +21,11 @@ struct SaleSettlement {
     double payable = 0;          // txtSumReceived: total - discount + overhead
     double handedOver = 0;       // txtReceivedPrice: what the customer handed over
     double taxValue = 0;         // txtTaxValue
+    // The amount received for the invoice, written as ReceivedPrice; none: the payable
+    // amount. Less than payable leaves the invoice owing (after a question), more refuses.
+    std::optional<double> received;
+    // The cashier typed docNo: saving checks it for a clash instead of renumbering it.
+    bool docNoTyped = false;
 
     std::optional<int> payType;         // cmbPayType (tblPaymentType.Code)
     std::optional<int> discountTypeId;  // cmbDiscountType (DiscountType.Id)
@@ -32,7 +37,8 @@ struct SaleSettlement {
     // The split of frmSalePayment; empty: all of it in the one kind of payType.
     QList<SalePayment> payments;
 
-    // txtAccount: a gift card paying cardAmount of the sale (0: no card).
+    // txtAccount: the number (tblGiftCard.CardID) of a gift card paying giftCardAmount of
+    // the sale (0: no card).
     qint64 giftCardId = 0;
     double giftCardAmount = 0;
 

@@ -1,0 +1,215 @@
+#include "sales/SaleSaveChecks.h"
+
+#include <cmath>
+
+#include "common/AmountText.h"
+
+#include "data/Database.h"
+#include "data/MessageService.h"
+#include "data/SqlQuery.h"
+#include "sales/SaleSaveTexts.h"
+#include "sales/SaleSession.h"
+#include "sales/SaleSettlement.h"
+#include "settings/MachineSettings.h"
+
+namespace sandogh {
+
+namespace {
+
+const QString kModule = QStringLiteral("frmSale");
+const QString kEmptyDate = QStringLiteral("____/__/__");
+const QString kLineBreak = QStringLiteral("\r\n");
+
+// An amount in the messages, "##,###".
+QString amountText(double value) {
+    return QString::fromStdString(AmountText::formatWhole(value));
+}
+
+}  // namespace
+
+SaleSaveChecks::SaleSaveChecks(Database& database, const MachineSettings& settings,
+                               MessageService& messages)
+    : m_database(database), m_settings(settings), m_messages(messages) {}
+
+double SaleSaveChecks::payable(const SaleSession& sale, const SaleSettlement& settlement) {
+    return sale.total() - settlement.discount + settlement.overhead;
+}
+
+double SaleSaveChecks::received(const SaleSession& sale, const SaleSettlement& settlement) {
+    return settlement.received.value_or(payable(sale, settlement));
+}
+
+bool SaleSaveChecks::refuse(const QString& text) {
+    m_messages.show(text, MessageStyle::Critical);
+    return false;
+}
+
+SaleSaveCheck SaleSaveChecks::run(SaleSession& sale, const SaleSettlement& settlement) {
+    const QString date = sale.saleDate().trimmed();
+    if (date.isEmpty() || date == kEmptyDate) {
+        refuse(SaleSaveTexts::dateMissing());
+        return SaleSaveCheck::Date;
+    }
+    const bool hasCustomer = sale.customer().isValid();
+    if (m_settings.customerMandatory() && !hasCustomer) {
+        refuse(SaleSaveTexts::customerMissing());
+        return SaleSaveCheck::CustomerRequired;
+    }
+    const double limit = m_settings.customerRequiredAbove();
+    if (limit > 0 && sale.total() > limit && !hasCustomer) {
+        refuse(SaleSaveTexts::customerAboveAmountPrefix() + amountText(limit) +
+               SaleSaveTexts::customerAboveAmountSuffix());
+        return SaleSaveCheck::CustomerAboveAmount;
+    }
+    if (m_settings.customerCheckEnabled() && hasCustomer &&
+        !customerResolves(sale.customer().counter)) {
+        refuse(SaleSaveTexts::customerNotResolved());
+        return SaleSaveCheck::CustomerCheck;
+    }
+    if (sale.isEmpty()) {
+        refuse(SaleSaveTexts::noLines());
+        return SaleSaveCheck::EmptyGrid;
+    }
+    if (settlement.docNo.trimmed().isEmpty()) {
+        refuse(SaleSaveTexts::noDocNo());
+        return SaleSaveCheck::DocNo;
+    }
+    const double toPay = payable(sale, settlement);
+    if (toPay < 0) {
+        refuse(SaleSaveTexts::negativeTotal());
+        return SaleSaveCheck::NegativeTotal;
+    }
+    if (settlement.discount != 0 && !settlement.discountTypeId) {
+        refuse(SaleSaveTexts::noDiscountKind());
+        return SaleSaveCheck::Kinds;
+    }
+    if (settlement.overhead != 0 && !settlement.overheadId) {
+        refuse(SaleSaveTexts::noOverheadKind());
+        return SaleSaveCheck::Kinds;
+    }
+    if (const SaleSaveCheck factor = discountFactor(settlement); factor != SaleSaveCheck::None) {
+        return factor;
+    }
+    if (sale.mode() == SaleMode::Sale) {
+        const double got = received(sale, settlement);
+        if (got < toPay &&
+            !m_messages.show(SaleSaveTexts::receivedLess(), MessageStyle::QuestionYesNo)) {
+            return SaleSaveCheck::Received;
+        }
+        if (got > toPay) {
+            refuse(SaleSaveTexts::receivedMore());
+            return SaleSaveCheck::Received;
+        }
+    }
+    if (!sale.checkStock() || !sale.checkLockedGoods() || !sale.checkPriceFloor()) {
+        return SaleSaveCheck::Lines;
+    }
+    for (const SaleLine& line : sale.lines()) {
+        if (line.sellerId == 0 && line.seller.trimmed().isEmpty()) {
+            refuse(SaleSaveTexts::noSeller());
+            return SaleSaveCheck::SellerAndPayment;
+        }
+    }
+    if (!settlement.payType && settlement.payments.isEmpty()) {
+        refuse(SaleSaveTexts::noPayType());
+        return SaleSaveCheck::SellerAndPayment;
+    }
+    if (const SaleSaveCheck card = giftCard(sale, settlement); card != SaleSaveCheck::None) {
+        return card;
+    }
+    if (sale.mode() == SaleMode::Return && m_settings.returnCauseRequired() &&
+        !settlement.returnCauseId) {
+        refuse(SaleSaveTexts::noReturnCause());
+        return SaleSaveCheck::ReturnCause;
+    }
+    return SaleSaveCheck::None;
+}
+
+bool SaleSaveChecks::customerResolves(int counter) {
+    Session s = m_database.session(kModule, QStringLiteral("CheckCustomer"));
+    SqlQuery q(s, QStringLiteral("SELECT Counter FROM Types WHERE Counter = :counter AND "
+                                 "(TypeNo = 10 OR TypeNo = 11)"));
+    q.bind(QStringLiteral(":counter"), counter);
+    return q.exec() && q.next();
+}
+
+// The only discount kinds with a factor are the gift kinds (DiscountType.IsImpactGift):
+// their discount is a whole number of gifts, each worth the shop's AmountRebate, so the
+// factor of a gift kind is AmountRebate and that of any other kind is "none" (no check).
+// A gift discount must come from the gift button (btnBuyFactor), which computes it as
+// such a multiple; one typed by hand is refused before its amount is looked at. Then a
+// zero factor refuses (no gift can be counted), and an amount that is not a whole
+// multiple of the factor refuses as not matching it.
+SaleSaveCheck SaleSaveChecks::discountFactor(const SaleSettlement& settlement) {
+    if (settlement.discount == 0 || !settlement.discountTypeId) {
+        return SaleSaveCheck::None;
+    }
+    Session s = m_database.session(kModule, QStringLiteral("CheckDiscountFactor"));
+    SqlQuery q(s,
+               QStringLiteral("SELECT COALESCE(IsImpactGift, 0) FROM DiscountType WHERE Id = :id"));
+    q.bind(QStringLiteral(":id"), *settlement.discountTypeId);
+    if (!q.exec()) {
+        return SaleSaveCheck::DiscountFactor;
+    }
+    if (!q.next() || q.integer(0) == 0) {
+        return SaleSaveCheck::None;
+    }
+    if (!settlement.loyaltyGift) {
+        refuse(SaleSaveTexts::giftByHand());
+        return SaleSaveCheck::DiscountFactor;
+    }
+    const double factor = m_settings.loyaltyAmountRebate();
+    if (factor == 0) {
+        refuse(SaleSaveTexts::changeDiscountKind() + kLineBreak +
+               SaleSaveTexts::discountFactorZero());
+        return SaleSaveCheck::DiscountFactor;
+    }
+    const double gifts = settlement.discount / factor;
+    if (gifts != std::floor(gifts)) {
+        refuse(SaleSaveTexts::fixAmount() + kLineBreak + SaleSaveTexts::discountFactorMismatch());
+        return SaleSaveCheck::DiscountFactor;
+    }
+    return SaleSaveCheck::None;
+}
+
+SaleSaveCheck SaleSaveChecks::giftCard(const SaleSession& sale, const SaleSettlement& settlement) {
+    if (settlement.giftCardId == 0 || settlement.giftCardAmount <= 0) {
+        return SaleSaveCheck::None;
+    }
+    if (payable(sale, settlement) < settlement.giftCardAmount) {
+        refuse(SaleSaveTexts::invoiceBelowCard());
+        return SaleSaveCheck::GiftCard;
+    }
+    const std::optional<double> credit = giftCardCredit(m_database, settlement.giftCardId);
+    if (!credit) {
+        return SaleSaveCheck::GiftCard;
+    }
+    if (settlement.giftCardAmount > *credit) {
+        const double rest = settlement.giftCardAmount - *credit;
+        refuse(SaleSaveTexts::aboveCardCredit() + kLineBreak + SaleSaveTexts::hintOpen() +
+               SaleSaveTexts::hintAmount() + amountText(rest) + kLineBreak +
+               SaleSaveTexts::hintCash() + SaleSaveTexts::hintClose());
+        return SaleSaveCheck::GiftCard;
+    }
+    return SaleSaveCheck::None;
+}
+
+std::optional<double> SaleSaveChecks::giftCardCredit(Database& database, qint64 cardId) {
+    Session s = database.session(kModule, QStringLiteral("GiftCardCredit"));
+    SqlQuery charged(s, QStringLiteral("SELECT COALESCE(SUM(Amount), 0) AS Amount FROM tblGiftCard "
+                                       "WHERE CardID = :card"));
+    charged.bind(QStringLiteral(":card"), cardId);
+    if (!charged.exec() || !charged.next()) {
+        return std::nullopt;
+    }
+    SqlQuery spent(s, QStringLiteral("SELECT COALESCE(SUM(I.Amount), 0) AS Amount FROM "
+                                     "tblGiftCardItem AS I LEFT OUTER JOIN tblGiftCard G ON G.ID = "
+                                     "I.GiftCardID WHERE G.CardID = :card"));
+    spent.bind(QStringLiteral(":card"), cardId);
+    if (!spent.exec() || !spent.next()) {
+        return std::nullopt;
+    }
+    return charged.number(0) - spent.number(0);
+}
+
+}  // namespace sandogh

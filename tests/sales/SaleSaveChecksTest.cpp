@@ -1,0 +1,282 @@
+// The checks of saving a sale: each refusal's message, and the order in which they run
+// (a sale that breaks several rules is told about the earliest one first).
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "SaleShopTest.h"
+#include "sales/SaleSaveChecks.h"
+#include "sales/SaleSaveTexts.h"
+#include "sales/SaleSettlement.h"
+#include "sales/SaleTexts.h"
+
+namespace sandogh::test {
+namespace {
+
+class SaleSaveChecksTest : public SaleShopTest {
+public:
+    // For the case table.
+    SaleSession& theSale() { return sale(); }
+    void flag(const char* section, const char* key, bool on) { setFlag(section, key, on); }
+    void option(const char* section, const char* key, const char* value) {
+        setOption(section, key, QString::fromLatin1(value));
+    }
+    void noSellerLine() {
+        sale().removeLine(0);
+        sale().setUser(0, {});
+        ASSERT_TRUE(sale().addGoods(QStringLiteral("2222")));
+        sale().setUser(7, QStringLiteral("cashier"));
+    }
+
+protected:
+    void SetUp() override {
+        SaleShopTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        addStation(1);
+        addGoods({QStringLiteral("2222"), 10000, 0, QStringLiteral("Rice")});
+        exec(QStringLiteral(
+            "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0), "
+            "(5, 'Gift', 1)"));
+        exec(QStringLiteral("INSERT INTO tblGiftCard (CardID, Amount) VALUES (123, 5000)"));
+        ASSERT_TRUE(sale().addGoods(QStringLiteral("2222")));
+        settlement.docNo = QStringLiteral("1");
+        settlement.payType = 1;
+    }
+    SaleSaveCheck run() {
+        return SaleSaveChecks(db(), settings(), messages()).run(sale(), settlement);
+    }
+    // The last message shown, "" when none.
+    QString lastMessage() {
+        const auto shown = messages().messages();
+        return shown.isEmpty() ? QString() : shown.last().text;
+    }
+    // The valid sale of SetUp again, every option of the cases off.
+    void resetToValid() {
+        for (const auto& [section, key] :
+             std::initializer_list<std::pair<const char*, const char*>>{
+                 {"IsMandatoryCustomer", "Enable"},
+                 {"SaleOptions", "CustomerAboveAmount"},
+                 {"SaleOptions", "CustomerCheck"},
+                 {"IsExistQty", "Enable"},
+                 {"SaleSetting", "ReturnCause"},
+                 {"Loyalty", "AmountRebate"}}) {
+            setOption(section, key, QStringLiteral("0"));
+        }
+        sale().newSale();
+        sale().setMode(SaleMode::Sale);
+        sale().setSaleDate(QStringLiteral("1404/01/01"));
+        ASSERT_TRUE(sale().addGoods(QStringLiteral("2222")));
+        settlement = SaleSettlement{};
+        settlement.docNo = QStringLiteral("1");
+        settlement.payType = 1;
+    }
+    SaleSettlement settlement;
+};
+
+struct Case {
+    const char* name;
+    SaleSaveCheck check;
+    std::function<QString()> message;
+    std::function<void(SaleSaveChecksTest&, SaleSettlement&)> breakIt;
+};
+
+const QString kBreak = QStringLiteral("\r\n");
+
+const QList<Case>& cases() {
+    static const QList<Case> all{
+        {"Date", SaleSaveCheck::Date, &SaleSaveTexts::dateMissing,
+         [](auto& t, auto&) { t.theSale().setSaleDate(QStringLiteral("____/__/__")); }},
+        {"CustomerRequired", SaleSaveCheck::CustomerRequired, &SaleSaveTexts::customerMissing,
+         [](auto& t, auto&) { t.flag("IsMandatoryCustomer", "Enable", true); }},
+        {"CustomerAboveAmount", SaleSaveCheck::CustomerAboveAmount,
+         [] {
+             return SaleSaveTexts::customerAboveAmountPrefix() + QStringLiteral("5,000") +
+                    SaleSaveTexts::customerAboveAmountSuffix();
+         },
+         [](auto& t, auto&) { t.option("SaleOptions", "CustomerAboveAmount", "5000"); }},
+        {"CustomerCheck", SaleSaveCheck::CustomerCheck, &SaleSaveTexts::customerNotResolved,
+         [](auto& t, auto&) {
+             t.flag("SaleOptions", "CustomerCheck", true);
+             SaleCustomer gone;
+             gone.counter = 999;
+             t.theSale().setCustomer(gone);
+         }},
+        {"EmptyGrid", SaleSaveCheck::EmptyGrid, &SaleSaveTexts::noLines,
+         [](auto& t, auto&) { t.theSale().removeLine(0); }},
+        {"DocNo", SaleSaveCheck::DocNo, &SaleSaveTexts::noDocNo,
+         [](auto&, auto& s) { s.docNo = QStringLiteral("  "); }},
+        {"NegativeTotal", SaleSaveCheck::NegativeTotal, &SaleSaveTexts::negativeTotal,
+         [](auto&, auto& s) {
+             s.discount = 12000;
+             s.overhead = 1000;
+             s.discountTypeId = 1;
+             s.overheadId = 1;
+         }},
+        {"DiscountKind", SaleSaveCheck::Kinds, &SaleSaveTexts::noDiscountKind,
+         [](auto&, auto& s) { s.discount = 1000; }},
+        {"OverheadKind", SaleSaveCheck::Kinds, &SaleSaveTexts::noOverheadKind,
+         [](auto&, auto& s) { s.overhead = 1000; }},
+        {"GiftByHand", SaleSaveCheck::DiscountFactor, &SaleSaveTexts::giftByHand,
+         [](auto&, auto& s) {
+             s.discount = 1000;
+             s.discountTypeId = 5;
+         }},
+        {"GiftFactorZero", SaleSaveCheck::DiscountFactor,
+         [] {
+             return SaleSaveTexts::changeDiscountKind() + kBreak +
+                    SaleSaveTexts::discountFactorZero();
+         },
+         [](auto&, auto& s) {
+             s.discount = 1000;
+             s.discountTypeId = 5;
+             s.loyaltyGift = true;
+         }},
+        {"GiftNotAMultiple", SaleSaveCheck::DiscountFactor,
+         [] {
+             return SaleSaveTexts::fixAmount() + kBreak + SaleSaveTexts::discountFactorMismatch();
+         },
+         [](auto& t, auto& s) {
+             t.option("Loyalty", "AmountRebate", "300");
+             s.discount = 1000;
+             s.discountTypeId = 5;
+             s.loyaltyGift = true;
+         }},
+        {"ReceivedMore", SaleSaveCheck::Received, &SaleSaveTexts::receivedMore,
+         [](auto&, auto& s) { s.received = 10001; }},
+        {"Stock", SaleSaveCheck::Lines, &SaleTexts::quantityNotAllowed,
+         [](auto& t, auto&) { t.flag("IsExistQty", "Enable", true); }},
+        {"Seller", SaleSaveCheck::SellerAndPayment, &SaleSaveTexts::noSeller,
+         [](auto& t, auto&) { t.noSellerLine(); }},
+        {"PayType", SaleSaveCheck::SellerAndPayment, &SaleSaveTexts::noPayType,
+         [](auto&, auto& s) { s.payType.reset(); }},
+        {"InvoiceBelowCard", SaleSaveCheck::GiftCard, &SaleSaveTexts::invoiceBelowCard,
+         [](auto&, auto& s) {
+             s.giftCardId = 123;
+             s.giftCardAmount = 10001;
+         }},
+        {"AboveCardCredit", SaleSaveCheck::GiftCard,
+         [] {
+             return SaleSaveTexts::aboveCardCredit() + kBreak + SaleSaveTexts::hintOpen() +
+                    SaleSaveTexts::hintAmount() + QStringLiteral("3,000") + kBreak +
+                    SaleSaveTexts::hintCash() + SaleSaveTexts::hintClose();
+         },
+         [](auto&, auto& s) {
+             s.giftCardId = 123;
+             s.giftCardAmount = 8000;
+         }},
+        {"ReturnCause", SaleSaveCheck::ReturnCause, &SaleSaveTexts::noReturnCause,
+         [](auto& t, auto&) {
+             t.flag("SaleSetting", "ReturnCause", true);
+             t.theSale().setMode(SaleMode::Return);
+         }},
+    };
+    return all;
+}
+
+TEST_P(SaleSaveChecksTest, AValidSalePassesEveryCheckSilently) {
+    EXPECT_EQ(run(), SaleSaveCheck::None);
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(SaleSaveChecksTest, EachRuleRefusesWithItsMessageUnderTheWarningTitle) {
+    for (const Case& c : cases()) {
+        SCOPED_TRACE(c.name);
+        resetToValid();
+        ASSERT_EQ(run(), SaleSaveCheck::None);
+        c.breakIt(*this, settlement);
+        messages().clear();
+        EXPECT_EQ(run(), c.check);
+        ASSERT_EQ(messages().count(), 1);
+        EXPECT_EQ(lastMessage(), c.message());
+        EXPECT_EQ(messages().messages().last().title, QStringLiteral("اخطار!"));
+    }
+}
+
+TEST_P(SaleSaveChecksTest, ReceivedLessIsAQuestionThatMayLetTheSaleThrough) {
+    settlement.received = 4000;
+    messages().queueAnswer(false);
+    EXPECT_EQ(run(), SaleSaveCheck::Received);
+    EXPECT_EQ(lastMessage(), SaleSaveTexts::receivedLess());
+    EXPECT_EQ(messages().messages().last().style, MessageStyle::QuestionYesNo);
+    messages().queueAnswer(true);
+    EXPECT_EQ(run(), SaleSaveCheck::None);
+    // A return pays back: the amounts are not compared.
+    sale().setMode(SaleMode::Return);
+    settlement.received = 50000;
+    messages().clear();
+    EXPECT_EQ(run(), SaleSaveCheck::None);
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(SaleSaveChecksTest, AGiftDiscountFromTheGiftButtonFittingItsFactorPasses) {
+    setOption("Loyalty", "AmountRebate", "500");
+    settlement.discount = 1000;
+    settlement.discountTypeId = 5;
+    settlement.loyaltyGift = true;
+    EXPECT_EQ(run(), SaleSaveCheck::None);
+    // Any amount suits a kind that is not a gift.
+    settlement.discountTypeId = 1;
+    settlement.loyaltyGift = false;
+    settlement.discount = 1234;
+    EXPECT_EQ(run(), SaleSaveCheck::None);
+}
+
+// Every rule broken at once; fixing them one by one meets them in their order.
+TEST_P(SaleSaveChecksTest, TheEarliestBrokenRuleIsToldFirst) {
+    noSellerLine();
+    sale().setSaleDate(QStringLiteral("____/__/__"));
+    setFlag("IsMandatoryCustomer", "Enable", true);
+    setOption("SaleOptions", "CustomerAboveAmount", QStringLiteral("5000"));
+    setFlag("SaleOptions", "CustomerCheck", true);
+    settlement.docNo.clear();
+    settlement.discount = 20000;
+    settlement.received = 50000;
+    setFlag("IsExistQty", "Enable", true);
+    settlement.payType.reset();
+    settlement.giftCardId = 123;
+    settlement.giftCardAmount = 8000;
+
+    const QList<std::pair<SaleSaveCheck, std::function<void()>>> steps{
+        {SaleSaveCheck::Date, [&] { sale().setSaleDate(QStringLiteral("1404/01/01")); }},
+        {SaleSaveCheck::CustomerRequired, [&] { setFlag("IsMandatoryCustomer", "Enable", false); }},
+        {SaleSaveCheck::CustomerAboveAmount,
+         [&] {
+             SaleCustomer gone;
+             gone.counter = 999;
+             sale().setCustomer(gone);
+         }},
+        {SaleSaveCheck::CustomerCheck, [&] { setFlag("SaleOptions", "CustomerCheck", false); }},
+        {SaleSaveCheck::DocNo, [&] { settlement.docNo = QStringLiteral("1"); }},
+        {SaleSaveCheck::NegativeTotal, [&] { settlement.discount = 1000; }},
+        {SaleSaveCheck::Kinds, [&] { settlement.discountTypeId = 5; }},
+        {SaleSaveCheck::DiscountFactor, [&] { settlement.discountTypeId = 1; }},
+        {SaleSaveCheck::Received, [&] { settlement.received.reset(); }},
+        {SaleSaveCheck::Lines, [&] { setFlag("IsExistQty", "Enable", false); }},
+        {SaleSaveCheck::SellerAndPayment,
+         [&] {
+             sale().removeLine(0);
+             ASSERT_TRUE(sale().addGoods(QStringLiteral("2222")));
+         }},
+        {SaleSaveCheck::SellerAndPayment, [&] { settlement.payType = 1; }},
+        {SaleSaveCheck::GiftCard,
+         [&] {
+             settlement.giftCardId = 0;
+             setFlag("SaleSetting", "ReturnCause", true);
+             sale().setMode(SaleMode::Return);
+         }},
+        {SaleSaveCheck::ReturnCause, [&] { settlement.returnCauseId = 2; }},
+    };
+    for (const auto& [check, fix] : steps) {
+        EXPECT_EQ(run(), check);
+        fix();
+    }
+    EXPECT_EQ(run(), SaleSaveCheck::None);
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(SaleSaveChecksTest);
+
+}  // namespace
+}  // namespace sandogh::test

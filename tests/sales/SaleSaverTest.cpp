@@ -1,0 +1,335 @@
+// Saving a sale on both backends: the rows written and their amounts, numbering, returns,
+// a short payment, the gift card movement, and a failure in the middle that leaves
+// nothing behind and lets the same sale be saved again.
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "SaleShopTest.h"
+#include "data/Database.h"
+#include "data/Session.h"
+#include "data/SqlQuery.h"
+#include "devices/CompanionHandOff.h"
+#include "sales/SaleSaveTexts.h"
+#include "sales/SaleSaver.h"
+#include "sales/SaleSettlement.h"
+#include "support/LaunchRecorder.h"
+
+namespace sandogh::test {
+namespace {
+
+class SaleSaverTest : public SaleShopTest {
+protected:
+    void SetUp() override {
+        SaleShopTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        addStation(1);
+        addGoods({QStringLiteral("2222"), 100000, 0, QStringLiteral("Rice")});
+        addGoods({QStringLiteral("3333"), 2000, 9, QStringLiteral("Tea")});
+        exec(QStringLiteral(
+            "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0), "
+            "(5, 'Gift', 1)"));
+        exec(QStringLiteral("INSERT INTO Overhead (Id, Name) VALUES (1, 'Delivery')"));
+        exec(QStringLiteral("INSERT INTO tblAccountingGroup (Code, ParentCode, Name) VALUES "
+                            "(101, 10, :cash), (601, 60, :income), (602, 60, :back), "
+                            "(1201, 12, 'Customer 501')"),
+             {{QStringLiteral(":cash"), SaleSaveTexts::cashBoxAccount()},
+              {QStringLiteral(":income"), SaleSaveTexts::salesIncomeAccount()},
+              {QStringLiteral(":back"), SaleSaveTexts::salesReturnAccount()}});
+        exec(
+            QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Active, "
+                           "AccountingGroupID) SELECT 501, 10, 'C-1', 'Ali', 1, ID FROM "
+                           "tblAccountingGroup WHERE Code = 1201"));
+        saver = std::make_unique<SaleSaver>(db(), settings(), messages(), clock());
+        ASSERT_TRUE(sale().addGoods(QStringLiteral("2222")));
+        settlement.payType = 1;
+    }
+    void TearDown() override {
+        saver.reset();
+        SaleShopTest::TearDown();
+    }
+    qint64 count(const char* table, const QString& where = {}, const SqlBinds& binds = {}) {
+        Session s = db().session();
+        return s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM ") + QString::fromLatin1(table) +
+                                 (where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + where),
+                             binds, -1);
+    }
+    int account(int code) {
+        Session s = db().session();
+        return static_cast<int>(
+            s.scalarInt64(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = :c"),
+                          {{QStringLiteral(":c"), code}}));
+    }
+    // Debit and credit of an account in a voucher.
+    std::pair<double, double> posted(qint64 voucher, int accountCode) {
+        Session s = db().session();
+        SqlQuery q(s, QStringLiteral("SELECT COALESCE(SUM(Debt), 0), COALESCE(SUM(Credit), 0) "
+                                     "FROM tblDocumentD WHERE DocumentHID = :v AND "
+                                     "AccountingGroupID = :a"));
+        q.bind(QStringLiteral(":v"), voucher).bind(QStringLiteral(":a"), account(accountCode));
+        EXPECT_TRUE(q.exec() && q.next());
+        return {q.number(0), q.number(1)};
+    }
+    void addTrigger() {
+        if (backend() == Backend::SQLite) {
+            exec(
+                QStringLiteral("CREATE TRIGGER fail_lines BEFORE INSERT ON Whs_QTYDocD BEGIN "
+                               "SELECT RAISE(ABORT, 'lines refused'); END"));
+        } else {
+            exec(
+                QStringLiteral("CREATE FUNCTION fail_lines() RETURNS trigger AS $$ BEGIN RAISE "
+                               "EXCEPTION 'lines refused'; END $$ LANGUAGE plpgsql"));
+            exec(
+                QStringLiteral("CREATE TRIGGER fail_lines BEFORE INSERT ON whs_qtydocd FOR EACH "
+                               "ROW EXECUTE FUNCTION fail_lines()"));
+        }
+    }
+    void dropTrigger() {
+        if (backend() == Backend::SQLite) {
+            exec(QStringLiteral("DROP TRIGGER fail_lines"));
+        } else {
+            exec(QStringLiteral("DROP TRIGGER fail_lines ON whs_qtydocd"));
+            exec(QStringLiteral("DROP FUNCTION fail_lines()"));
+        }
+    }
+
+    std::unique_ptr<SaleSaver> saver;
+    SaleSettlement settlement;
+};
+
+TEST_P(SaleSaverTest, DiscountAndChargeAreWrittenWithTheDocumentItsLinesAndVoucher) {
+    settlement.discountPercent = 10;
+    settlement.discount = 10000;
+    settlement.discountTypeId = 1;
+    settlement.overhead = 5000;
+    settlement.overheadId = 1;
+    settlement.note = QStringLiteral("note's text");
+    ASSERT_TRUE(sale().addGoods(QStringLiteral("3333"), 2));
+    sale().removeLine(1);
+
+    const SaleSaveResult r = saver->save(sale(), settlement);
+    ASSERT_TRUE(r.saved);
+    EXPECT_EQ(r.docNo, QStringLiteral("1"));
+    EXPECT_DOUBLE_EQ(r.docSum, 100000);
+    EXPECT_DOUBLE_EQ(r.received, 95000);
+
+    Session s = db().session();
+    SqlQuery h(s, QStringLiteral("SELECT DocNo, TransType, CompanyID, DocDate, UserID, DocSum, "
+                                 "Discount, DocTime, Sarbar, ReceivedPrice, StationID, Note, "
+                                 "PayType, DocumentHID, DiscountTypeId, OverheadID, ShiftCode "
+                                 "FROM Whs_QTYDocH WHERE Code = :c"));
+    h.bind(QStringLiteral(":c"), r.code);
+    ASSERT_TRUE(h.exec() && h.next());
+    EXPECT_EQ(h.text(0), QStringLiteral("1"));
+    EXPECT_EQ(h.integer(1), 2);
+    EXPECT_TRUE(h.isNull(2));  // no customer
+    EXPECT_EQ(h.text(3), QStringLiteral("1404/01/01"));
+    EXPECT_EQ(h.integer(4), 7);
+    EXPECT_DOUBLE_EQ(h.number(5), 100000);
+    EXPECT_DOUBLE_EQ(h.number(6), 10000);
+    EXPECT_EQ(h.text(7), QStringLiteral("09:30:00"));
+    EXPECT_DOUBLE_EQ(h.number(8), 5000);
+    EXPECT_DOUBLE_EQ(h.number(9), 95000);
+    EXPECT_EQ(h.integer(10), 1);
+    EXPECT_EQ(h.text(11), QStringLiteral("note's text"));
+    EXPECT_EQ(h.integer(12), 1);
+    EXPECT_EQ(h.value(13).toLongLong(), r.voucherId);
+    EXPECT_EQ(h.integer(14), 1);
+    EXPECT_EQ(h.integer(15), 1);
+    EXPECT_TRUE(h.isNull(16));  // no active shift
+
+    SqlQuery l(s, QStringLiteral("SELECT EAN_Code, Qty, Fee, Price, UserID, TaxValue FROM "
+                                 "Whs_QTYDocD WHERE Code = :c"));
+    l.bind(QStringLiteral(":c"), r.code);
+    ASSERT_TRUE(l.exec() && l.next());
+    EXPECT_EQ(l.text(0), QStringLiteral("2222"));
+    EXPECT_DOUBLE_EQ(l.number(1), 1);
+    EXPECT_DOUBLE_EQ(l.number(2), 100000);
+    EXPECT_DOUBLE_EQ(l.number(3), 100000);
+    EXPECT_EQ(l.integer(4), 7);
+    EXPECT_FALSE(l.next());
+    EXPECT_DOUBLE_EQ(s.scalarNumber(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = "
+                                                   ":b"),
+                                    {{QStringLiteral(":b"), QStringLiteral("2222")}}),
+                     -1);
+
+    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Note FROM tblDocumentH WHERE ID = :id"),
+                           {{QStringLiteral(":id"), r.voucherId}}),
+              SaleSaveTexts::saleVoucherNote() + QStringLiteral("1") +
+                  SaleSaveTexts::voucherNoteDate() + QStringLiteral("1404/01/01"));
+    EXPECT_EQ(posted(r.voucherId, 101), std::make_pair(95000.0, 0.0));
+    EXPECT_EQ(posted(r.voucherId, 601), std::make_pair(0.0, 95000.0));
+    EXPECT_EQ(count("tblDocumentD"), 2);
+}
+
+TEST_P(SaleSaverTest, DailyNumberingStartsEachDayAtOne) {
+    addDocument(40, 2, QStringLiteral("57"), {}, 0, 0, QStringLiteral("1403/12/29"), 1);
+    addDocument(41, 3, QStringLiteral("9"), {}, 0, 0, QStringLiteral("1404/01/01"), 1);
+    EXPECT_EQ(saver->nextDocNo(sale()), QStringLiteral("58"));
+    setFlag("Tools", "IsResetFactorNo", true);
+    EXPECT_EQ(saver->nextDocNo(sale()), QStringLiteral("1"));
+    SaleSaveResult r = saver->save(sale(), settlement);
+    ASSERT_TRUE(r.saved);
+    EXPECT_EQ(r.docNo, QStringLiteral("1"));
+    EXPECT_GT(r.code, 41);  // the key runs on over every kind and date
+    EXPECT_EQ(saver->nextDocNo(sale()), QStringLiteral("2"));
+    // A number typed by the cashier that the day already has is refused.
+    settlement.docNo = QStringLiteral("1");
+    settlement.docNoTyped = true;
+    messages().clear();
+    r = saver->save(sale(), settlement);
+    EXPECT_FALSE(r.saved);
+    EXPECT_EQ(r.refusedBy, SaleSaveCheck::DocNo);
+    EXPECT_EQ(messages().countOf(SaleSaveTexts::docNoTaken()), 1);
+    settlement.docNo = QStringLiteral("7");
+    r = saver->save(sale(), settlement);
+    ASSERT_TRUE(r.saved);
+    EXPECT_EQ(r.docNo, QStringLiteral("7"));
+    const PreviousInvoice previous = saver->previousInvoice(1);
+    EXPECT_EQ(previous.docNo, QStringLiteral("7"));
+    EXPECT_DOUBLE_EQ(previous.received, 100000);
+    EXPECT_EQ(saver->previousInvoice(2).docNo, QStringLiteral("0"));
+}
+
+TEST_P(SaleSaverTest, AReturnIsWrittenAsTypeThreeWithTheReturnVoucher) {
+    sale().setMode(SaleMode::Return);
+    settlement.returnCauseId = 2;
+    ASSERT_TRUE(sale().selectCustomer(501));
+    const SaleSaveResult r = saver->save(sale(), settlement);
+    ASSERT_TRUE(r.saved);
+    EXPECT_EQ(count("Whs_QTYDocH", QStringLiteral("TransType = 3 AND CompanyID = 501 AND "
+                                                  "ReturnCauseId = 2")),
+              1);
+    Session s = db().session();
+    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Note FROM tblDocumentH WHERE ID = :id"),
+                           {{QStringLiteral(":id"), r.voucherId}}),
+              SaleSaveTexts::returnVoucherNote() + QStringLiteral("1") +
+                  SaleSaveTexts::voucherNoteDate() + QStringLiteral("1404/01/01"));
+    EXPECT_EQ(posted(r.voucherId, 602), std::make_pair(100000.0, 0.0));
+    EXPECT_EQ(posted(r.voucherId, 101), std::make_pair(0.0, 100000.0));
+    EXPECT_DOUBLE_EQ(s.scalarNumber(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = "
+                                                   ":b"),
+                                    {{QStringLiteral(":b"), QStringLiteral("2222")}}),
+                     1);
+}
+
+TEST_P(SaleSaverTest, AShortPaymentIsSavedOwingOnlyWhenConfirmed) {
+    ASSERT_TRUE(sale().selectCustomer(501));
+    settlement.received = 60000;
+    messages().queueAnswer(false);
+    SaleSaveResult r = saver->save(sale(), settlement);
+    EXPECT_FALSE(r.saved);
+    EXPECT_EQ(r.refusedBy, SaleSaveCheck::Received);
+    EXPECT_EQ(count("Whs_QTYDocH"), 0);
+    EXPECT_EQ(count("tblDocumentH"), 0);
+
+    messages().queueAnswer(true);
+    r = saver->save(sale(), settlement);
+    ASSERT_TRUE(r.saved);
+    EXPECT_EQ(count("Whs_QTYDocH", QStringLiteral("ReceivedPrice = 60000 AND DocSum = 100000 AND "
+                                                  "CompanyID = 501")),
+              1);
+    // The rest is owed on the customer's own account.
+    EXPECT_EQ(posted(r.voucherId, 101), std::make_pair(60000.0, 0.0));
+    EXPECT_EQ(posted(r.voucherId, 1201), std::make_pair(40000.0, 0.0));
+    EXPECT_EQ(posted(r.voucherId, 601), std::make_pair(0.0, 100000.0));
+}
+
+TEST_P(SaleSaverTest, AFailureHalfwayLeavesNothingAndTheSameSaleSavesAfterwards) {
+    exec(
+        QStringLiteral("INSERT INTO tblGiftCard (CardID, Amount, CustomerID) VALUES (777, 50000, "
+                       "501)"));
+    exec(QStringLiteral("INSERT INTO Serial (SerialNo, Ean_Code, Code) VALUES ('S-1', '2222', 1)"));
+    ASSERT_TRUE(sale().selectCustomer(501));
+    settlement.giftCardId = 777;
+    settlement.giftCardAmount = 30000;
+    addTrigger();
+
+    SaleSaveResult r = saver->save(sale(), settlement);
+    EXPECT_FALSE(r.saved);
+    EXPECT_EQ(messages().countOf(Database::connectionFailureMessage()), 1);
+    EXPECT_EQ(count("Whs_QTYDocH"), 0);
+    EXPECT_EQ(count("tblDocumentH"), 0);
+    EXPECT_EQ(count("tblDocumentD"), 0);
+    EXPECT_EQ(count("tblGiftCardItem"), 0);
+    EXPECT_EQ(count("Serial", QStringLiteral("Code = 1")), 1);
+    EXPECT_EQ(sale().lines().size(), 1);  // the sale is still there
+
+    dropTrigger();
+    r = saver->save(sale(), settlement);
+    ASSERT_TRUE(r.saved);
+    EXPECT_EQ(count("Whs_QTYDocH"), 1);
+    EXPECT_EQ(count("Whs_QTYDocD", QStringLiteral("Code = :c"), {{QStringLiteral(":c"), r.code}}),
+              1);
+    EXPECT_EQ(count("Serial", QStringLiteral("Code = :c"), {{QStringLiteral(":c"), r.code}}), 1);
+    EXPECT_EQ(count("tblGiftCardItem",
+                    QStringLiteral("DocHCode = :c AND Amount = 30000 AND "
+                                   "CustomerID = 501"),
+                    {{QStringLiteral(":c"), r.code}}),
+              1);
+    EXPECT_GT(r.giftCardItemId, 0);
+}
+
+TEST_P(SaleSaverTest, ALoyaltyGiftCountsGiftsAndTheReceiptAndSmsFollowTheCommit) {
+    setOption("Loyalty", "AmountRebate", QStringLiteral("20000"));
+    ASSERT_TRUE(sale().selectCustomer(501));
+    settlement.discount = 40000;
+    settlement.discountTypeId = 5;
+    settlement.loyaltyGift = true;
+    int receipts = 0;
+    saver->setReceiptHook([&](const SaleSaveResult& r, const SaleSession&, const SaleSettlement&) {
+        EXPECT_TRUE(r.saved);
+        ++receipts;
+    });
+    QTemporaryDir folder;
+    const QString program = folder.filePath(QStringLiteral("KotrimoAcc.exe"));
+    QFile file(program);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    LaunchRecorder launcher;
+    CompanionHandOff companion(launcher, program);
+    saver->setCompanion(&companion);
+    setFlag("PortNo", "SendFactor", true);
+
+    ASSERT_TRUE(saver->save(sale(), settlement).saved);
+    EXPECT_EQ(receipts, 1);
+    ASSERT_EQ(launcher.calls.size(), 1);
+    EXPECT_EQ(launcher.calls[0].arguments,
+              QStringList{SaleSaveTexts::smsCommand() + QStringLiteral("501,") +
+                          SaleSaveTexts::smsNumber() + QStringLiteral("1") +
+                          SaleSaveTexts::smsTotal() + QStringLiteral("60000")});
+    // Without a receipt asked for, the hook is not called.
+    settlement.printReceipt = false;
+    settlement.loyaltyGift = false;
+    settlement.discountTypeId = 1;
+    ASSERT_TRUE(saver->save(sale(), settlement).saved);
+    EXPECT_EQ(receipts, 1);
+    Session s = db().session();
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT DiscountTakenTotal FROM Types WHERE Counter = "
+                                           "501")),
+              2);
+    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT LastDiscountTakenDate FROM Types WHERE "
+                                          "Counter = 501")),
+              QStringLiteral("1404/01/01"));
+}
+
+TEST_P(SaleSaverTest, AClosedPreInvoiceAndTheActiveShiftAreStamped) {
+    exec(
+        QStringLiteral("INSERT INTO tblShift (Code, Name, LastActiveShift) VALUES (1, 'Morning', "
+                       "0), (2, 'Evening', 1)"));
+    exec(QStringLiteral("INSERT INTO tblPreFactorH (Code, IsTrenchant) VALUES (12, 0)"));
+    settlement.preInvoiceCode = 12;
+    const SaleSaveResult r = saver->save(sale(), settlement);
+    ASSERT_TRUE(r.saved);
+    EXPECT_EQ(count("Whs_QTYDocH", QStringLiteral("ShiftCode = 2")), 1);
+    EXPECT_EQ(count("tblPreFactorH", QStringLiteral("Code = 12 AND IsTrenchant = 1")), 1);
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(SaleSaverTest);
+
+}  // namespace
+}  // namespace sandogh::test

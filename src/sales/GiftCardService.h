@@ -65,9 +65,10 @@ public:
 private:
     QString table(const char* shopName, const char* centralName) const;
     bool readFigures(Session& session, qint64 cardNumber, GiftCardResult& card);
-    bool askPassword(const QString& expected);
-    GiftCardResult refuse(GiftCardResult card, GiftCardResult::Outcome outcome,
-                          const QString& message, const QString& title = {});
+    // Up to kPasswordTries prompts: Accepted, NoPassword (cancelled) or WrongPassword.
+    GiftCardResult::Outcome askPassword(const QString& expected);
+    GiftCardResult evaluate(qint64 cardNumber, double invoiceTotal, const QString& today,
+                            bool interactive);
 
     Database& m_database;
     MessageService& m_messages;

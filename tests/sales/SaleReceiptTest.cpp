@@ -1,0 +1,357 @@
+// The receipt of a saved sale: the companion program's command, the layout chosen, and the
+// receipt laid out here as PDF or ESC/POS raster when the companion program is not there.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include "SaleShopTest.h"
+#include "data/Database.h"
+#include "data/Transaction.h"
+#include "data/procedures/StockDocumentWriter.h"
+#include "devices/EscPosRaster.h"
+#include "sales/ReceiptCommand.h"
+#include "sales/ReceiptData.h"
+#include "sales/ReceiptPainter.h"
+#include "sales/ReceiptReader.h"
+#include "sales/SaleReceipt.h"
+#include "support/LaunchRecorder.h"
+#include "support/RawPrintRecorder.h"
+
+namespace sandogh::test {
+namespace {
+
+using procedures::StockDocumentHeader;
+using procedures::StockDocumentLine;
+using procedures::StockDocumentWriter;
+
+const QString kShop = QStringLiteral("فروشگاه آزمایشی");
+
+class SaleReceiptTest : public SaleShopTest {
+protected:
+    void SetUp() override {
+        SaleShopTest::SetUp();
+        if (HasFatalFailure() || IsSkipped()) {
+            return;
+        }
+        ASSERT_TRUE(m_folder.isValid());
+        exec(QStringLiteral("INSERT INTO Company (Company_Name, Company_Tel, Company_Address) "
+                            "VALUES (:name, :tel, :address)"),
+             {{QStringLiteral(":name"), kShop},
+              {QStringLiteral(":tel"), QStringLiteral("021-1234")},
+              {QStringLiteral(":address"), QStringLiteral("تهران، میدان آزادی")}});
+        exec(QStringLiteral("INSERT INTO Sentences (Description, Author) VALUES (:d, :a)"),
+             {{QStringLiteral(":d"), QStringLiteral("دانایی توانایی است")},
+              {QStringLiteral(":a"), QStringLiteral("فردوسی")}});
+        exec(QStringLiteral("INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES "
+                            "(2, :gift, 1)"),
+             {{QStringLiteral(":gift"), QStringLiteral("هدیه، باشگاه")}});
+        exec(QStringLiteral("INSERT INTO Overhead (Id, Name) VALUES (1, :name)"),
+             {{QStringLiteral(":name"), QStringLiteral("کرایه حمل")}});
+        exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (1, :name)"),
+             {{QStringLiteral(":name"), QStringLiteral("نقدی")}});
+        addGoods({QStringLiteral("111"), 10000, 0, QStringLiteral("شیر پرچرب")});
+        addGoods({QStringLiteral("222"), 2500, 0, QStringLiteral("نان")});
+        setOption("Programs", "Companion", m_folder.filePath(QStringLiteral("Companion.exe")));
+    }
+
+    // A customer of the parameter table.
+    void addCustomer(int counter, const QString& name, const QString& family) {
+        exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Name, Value1) "
+                            "VALUES (:c, 10, :n, :f)"),
+             {{QStringLiteral(":c"), counter},
+              {QStringLiteral(":n"), name},
+              {QStringLiteral(":f"), family}});
+    }
+
+    // A sale saved the way saving writes it: header and lines in one transaction.
+    qint64 saveSale(double docSum, std::optional<int> customer = {},
+                    std::optional<int> discountType = {}, std::optional<int> overhead = {}) {
+        Session s = db().session();
+        Transaction tx(s);
+        StockDocumentHeader h;
+        h.docNo = QStringLiteral("7");
+        h.transType = procedures::kSale;
+        h.companyId = customer;
+        h.docDate = QStringLiteral("1404/01/01");
+        h.docTime = QStringLiteral("09:30");
+        h.userId = 1;
+        h.docSum = docSum;
+        h.discount = discountType ? 500 : 0;
+        h.sarbar = overhead ? 1000 : 0;
+        h.receivedPrice = docSum - h.discount + h.sarbar;
+        h.payType = 1;
+        h.discountTypeId = discountType;
+        h.overheadId = overhead;
+        const qint64 code = StockDocumentWriter::insertHeader(s, h);
+        EXPECT_GT(code, 0);
+        StockDocumentLine milk{0, code, QStringLiteral("111"), 2, 0, 0, 10000, 20000, 0, 1};
+        StockDocumentLine bread{0, code, QStringLiteral("222"), 2, 0, 0, 2500, 5000, 0, 1};
+        EXPECT_GT(StockDocumentWriter::insertLine(s, code, milk), 0);
+        EXPECT_GT(StockDocumentWriter::insertLine(s, code, bread), 0);
+        EXPECT_TRUE(tx.commit());
+        return code;
+    }
+
+    void companionPresent() {
+        QFile program(m_folder.filePath(QStringLiteral("Companion.exe")));
+        ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+    }
+
+    SaleReceipt receipt() {
+        return SaleReceipt(db(), settings(), messages(), launcher, m_folder.path(), &raw, nullptr);
+    }
+    QString folder(const QString& name) const { return m_folder.filePath(name); }
+
+    LaunchRecorder launcher;
+    RawPrintRecorder raw;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+// The fields of a command after its command word (the text ends with ",").
+QStringList fieldsOf(const QString& command) {
+    QStringList fields = command.split(QLatin1Char(','));
+    fields.removeFirst();  // the command word
+    EXPECT_EQ(fields.takeLast(), QString());
+    return fields;
+}
+
+TEST_P(SaleReceiptTest, CompanionGetsTheCommandWithCommasOfTextsTurnedIntoSemicolons) {
+    companionPresent();
+    addCustomer(40, QStringLiteral("رضا، علی"), QStringLiteral("کریمی,نژاد"));
+    const qint64 code = saveSale(25000, 40, 2, 1);
+
+    ReceiptOptions options;
+    options.title = ReceiptReader::reprintTitle();
+    ASSERT_TRUE(receipt().print(code, options));
+    ASSERT_EQ(launcher.calls.size(), 1);
+    const QStringList args = launcher.calls.first().arguments;
+    ASSERT_EQ(args.size(), 1);
+    const QString command = args.first();
+    EXPECT_TRUE(command.startsWith(QStringLiteral("mnuRptFish,"))) << command.toStdString();
+
+    const QStringList f = fieldsOf(command);
+    ASSERT_EQ(f.size(), 17) << command.toStdString();
+    EXPECT_EQ(f[0], QStringLiteral("RptFish2.rpt"));
+    EXPECT_EQ(f[1], kShop);
+    EXPECT_EQ(f[2], QStringLiteral("021-1234"));
+    EXPECT_EQ(f[3], QStringLiteral("تهران، میدان آزادی"));  // the Persian comma is no separator
+    EXPECT_EQ(f[4], QStringLiteral("چاپ مجدد"));
+    EXPECT_EQ(f[5], QString::number(code));
+    EXPECT_EQ(f[6], QStringLiteral("7"));
+    EXPECT_EQ(f[8], QStringLiteral("رضا، علی کریمی;نژاد"));
+    EXPECT_EQ(f[9], QStringLiteral("نقدی"));
+    EXPECT_EQ(f[10], QStringLiteral("25500"));  // received: 25,000 - 500 + 1,000
+    EXPECT_EQ(f[11], QStringLiteral("500"));
+    EXPECT_EQ(f[12], QStringLiteral("هدیه، باشگاه"));
+    EXPECT_EQ(f[13], QStringLiteral("1000"));
+    EXPECT_EQ(f[14], QStringLiteral("کرایه حمل"));
+    EXPECT_EQ(f[16], QStringLiteral("دانایی توانایی است : فردوسی"));
+    EXPECT_EQ(messages().count(), 0);
+}
+
+TEST_P(SaleReceiptTest, TotalInWordsEndsWithTheCurrencyOfTheSetting) {
+    companionPresent();
+    const qint64 code = saveSale(25000);
+    const struct {
+        const char* isRial;
+        const char* words;
+    } cases[] = {
+        {"0", "بيست و پنج هزار تومان"},
+        {"", "بيست و پنج هزار تومان"},
+        {"1", "بيست و پنج هزار ريال"},
+        {"2", "بيست و پنج هزار ريال"},
+    };
+    for (const auto& c : cases) {
+        setOption("FishSetting", "ISRial", QString::fromLatin1(c.isRial));
+        const QStringList f = fieldsOf(receipt().command(code));
+        ASSERT_EQ(f.size(), 17);
+        EXPECT_EQ(f[15], QString::fromUtf8(c.words)) << "ISRial=" << c.isRial;
+    }
+}
+
+TEST_P(SaleReceiptTest, ReceiptModeOneHasTheFirstFormAnyOtherTheFourth) {
+    const qint64 code = saveSale(1000);
+    for (const auto& [mode, word] :
+         {std::pair{"1", "mnuRptFish,"}, std::pair{"2", "mnuRptFish4,"},
+          std::pair{"0", "mnuRptFish4,"}, std::pair{"4", "mnuRptFish4,"}}) {
+        setOption("Receipt", "Mode", QString::fromLatin1(mode));
+        const QString command = receipt().command(code);
+        EXPECT_TRUE(command.startsWith(QString::fromLatin1(word)))
+            << mode << ": " << command.toStdString();
+        EXPECT_FALSE(command.startsWith(QStringLiteral("mnuRptFish,mnu")));
+    }
+}
+
+TEST_P(SaleReceiptTest, AMissingSaleOrABrokenDatabasePrintsNothing) {
+    companionPresent();
+    EXPECT_FALSE(receipt().print(999));
+    EXPECT_EQ(messages().countOf(ReceiptReader::notFoundText()), 1);
+    EXPECT_TRUE(receipt().command(999).isEmpty());
+
+    const qint64 code = saveSale(1000);
+    exec(QStringLiteral("DROP TABLE Whs_QTYDocD"));
+    messages().clear();
+    EXPECT_FALSE(receipt().print(code));
+    EXPECT_TRUE(launcher.calls.isEmpty());
+    EXPECT_EQ(messages().countOf(ReceiptReader::notFoundText()), 0);
+
+    // The total read again fails: the connection message, and no total.
+    exec(QStringLiteral("DROP TABLE Whs_QTYDocH"));
+    bool failed = false;
+    EXPECT_FALSE(ReceiptReader(db(), messages()).documentTotal(code, failed));
+    EXPECT_TRUE(failed);
+    EXPECT_EQ(messages().countOf(Database::connectionFailureMessage()), 1);
+    EXPECT_FALSE(receipt().print(code));
+    EXPECT_TRUE(launcher.calls.isEmpty());
+}
+
+TEST_P(SaleReceiptTest, WithoutTheCompanionThePdfHoldsThePersianReceipt) {
+    setOption("Receipt", "Output", QStringLiteral("pdf"));
+    addCustomer(41, QStringLiteral("مریم"), QStringLiteral("احمدی"));
+    const qint64 code = saveSale(25000, 41);
+    SaleReceipt r = receipt();
+    ASSERT_TRUE(r.print(code, ReceiptOptions{false, false, false, {}, 30000.0}));
+    EXPECT_TRUE(launcher.calls.isEmpty());
+    EXPECT_EQ(r.lastPdfPath(), QDir(folder(QStringLiteral("Receipts")))
+                                   .filePath(QStringLiteral("Receipt-%1.pdf").arg(code)));
+    QFile pdf(r.lastPdfPath());
+    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(pdf.read(5) == "%PDF-");
+
+    const QString pdftotext = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
+    if (pdftotext.isEmpty()) {
+        GTEST_SKIP() << "pdftotext (poppler-utils) is not installed: PDF text not checked";
+    }
+    QProcess p;
+    p.start(pdftotext, {r.lastPdfPath(), QStringLiteral("-")});
+    ASSERT_TRUE(p.waitForFinished(30000));
+    // The extracted text holds the shaped letters' presentation forms; compatibility
+    // normalisation turns them back into letters.
+    const QString text =
+        QString::fromUtf8(p.readAllStandardOutput()).normalized(QString::NormalizationForm_KC);
+    for (const QString& expected :
+         {kShop, QStringLiteral("مریم احمدی"), QStringLiteral("شیر پرچرب"),
+          QStringLiteral("بيست و پنج هزار تومان"), QStringLiteral("دانایی توانایی است"),
+          QStringLiteral("۲۵,۰۰۰"), QStringLiteral("۵,۰۰۰")}) {
+        EXPECT_TRUE(text.contains(expected)) << expected.toStdString() << "\n"
+                                             << text.toStdString();
+    }
+}
+
+TEST_P(SaleReceiptTest, EscPosRasterGoesToTheDeviceOrTheRawQueueAtTheSetWidth) {
+    setOption("Receipt", "Output", QStringLiteral("escpos"));
+    const qint64 code = saveSale(25000);
+    for (const int dots : {EscPosRaster::kWideDots, EscPosRaster::kNarrowDots}) {
+        setOption("Receipt", "DotsWidth", QString::number(dots));
+        const QString device = folder(QStringLiteral("lp%1").arg(dots));
+        setOption("Receipt", "EscPosDevice", device);
+        ASSERT_TRUE(receipt().print(code)) << dots;
+        QFile file(device);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        ASSERT_GT(bytes.size(), 10);
+        EXPECT_EQ(bytes.left(2), QByteArray("\x1B@"));
+        EXPECT_EQ(bytes.mid(2, 4), QByteArray("\x1Dv0\0", 4));
+        EXPECT_EQ(static_cast<uchar>(bytes.at(6)) | (static_cast<uchar>(bytes.at(7)) << 8),
+                  dots / 8);
+        const int rows = static_cast<uchar>(bytes.at(8)) | (static_cast<uchar>(bytes.at(9)) << 8);
+        EXPECT_GT(rows, 0);
+        EXPECT_LE(rows, EscPosRaster::kBandRows);
+        EXPECT_TRUE(EscPosRaster::hasInk(bytes.mid(2, 8 + rows * dots / 8)));
+        EXPECT_TRUE(bytes.endsWith(QByteArray("\x1DVB\0", 4)));
+    }
+    EXPECT_TRUE(raw.jobs.isEmpty());
+
+    setOption("Receipt", "EscPosDevice", QString());
+    ASSERT_TRUE(receipt().print(code));
+    ASSERT_EQ(raw.jobs.size(), 1);
+    EXPECT_EQ(raw.jobs.first().first, QStringLiteral("Receipt 7"));
+    raw.hasPrinter = false;
+    EXPECT_FALSE(receipt().print(code));
+    EXPECT_GE(messages().count(), 1);
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(SaleReceiptTest);
+
+// The layout of the companion program by the sale's kinds and the gift switch.
+TEST(ReceiptReportChoice, FollowsDiscountOverheadAndGift) {
+    const struct {
+        bool discountKind, overheadKind, giftDiscount, giftPrint;
+        ReceiptReport report;
+        const char* file;
+    } cases[] = {
+        {false, false, false, false, ReceiptReport::RptFish, "RptFish.rpt"},
+        {false, false, false, true, ReceiptReport::RptFish, "RptFish.rpt"},
+        {true, false, false, false, ReceiptReport::RptFish2, "RptFish2.rpt"},
+        {false, true, false, false, ReceiptReport::RptFish2, "RptFish2.rpt"},
+        {true, true, false, true, ReceiptReport::RptFish2, "RptFish2.rpt"},
+        {true, false, true, false, ReceiptReport::RptFish2, "RptFish2.rpt"},
+        {true, false, true, true, ReceiptReport::RptFish3, "RptFish3.rpt"},
+        {true, true, true, true, ReceiptReport::RptFish3, "RptFish3.rpt"},
+    };
+    for (const auto& c : cases) {
+        const ReceiptReport r = ReceiptCommand::chooseReport(c.discountKind, c.overheadKind,
+                                                             c.giftDiscount, c.giftPrint);
+        EXPECT_EQ(r, c.report) << c.discountKind << c.overheadKind << c.giftDiscount << c.giftPrint;
+        EXPECT_EQ(ReceiptCommand::reportFile(r), QString::fromLatin1(c.file));
+    }
+}
+
+TEST(ReceiptLayoutOnPaper, EveryAmountEndsAtTheSameColumnEdgeOnBothPapers) {
+    ReceiptData data;
+    data.shopName = kShop;
+    data.docNo = QStringLiteral("3");
+    data.lines = {{QStringLiteral("1"), QStringLiteral("الف"), 1, 5, 5},
+                  {QStringLiteral("2"),
+                   QStringLiteral("کالایی با نامی بسیار بسیار طولانی که در یک سطر جا "
+                                  "نمی‌شود"),
+                   1000, 1234567, 1234567000},
+                  {QStringLiteral("3"), QStringLiteral("ب"), 0.5, 90, 45}};
+    data.docSum = 1234567050;
+    data.discount = 50;
+    data.received = 1234567000;
+    for (const int width : {EscPosRaster::kWideDots, EscPosRaster::kNarrowDots}) {
+        const QImage image = ReceiptPainter::image(data, width);
+        ASSERT_EQ(image.width(), width);
+        const auto ink = [&](int x, int y) { return qGray(image.pixel(x, y)) < 128; };
+        // Text rows of the amount column: ink in its quarter, none in the gap beside it
+        // (the rules cross the gap). Each band of such rows is one amount.
+        const int gapFrom = static_cast<int>(width * 0.245);
+        const int gapTo = static_cast<int>(width * 0.255);
+        QList<int> edges;
+        int bandEdge = -1;
+        for (int y = 0; y < image.height(); ++y) {
+            int edge = -1;
+            bool inGap = false;
+            for (int x = 0; x < gapTo; ++x) {
+                if (ink(x, y)) {
+                    inGap = inGap || x >= gapFrom;
+                    edge = x;
+                }
+            }
+            if (edge >= 0 && !inGap) {
+                bandEdge = std::max(bandEdge, edge);
+            } else if (bandEdge >= 0) {
+                edges << bandEdge;
+                bandEdge = -1;
+            }
+        }
+        // The date of the invoice details (on the left, not an amount), then the column
+        // header, three lines, total, discount, payable and received.
+        ASSERT_GE(edges.size(), 9) << width;
+        edges.removeFirst();
+        const auto [lowest, highest] = std::minmax_element(edges.begin(), edges.end());
+        EXPECT_LE(*highest - *lowest, 4) << width << ": amount edges differ";
+    }
+    EXPECT_EQ(ReceiptPainter::amount(1234567), QStringLiteral("۱,۲۳۴,۵۶۷"));
+}
+
+}  // namespace
+}  // namespace sandogh::test

@@ -1,0 +1,126 @@
+// The active shift and switching between shifts.
+
+#include <gtest/gtest.h>
+
+#include "SaleShopTest.h"
+#include "data/Database.h"
+#include "data/SqlQuery.h"
+#include "data/Transaction.h"
+#include "sales/ShiftService.h"
+
+namespace sandogh::test {
+namespace {
+
+class ShiftServiceTest : public SaleShopTest {
+protected:
+    // Shifts 1..3 with the given ones active.
+    void addShifts(const QList<int>& activeCodes) {
+        for (int code = 1; code <= 3; ++code) {
+            exec(QStringLiteral("INSERT INTO tblShift (Code, Name, LastActiveShift) VALUES (:c, "
+                                ":n, :a)"),
+                 {{QStringLiteral(":c"), code},
+                  {QStringLiteral(":n"), QStringLiteral("Shift %1").arg(code)},
+                  {QStringLiteral(":a"), activeCodes.contains(code) ? 1 : 0}});
+        }
+    }
+    QList<int> activeCodes() {
+        Session s = db().session();
+        SqlQuery q(
+            s, QStringLiteral("SELECT Code FROM tblShift WHERE LastActiveShift = 1 ORDER BY Code"));
+        EXPECT_TRUE(q.exec());
+        QList<int> codes;
+        while (q.next()) {
+            codes << q.integer(0);
+        }
+        return codes;
+    }
+};
+
+TEST_P(ShiftServiceTest, SwitchingLeavesExactlyTheChosenShiftActive) {
+    struct Case {
+        QList<int> activeBefore;
+        int chosen;
+    };
+    const QList<Case> cases = {
+        {{1}, 2},        // an ordinary change
+        {{2}, 2},        // to the shift that is already active
+        {{}, 3},         // a shop where none was active
+        {{1, 2, 3}, 2},  // several active, the chosen one among them
+        {{1, 3}, 2},     // several active, the chosen one not
+    };
+    ShiftService shifts(db());
+    for (const Case& c : cases) {
+        exec(QStringLiteral("DELETE FROM tblShift"));
+        addShifts(c.activeBefore);
+        SCOPED_TRACE(testing::Message()
+                     << "before " << c.activeBefore.size() << " active, chosen " << c.chosen);
+        ASSERT_TRUE(shifts.switchTo(c.chosen));
+        EXPECT_EQ(activeCodes(), QList<int>{c.chosen});
+        const std::optional<Shift> now = shifts.active();
+        ASSERT_TRUE(now.has_value());
+        EXPECT_EQ(now->code, c.chosen);
+        EXPECT_EQ(now->name, QStringLiteral("Shift %1").arg(c.chosen));
+    }
+}
+
+TEST_P(ShiftServiceTest, AnUnknownShiftChangesNothing) {
+    ShiftService shifts(db());
+    for (const QList<int>& before : {QList<int>{1}, QList<int>{1, 3}, QList<int>{}}) {
+        exec(QStringLiteral("DELETE FROM tblShift"));
+        addShifts(before);
+        EXPECT_FALSE(shifts.switchTo(9));
+        EXPECT_EQ(activeCodes(), before);
+    }
+}
+
+TEST_P(ShiftServiceTest, ListsEveryShiftAndNoActiveOneWhenNoneIs) {
+    ShiftService shifts(db());
+    EXPECT_TRUE(shifts.all().isEmpty());
+    EXPECT_FALSE(shifts.active().has_value());
+    addShifts({});
+    const QList<Shift> all = shifts.all();
+    ASSERT_EQ(all.size(), 3);
+    QList<int> codes;
+    for (const Shift& s : all) {
+        codes << s.code;
+    }
+    std::sort(codes.begin(), codes.end());
+    EXPECT_EQ(codes, (QList<int>{1, 2, 3}));
+    EXPECT_FALSE(shifts.active().has_value());
+}
+
+TEST_P(ShiftServiceTest, InsideACallersTransactionTheSwitchFollowsItsOutcome) {
+    addShifts({1});
+    for (const bool commit : {false, true}) {
+        Session session = db().session();
+        Transaction tx(session);
+        ASSERT_TRUE(tx.isActive());
+        ASSERT_TRUE(ShiftService::switchTo(session, 2));
+        // The caller's own reads see the new shift before its commit.
+        ASSERT_TRUE(ShiftService::active(session).has_value());
+        EXPECT_EQ(ShiftService::active(session)->code, 2);
+        if (commit) {
+            ASSERT_TRUE(tx.commit());
+        } else {
+            ASSERT_TRUE(tx.rollback());
+        }
+        session.release();
+        EXPECT_EQ(activeCodes(), QList<int>{commit ? 2 : 1});
+    }
+}
+
+TEST_P(ShiftServiceTest, AFailedStatementKeepsTheActiveShift) {
+    addShifts({1});
+    exec(QStringLiteral("ALTER TABLE tblShift RENAME TO tblShiftAway"));
+    ShiftService shifts(db());
+    EXPECT_FALSE(shifts.switchTo(2));
+    EXPECT_FALSE(shifts.active().has_value());
+    EXPECT_TRUE(shifts.all().isEmpty());
+    exec(QStringLiteral("ALTER TABLE tblShiftAway RENAME TO tblShift"));
+    EXPECT_EQ(activeCodes(), QList<int>{1});
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(ShiftServiceTest);
+
+}  // namespace
+}  // namespace sandogh::test

@@ -40,6 +40,11 @@ public:
     virtual QString concat(const QStringList& expressions) const;
     // The ORDER BY expression of a random order.
     virtual QString randomOrder() const = 0;
+    // A statement that makes the write transactions of one kind (:name binds the kind)
+    // wait for each other until they end, so that keys taken as the largest plus one do
+    // not collide among them; empty where a write transaction already excludes every
+    // other writer (SQLite, which begins IMMEDIATE).
+    virtual QString writersLockSql() const { return {}; }
     // An expression as a 64-bit integer (document numbers held as digit text).
     virtual QString castBigInt(const QString& expression) const;
     // Isnull(expression, fallback).

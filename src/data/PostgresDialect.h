@@ -12,6 +12,9 @@ public:
     QString quote(const QString& identifier) const override;
     QString table(const QString& name, const QString& database = {}) const override;
     QString randomOrder() const override { return QStringLiteral("RANDOM()"); }
+    QString writersLockSql() const override {
+        return QStringLiteral("SELECT pg_advisory_xact_lock(hashtext(:name))");
+    }
     QString columnType(const ColumnDef& column) const override;
     QString otherDatabaseExistsSql() const override;
     QString otherDatabaseName(const QString& database) const override;

@@ -15,6 +15,11 @@ public:
     QString limit(int rows) const override;
     QString concat(const QStringList& expressions) const override;
     QString randomOrder() const override { return QStringLiteral("NEWID()"); }
+    QString writersLockSql() const override {
+        return QStringLiteral(
+            "EXEC sp_getapplock @Resource = :name, @LockMode = 'Exclusive', "
+            "@LockOwner = 'Transaction'");
+    }
     QString columnType(const ColumnDef& column) const override;
     QStringList addColumn(const AddColumnDef& add) const override;
     QString createIndex(const IndexDef& index) const override;

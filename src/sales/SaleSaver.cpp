@@ -31,6 +31,9 @@ using namespace procedures;
 
 const QString kModule = QStringLiteral("frmSale");
 
+// The kind of write transaction that saving a sale serialises on (Dialect::writersLockSql).
+const QString kWritersLock = QStringLiteral("Whs_QTYDocH");
+
 // Serial numbers typed during a sale wait under this document key until the sale is saved.
 constexpr qint64 kPendingSerialCode = 1;
 
@@ -170,6 +173,13 @@ SaleSaveResult SaleSaver::save(SaleSession& sale, SaleSettlement& st) {
 
 bool SaleSaver::Private::write(Session& s, const SaleSession& sale, const SaleSettlement& st,
                                SaleSaveResult& r, GiftCardMovement& movement) {
+    // Desks saving at the same moment take turns here: each takes its voucher and document
+    // keys as the largest plus one, and a desk that lost the race for a key would wait for
+    // the winner's whole transaction before it could try the next one.
+    const QString lock = s.dialect().writersLockSql();
+    if (!lock.isEmpty() && !s.exec(lock, {{QStringLiteral(":name"), kWritersLock}})) {
+        return false;
+    }
     const QDateTime now = clock.now();
     const QString date = sale.saleDate();
     const SaleMode mode = sale.mode();
@@ -211,7 +221,7 @@ bool SaleSaver::Private::write(Session& s, const SaleSession& sale, const SaleSe
     h.docTime = now.toString(QStringLiteral("HH:mm:ss"));
     h.sarbar = st.overhead;
     h.receivedPrice = r.received;
-    h.stationId = sale.station();
+    h.stationId = sale.station() != 0 ? std::optional<int>(sale.station()) : std::nullopt;
     h.note = st.note;
     h.salesType = sale.salesType();
     h.shiftCode = shiftOf(s);

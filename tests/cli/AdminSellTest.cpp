@@ -126,8 +126,8 @@ TEST_P(AdminSellTest, AnUnknownCustomerAnUnpricedArticleAndUnknownGoodsFail) {
     EXPECT_EQ(sell({QStringLiteral("--dry-run"), QStringLiteral("9999")}).exitCode, 1);
 }
 
-TEST_P(AdminSellTest, WithoutDryRunOrEntriesItIsAUsageError) {
-    EXPECT_EQ(sell({QStringLiteral("1001")}).exitCode, 2);
+TEST_P(AdminSellTest, WithoutEntriesOrWithABadSalesTypeItIsAUsageError) {
+    EXPECT_EQ(sell({}).exitCode, 2);
     EXPECT_EQ(sell({QStringLiteral("--dry-run")}).exitCode, 2);
     EXPECT_EQ(sell({QStringLiteral("--dry-run"), QStringLiteral("--sales-type"),
                     QStringLiteral("3"), QStringLiteral("1001")})

@@ -14,7 +14,9 @@
 #include "data/SqlQuery.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
+#include "sales/SaleSaver.h"
 #include "sales/SaleSession.h"
+#include "sales/SaleSettlement.h"
 #include "sales/SaleTexts.h"
 #include "settings/MachineSettings.h"
 #include "settings/QSettingsStore.h"
@@ -28,11 +30,16 @@ const QString kMissingConnectionFile =
 
 const char* const kUsage =
     "usage: sandogh-admin sell [--dir D] [--user NAME] [--station ID] [--date YYYY/MM/DD]\n"
-    "                          [--customer COUNTER] [--return] [--sales-type N] --dry-run "
-    "ENTRY...\n"
+    "                          [--customer COUNTER] [--return] [--sales-type N]\n"
+    "                          [--discount AMOUNT --discount-type ID] [--pay-type CODE]\n"
+    "                          [--received AMOUNT] [--repeat N] [--dry-run] ENTRY...\n"
     "Each ENTRY is typed into the barcode box and ended with Enter. --dry-run prints the lines\n"
-    "(barcode, quantity, unit price, tax percent, line total, tab-separated) and the total;\n"
-    "it is required for now, as saving a sale is not available from the command line yet.\n";
+    "(barcode, quantity, unit price, tax percent, line total, tab-separated) and the total.\n"
+    "Otherwise the sale is saved as the sale screen saves it and \"Code=<n> DocNo=<n>\n"
+    "DocSum=<amount>\" is printed. The amount received is the amount payable unless\n"
+    "--received is given (less is confirmed: the invoice is left owing); the payment kind is\n"
+    "1 unless --pay-type is given. --repeat saves the same sale N times, each with its own\n"
+    "number (a load on the shop's database). A refused check prints its message and exits 1.\n";
 
 // Messages go to the error stream; prompts (the price, the quantity) are answered with
 // nothing, that is, cancelled.
@@ -88,26 +95,77 @@ int userIdOf(Database& database, const QString& userName) {
     return q.exec() && q.next() ? q.integer(0) : -1;
 }
 
+// The amounts and kinds of the command line; false with the problem in error.
+bool readSettlement(const AdminArgs& args, SaleSettlement& settlement, QString& error) {
+    bool ok = true;
+    const auto number = [&](const char* name, double& value) {
+        const QString key = QString::fromLatin1(name);
+        if (ok && args.has(key)) {
+            value = args.value(key).toDouble(&ok);
+            if (!ok || value < 0) {
+                ok = false;
+                error = QStringLiteral("--%1 needs an amount").arg(key);
+            }
+        }
+    };
+    const auto code = [&](const char* name, std::optional<int>& value) {
+        const QString key = QString::fromLatin1(name);
+        if (ok && args.has(key)) {
+            value = args.value(key).toInt(&ok);
+            if (!ok) {
+                error = QStringLiteral("--%1 needs a number").arg(key);
+            }
+        }
+    };
+    number("discount", settlement.discount);
+    code("discount-type", settlement.discountTypeId);
+    settlement.payType = 1;
+    code("pay-type", settlement.payType);
+    double received = 0;
+    number("received", received);
+    if (args.has(QStringLiteral("received"))) {
+        settlement.received = received;
+    }
+    settlement.printReceipt = false;
+    return ok;
+}
+
+int save(AdminCall& call, Database& database, const MachineSettings& settings,
+         MessageService& messages, const Clock& clock, SaleSession& sale,
+         const SaleSettlement& settlement, int times) {
+    SaleSaver saver(database, settings, messages, clock);
+    for (int i = 0; i < times; ++i) {
+        SaleSettlement each = settlement;
+        const SaleSaveResult r = saver.save(sale, each);
+        if (!r.saved) {
+            return ExitFailed;
+        }
+        call.out << "Code=" << r.code << " DocNo=" << r.docNo << " DocSum=" << plain(r.docSum)
+                 << '\n';
+    }
+    return ExitOk;
+}
+
 }  // namespace
 
 // sandogh-admin sell: a sale rung up from the command line through the same sale session
 // as the sale screen, on the shop database of the program folder.
 int runSell(AdminCall& call) {
-    const AdminArgs args(call.args,
-                         {QStringLiteral("user"), QStringLiteral("station"), QStringLiteral("date"),
-                          QStringLiteral("customer"), QStringLiteral("sales-type")},
-                         {QStringLiteral("return"), QStringLiteral("dry-run")});
+    const AdminArgs args(
+        call.args,
+        {QStringLiteral("user"), QStringLiteral("station"), QStringLiteral("date"),
+         QStringLiteral("customer"), QStringLiteral("sales-type"), QStringLiteral("discount"),
+         QStringLiteral("discount-type"), QStringLiteral("pay-type"), QStringLiteral("received"),
+         QStringLiteral("repeat")},
+        {QStringLiteral("return"), QStringLiteral("dry-run")});
     if (!args.ok()) {
         return usage(call, args.error());
-    }
-    if (!args.flag(QStringLiteral("dry-run"))) {
-        return usage(call, QStringLiteral("--dry-run is required: saving is not available here "
-                                          "yet"));
     }
     if (args.positional().isEmpty()) {
         return usage(call, QStringLiteral("no ENTRY given"));
     }
     bool ok = true;
+    QString error;
     const int station = args.value(QStringLiteral("station"), QStringLiteral("0")).toInt(&ok);
     if (!ok) {
         return usage(call, QStringLiteral("--station needs a number"));
@@ -120,6 +178,14 @@ int runSell(AdminCall& call) {
     if (!ok ||
         (salesType != SaleSession::kFirstSalesType && salesType != SaleSession::kSecondSalesType)) {
         return usage(call, QStringLiteral("--sales-type is 1 or 2"));
+    }
+    const int repeat = args.value(QStringLiteral("repeat"), QStringLiteral("1")).toInt(&ok);
+    if (!ok || repeat < 1) {
+        return usage(call, QStringLiteral("--repeat needs a count of 1 or more"));
+    }
+    SaleSettlement settlement;
+    if (!readSettlement(args, settlement, error)) {
+        return usage(call, error);
     }
     QString date;
     if (args.has(QStringLiteral("date"))) {
@@ -144,7 +210,6 @@ int runSell(AdminCall& call) {
         return ExitFailed;
     }
     ConnectionSettings connection;
-    QString error;
     if (!ConnectionSettings::parse(file.connectionString(), call.programDir, connection, &error)) {
         call.err << "sandogh-admin sell: " << error << '\n';
         return ExitFailed;
@@ -194,6 +259,9 @@ int runSell(AdminCall& call) {
         }
     }
 
+    if (!args.flag(QStringLiteral("dry-run"))) {
+        return save(call, database, settings, messages, clock, sale, settlement, repeat);
+    }
     for (const SaleLine& line : sale.lines()) {
         call.out << line.barcode << '\t' << plain(line.quantity) << '\t' << plain(line.unitPrice)
                  << '\t' << plain(line.taxPercent) << '\t' << plain(line.total) << '\n';

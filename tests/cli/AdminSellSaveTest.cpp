@@ -1,0 +1,176 @@
+// sandogh-admin sell without --dry-run saves the sale; refusals print their message and
+// exit 1; four processes saving at once on PostgreSQL keep every document whole.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "AdminProcess.h"
+#include "data/Database.h"
+#include "data/SqlQuery.h"
+#include "support/BackendTest.h"
+
+namespace sandogh {
+namespace {
+
+class AdminSellSaveTest : public test::BackendTest {
+protected:
+    void SetUp() override {
+        BackendTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        ASSERT_TRUE(settings.isValid());
+        qputenv("SANDOGH_SETTINGS", settings.path().toUtf8());
+        QFile provider(QDir(dir()).filePath(QStringLiteral("Provider.txt")));
+        ASSERT_TRUE(provider.open(QIODevice::WriteOnly));
+        provider.write(testDatabase().providerText().toUtf8());
+        provider.close();
+        const AdminProcess::Result init =
+            AdminProcess::run({QStringLiteral("init-db"), QStringLiteral("--dir"), dir()});
+        ASSERT_EQ(init.exitCode, 0) << init.err.toStdString();
+        Session s = db().session();
+        for (const char* sql : {
+                 "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES "
+                 "('1001', 'Bread', 2500, 2600, 0), ('3003', 'Oil', 100000, 0, 0)",
+                 "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1'), (2, 'Desk 2'), "
+                 "(3, 'Desk 3'), (4, 'Desk 4')",
+                 "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
+                 "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0)",
+             }) {
+            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
+        }
+    }
+    void TearDown() override {
+        qunsetenv("SANDOGH_SETTINGS");
+        BackendTest::TearDown();
+    }
+    QString dir() { return testDatabase().programDir(); }
+    QStringList words(QStringList rest, const char* station = "1") {
+        return QStringList{QStringLiteral("sell"),
+                           QStringLiteral("--dir"),
+                           dir(),
+                           QStringLiteral("--user"),
+                           QStringLiteral("cashier"),
+                           QStringLiteral("--station"),
+                           QString::fromLatin1(station)} +
+               rest;
+    }
+    qint64 scalar(const QString& sql) {
+        Session s = db().session();
+        return s.scalarInt64(sql, {}, -1);
+    }
+
+    QTemporaryDir settings;
+};
+
+TEST_P(AdminSellSaveTest, SavingPrintsTheKeyNumberAndTotal) {
+    AdminProcess::Result r = AdminProcess::run(
+        words({QStringLiteral("--discount"), QStringLiteral("10000"),
+               QStringLiteral("--discount-type"), QStringLiteral("1"), QStringLiteral("3003")}));
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    const qint64 code = scalar(QStringLiteral("SELECT MAX(Code) FROM Whs_QTYDocH"));
+    EXPECT_EQ(r.outText(), QStringLiteral("Code=%1 DocNo=1 DocSum=100000\n").arg(code));
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE ReceivedPrice = 90000 "
+                                    "AND Discount = 10000 AND PayType = 1 AND StationID = 1")),
+              1);
+
+    r = AdminProcess::run(
+        words({QStringLiteral("--received"), QStringLiteral("2000"), QStringLiteral("--pay-type"),
+               QStringLiteral("2"), QStringLiteral("--repeat"), QStringLiteral("2"),
+               QStringLiteral("1001")}));
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.outText().count(QStringLiteral("DocSum=2500\n")), 2);
+    EXPECT_TRUE(r.outText().contains(QStringLiteral(" DocNo=3 ")));
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE ReceivedPrice = 2000 "
+                                    "AND PayType = 2")),
+              2);
+}
+
+TEST_P(AdminSellSaveTest, ARefusedCheckPrintsItsMessageAndSavesNothing) {
+    struct Case {
+        QStringList rest;
+        QString message;
+    };
+    const QList<Case> cases{
+        {{QStringLiteral("--discount"), QStringLiteral("500"), QStringLiteral("1001")},
+         QStringLiteral("نوع تخفيف را مشخص کنيد")},
+        {{QStringLiteral("--received"), QStringLiteral("9000"), QStringLiteral("1001")},
+         QStringLiteral("مبلغ دريافت شده بيش از مبلغ کل فاکتور مي باشد.")},
+        {{QStringLiteral("--discount"), QStringLiteral("5000"), QStringLiteral("--discount-type"),
+          QStringLiteral("1"), QStringLiteral("1001")},
+         QStringLiteral("مبلغ فاکتور نمي تواند منفي باشد")},
+    };
+    for (const Case& c : cases) {
+        const AdminProcess::Result r = AdminProcess::run(words(c.rest));
+        EXPECT_EQ(r.exitCode, 1) << c.message.toStdString();
+        EXPECT_TRUE(QString::fromUtf8(r.err).contains(c.message)) << r.err.toStdString();
+        EXPECT_TRUE(r.out.isEmpty());
+    }
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
+    EXPECT_EQ(AdminProcess::run(
+                  words({QStringLiteral("--repeat"), QStringLiteral("0"), QStringLiteral("1001")}))
+                  .exitCode,
+              2);
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(AdminSellSaveTest);
+
+// Four cash desks saving a hundred sales each at the same moment.
+class AdminSellConcurrencyTest : public AdminSellSaveTest {};
+
+TEST_P(AdminSellConcurrencyTest, FourDesksSavingAtOnceKeepEveryDocumentWhole) {
+    constexpr int kDesks = 4;
+    constexpr int kSales = 100;
+    QList<QProcess*> desks;
+    for (int desk = 1; desk <= kDesks; ++desk) {
+        auto* p = new QProcess;
+        const QByteArray station = QByteArray::number(desk);
+        p->start(AdminProcess::binaryPath(),
+                 words({QStringLiteral("--repeat"), QString::number(kSales), QStringLiteral("1001"),
+                        QStringLiteral("3003"), QStringLiteral("1001")},
+                       station.constData()));
+        desks << p;
+    }
+    for (QProcess* p : desks) {
+        ASSERT_TRUE(p->waitForFinished(180000));
+        EXPECT_EQ(p->exitCode(), 0) << p->readAllStandardError().toStdString();
+        EXPECT_EQ(p->readAllStandardOutput().count("Code="), kSales);
+        delete p;
+    }
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), kDesks * kSales);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(DISTINCT Code) FROM Whs_QTYDocH")),
+              kDesks * kSales);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(DISTINCT DocumentHID) FROM Whs_QTYDocH")),
+              kDesks * kSales);
+    // Every header has its two lines, every line a header, and each line's total is its
+    // header's DocSum share: 2 x 2,500 + 100,000.
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H WHERE (SELECT COUNT(*) "
+                                    "FROM Whs_QTYDocD D WHERE D.Code = H.Code) <> 2")),
+              0);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocD D LEFT JOIN Whs_QTYDocH H "
+                                    "ON H.Code = D.Code WHERE H.Code IS NULL")),
+              0);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H WHERE H.DocSum <> "
+                                    "(SELECT SUM(D.Price) FROM Whs_QTYDocD D WHERE D.Code = "
+                                    "H.Code)")),
+              0);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), kDesks * kSales);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT CAST(Stock AS BIGINT) FROM Stock WHERE Barcode = "
+                                    "'1001'")),
+              -2 * kDesks * kSales);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT CAST(Stock AS BIGINT) FROM Stock WHERE Barcode = "
+                                    "'3003'")),
+              -kDesks * kSales);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT CAST(-SUM(Qty) AS BIGINT) FROM Whs_QTYDocD WHERE "
+                                    "EAN_Code = '1001'")),
+              -2 * kDesks * kSales);
+}
+
+SANDOGH_INSTANTIATE_POSTGRES_ONLY(AdminSellConcurrencyTest);
+
+}  // namespace
+}  // namespace sandogh

@@ -3,6 +3,7 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPageSize>
+#include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
 
@@ -38,6 +39,7 @@ constexpr double kSmallestScale = 0.66;
 constexpr double kLargestScale = 1.3;
 constexpr double kMillimetresPerInch = 25.4;
 constexpr double kA4MarginMm = 12;
+constexpr double kRollMarginMm = 4;
 
 QString persian(const QString& text) {
     return QString::fromStdString(TextHelpers::toPersianDigits(text.toStdString()));
@@ -284,44 +286,50 @@ QImage ReceiptPainter::image(const ReceiptData& receipt, int width) {
 }
 
 bool ReceiptPainter::writePdf(const ReceiptData& receipt, const QString& path, bool a4) {
-    const double marginMm = a4 ? kA4MarginMm : kRollMarginMm;
-    const double paperWidthMm =
-        a4 ? QPageSize(QPageSize::A4).size(QPageSize::Millimeter).width() : kRollPaperMm;
-    const double width = mmToDots(paperWidthMm - 2 * marginMm);
-    const ReceiptPainter layout(receipt, width);
-
-    QImage probe(1, 1, QImage::Format_RGB32);
-    const double height = layout.height(&probe);
-
     QPdfWriter writer(path);
     writer.setResolution(kDotsPerInch);
     writer.setCreator(QStringLiteral("Sandogh"));
     writer.setTitle(receipt.shopName);
+    return printPages(writer, receipt, a4, kRollPaperMm - 2 * kRollMarginMm);
+}
+
+bool ReceiptPainter::printPages(QPagedPaintDevice& device, const ReceiptData& receipt, bool a4,
+                                double rollWidthMm) {
+    const double marginMm = a4 ? kA4MarginMm : kRollMarginMm;
+    const double printWidthMm =
+        a4 ? QPageSize(QPageSize::A4).size(QPageSize::Millimeter).width() - 2 * marginMm
+           : rollWidthMm;
+    const double width = mmToDots(printWidthMm);
+    const ReceiptPainter layout(receipt, width);
+    QImage probe(1, 1, QImage::Format_RGB32);
+    const double height = layout.height(&probe);
+
     if (a4) {
-        writer.setPageSize(QPageSize(QPageSize::A4));
+        device.setPageSize(QPageSize(QPageSize::A4));
     } else {
-        const double heightMm =
-            (height + 2 * mmToDots(marginMm)) / kDotsPerInch * kMillimetresPerInch;
-        writer.setPageSize(QPageSize(QSizeF(paperWidthMm, heightMm), QPageSize::Millimeter,
-                                     QStringLiteral("Receipt")));
+        const double heightMm = height / kDotsPerInch * kMillimetresPerInch + 2 * marginMm;
+        device.setPageSize(QPageSize(QSizeF(printWidthMm + 2 * marginMm, heightMm),
+                                     QPageSize::Millimeter, QStringLiteral("Receipt")));
     }
-    writer.setPageMargins(QMarginsF(marginMm, marginMm, marginMm, marginMm),
+    device.setPageMargins(QMarginsF(marginMm, marginMm, marginMm, marginMm),
                           QPageLayout::Millimeter);
     QPainter painter;
-    if (!painter.begin(&writer)) {
+    if (!painter.begin(&device)) {
         return false;
     }
-    const double pageHeight = writer.pageLayout().paintRectPixels(kDotsPerInch).height();
+    // The layout is in dots at kDotsPerInch; the device may have another resolution.
+    const double toDevice = static_cast<double>(device.logicalDpiY()) / kDotsPerInch;
+    painter.scale(toDevice, toDevice);
+    const double pageHeight =
+        device.pageLayout().paintRectPixels(device.logicalDpiY()).height() / toDevice;
     const int pages = a4 ? std::max(1, static_cast<int>(std::ceil(height / pageHeight))) : 1;
     for (int page = 0; page < pages; ++page) {
         if (page > 0) {
-            writer.newPage();
+            device.newPage();
         }
         painter.save();
-        if (a4) {
-            painter.setClipRect(QRectF(0, 0, width, pageHeight));
-            painter.translate(0, -page * pageHeight);
-        }
+        painter.setClipRect(QRectF(0, 0, width, a4 ? pageHeight : height + 1));
+        painter.translate(0, -page * pageHeight);
         layout.paint(painter);
         painter.restore();
     }

@@ -6,6 +6,7 @@
 
 class QPainter;
 class QPaintDevice;
+class QPagedPaintDevice;
 
 namespace sandogh {
 
@@ -21,9 +22,8 @@ public:
     static constexpr int kDotsPerInch = 203;
     // The print width of 80 mm paper, at which the base sizes below hold.
     static constexpr double kRollDots = 576;
-    // Width of the printed area of a roll PDF, and its paper and margins, in millimetres.
+    // The paper of a roll PDF, in millimetres.
     static constexpr double kRollPaperMm = 80;
-    static constexpr double kRollMarginMm = 4;
 
     // width: the printed width in pixels; sizes scale with it up to kRollDots.
     ReceiptPainter(const ReceiptData& receipt, double width);
@@ -37,6 +37,10 @@ public:
     static QImage image(const ReceiptData& receipt, int width);
     // The receipt as a PDF: one page of roll paper as long as the receipt, or A4 pages.
     static bool writePdf(const ReceiptData& receipt, const QString& path, bool a4);
+    // The receipt on a paged device (a PDF writer, a printer): a roll page rollWidthMm
+    // wide (plus margins) and as long as the receipt, or A4 pages.
+    static bool printPages(QPagedPaintDevice& device, const ReceiptData& receipt, bool a4,
+                           double rollWidthMm);
 
     // The font the receipt is printed in: Vazirmatn or Noto Sans Arabic when installed.
     static QString fontFamily();

@@ -1,0 +1,105 @@
+// sandogh-admin receipt: the companion command of a saved sale on stdout, or its receipt as
+// a PDF; a document that is not there ends with the system's message and exit code 1.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "AdminProcess.h"
+#include "data/Database.h"
+#include "support/BackendTest.h"
+
+namespace sandogh {
+namespace {
+
+class AdminReceiptTest : public test::BackendTest {
+protected:
+    void SetUp() override {
+        BackendTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        ASSERT_TRUE(settings.isValid());
+        qputenv("SANDOGH_SETTINGS", settings.path().toUtf8());
+        QFile provider(QDir(dir()).filePath(QStringLiteral("Provider.txt")));
+        ASSERT_TRUE(provider.open(QIODevice::WriteOnly));
+        provider.write(testDatabase().providerText().toUtf8());
+        provider.close();
+        const AdminProcess::Result init =
+            AdminProcess::run({QStringLiteral("init-db"), QStringLiteral("--dir"), dir()});
+        ASSERT_EQ(init.exitCode, 0) << init.err.toStdString();
+
+        Session s = db().session();
+        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Company (Company_Name) VALUES (:n)"),
+                           {{QStringLiteral(":n"), QStringLiteral("فروشگاه نمونه")}}));
+        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost) "
+                                          "VALUES ('1001', :n, 12500)"),
+                           {{QStringLiteral(":n"), QStringLiteral("چای")}}));
+        ASSERT_TRUE(s.exec(QStringLiteral(
+            "INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, DocSum, Discount, "
+            "Sarbar, ReceivedPrice) VALUES (5, '3', 2, '1404/01/01', 25000, 0, 0, 25000)")));
+        ASSERT_TRUE(
+            s.exec(QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, Fee, "
+                                  "Price) VALUES (5, '1001', 2, 12500, 25000)")));
+    }
+    void TearDown() override {
+        qunsetenv("SANDOGH_SETTINGS");
+        BackendTest::TearDown();
+    }
+    QString dir() { return testDatabase().programDir(); }
+    AdminProcess::Result receipt(QStringList words) {
+        words.prepend(dir());
+        words.prepend(QStringLiteral("--dir"));
+        words.prepend(QStringLiteral("receipt"));
+        return AdminProcess::run(words);
+    }
+
+    QTemporaryDir settings;
+};
+
+TEST_P(AdminReceiptTest, PrintsTheCompanionCommandOrWritesThePdf) {
+    const AdminProcess::Result r = receipt({QStringLiteral("5")});
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.outText(),
+              QStringLiteral("mnuRptFish,RptFish.rpt,فروشگاه نمونه,,,,5,3,1404/01/01,,,25000,0,,"
+                             "0,,بيست و پنج هزار تومان,,\n"));
+
+    const QString pdf = QDir(dir()).filePath(QStringLiteral("r.pdf"));
+    const AdminProcess::Result p = receipt({QStringLiteral("5"), QStringLiteral("--pdf"), pdf});
+    ASSERT_EQ(p.exitCode, 0) << p.err.toStdString();
+    QFile file(pdf);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.read(5) == "%PDF-");
+    EXPECT_GT(file.size(), 1000);
+}
+
+TEST_P(AdminReceiptTest, AMissingDocumentOrABadKeyPrintsNothing) {
+    const struct {
+        QStringList words;
+        int exitCode;
+        const char* err;
+    } cases[] = {
+        {{QStringLiteral("6")}, 1, "فاكتور مورد نظر يافت نشد."},
+        {{QStringLiteral("6"), QStringLiteral("--pdf"), QStringLiteral("x.pdf")},
+         1,
+         "فاكتور مورد نظر يافت نشد."},
+        {{QStringLiteral("five")}, 2, "positive whole number"},
+        {{}, 2, "exactly one document key"},
+        {{QStringLiteral("5"), QStringLiteral("--pdf")}, 2, "--pdf"},
+    };
+    for (const auto& c : cases) {
+        const AdminProcess::Result r = receipt(c.words);
+        EXPECT_EQ(r.exitCode, c.exitCode) << c.words.join(u' ').toStdString();
+        EXPECT_TRUE(r.out.isEmpty()) << r.outText().toStdString();
+        EXPECT_TRUE(QString::fromUtf8(r.err).contains(QString::fromUtf8(c.err)))
+            << r.err.toStdString();
+    }
+    EXPECT_FALSE(QFile::exists(QDir(dir()).filePath(QStringLiteral("x.pdf"))));
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(AdminReceiptTest);
+
+}  // namespace
+}  // namespace sandogh

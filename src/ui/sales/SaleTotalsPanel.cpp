@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPushButton>
 
 #include "sales/SaleSession.h"
 #include "ui/widgets/AmountEdit.h"
@@ -58,7 +59,8 @@ SaleTotalsPanel::SaleTotalsPanel(QWidget* parent)
     , lblReceivedPrice(new QLabel(this))
     , txtReceivedPrice(amountBox(this, "txtReceivedPrice"))
     , txtReturn(amountBox(this, "txtReturn"))
-    , lblReturnCalculator(new QLabel(this)) {
+    , lblReturnCalculator(new QLabel(this))
+    , DiscountButton(new QPushButton(QStringLiteral("٪"), this)) {
     setObjectName(QStringLiteral("fraTotals"));
     setFrameShape(QFrame::StyledPanel);
 
@@ -82,9 +84,18 @@ SaleTotalsPanel::SaleTotalsPanel(QWidget* parent)
     lblReturnCalculator->setFont(scaledFont(font(), kAmountScale, true));
     lblReturnCalculator->setAlignment(Qt::AlignCenter);
 
+    DiscountButton->setObjectName(QStringLiteral("DiscountButton"));
+    DiscountButton->setToolTip(QStringLiteral("اعمال درصد تخفیف"));
+    DiscountButton->setAutoDefault(false);
+
     buildLayout();
     showMode(SaleMode::Sale);
     txtSum->setValue(0);
+
+    for (AmountEdit* box : {txtSum, txtDiscount, txtOther, txtReceivedPrice}) {
+        connect(box, &QLineEdit::textChanged, this, [this] { recompute(); });
+    }
+    connect(DiscountButton, &QPushButton::clicked, this, [this] { applyDiscountPercent(); });
 }
 
 void SaleTotalsPanel::buildLayout() {
@@ -114,7 +125,7 @@ void SaleTotalsPanel::buildLayout() {
         }
         ++column;
     };
-    addField(QStringLiteral("تخفیف ٪"), txtDiscountPercent);
+    addField(QStringLiteral("تخفیف ٪"), txtDiscountPercent, DiscountButton);
     addField(QStringLiteral("مبلغ تخفیف (Ctrl+J)"), txtDiscount, cmbDiscountType);
     addField(QStringLiteral("هزینه اضافه (Ctrl+Z)"), txtOther, cmbOverhead);
     addField(QStringLiteral("قابل پرداخت (Ctrl+B)"), txtSumReceived);
@@ -154,9 +165,11 @@ void SaleTotalsPanel::setDiscountEnabled(bool enabled) {
     txtDiscount->setEnabled(enabled);
     txtDiscountPercent->setEnabled(enabled);
     cmbDiscountType->setEnabled(enabled);
+    DiscountButton->setEnabled(enabled);
 }
 
 void SaleTotalsPanel::clearSettlement() {
+    m_clearing = true;
     for (AmountEdit* box :
          {txtDiscountPercent, txtDiscount, txtOther, txtSumReceived, txtReceivedPrice, txtReturn}) {
         box->clear();
@@ -164,6 +177,77 @@ void SaleTotalsPanel::clearSettlement() {
     cmbDiscountType->setCurrentIndex(0);
     cmbOverhead->setCurrentIndex(0);
     lblReturnCalculator->clear();
+    m_clearing = false;
+    recompute();
+}
+
+SettlementCalculator::Amounts SaleTotalsPanel::amounts() const {
+    return SettlementCalculator::compute(txtSum->value(), txtDiscount->value(), txtOther->value(),
+                                         txtReceivedPrice->value());
+}
+
+std::optional<int> SaleTotalsPanel::chosenKind(const QComboBox* combo) {
+    const QVariant id = combo->currentData();
+    if (!id.isValid() || id.isNull()) {
+        return std::nullopt;
+    }
+    return id.toInt();
+}
+
+void SaleTotalsPanel::fillSettlement(SaleSettlement& settlement) const {
+    SettlementCalculator::fill(settlement, txtSum->value(), txtDiscount->value(),
+                               txtDiscountPercent->value(), txtOther->value(),
+                               txtReceivedPrice->value());
+    settlement.discountTypeId = chosenKind(cmbDiscountType);
+    settlement.overheadId = chosenKind(cmbOverhead);
+}
+
+SaleSettlement SaleTotalsPanel::settlement() const {
+    SaleSettlement settlement;
+    fillSettlement(settlement);
+    return settlement;
+}
+
+void SaleTotalsPanel::setDiscount(double discount) {
+    if (discount == 0) {
+        txtDiscount->clear();
+    } else {
+        txtDiscount->setValue(discount);
+    }
+}
+
+bool SaleTotalsPanel::chooseDiscountKind(int id) {
+    const int index = cmbDiscountType->findData(id);
+    if (index < 0) {
+        return false;
+    }
+    cmbDiscountType->setCurrentIndex(index);
+    return true;
+}
+
+void SaleTotalsPanel::applyDiscountPercent() {
+    if (!txtDiscount->isEnabled()) {
+        return;
+    }
+    setDiscount(
+        SettlementCalculator::discountOfPercent(txtSum->value(), txtDiscountPercent->value()));
+}
+
+void SaleTotalsPanel::recompute() {
+    if (m_clearing) {
+        return;
+    }
+    const SettlementCalculator::Amounts a = amounts();
+    // An empty sale with nothing typed shows nothing rather than "settled".
+    if (a.total == 0 && a.discount == 0 && a.overhead == 0 && a.handedOver == 0) {
+        txtSumReceived->clear();
+        txtReturn->clear();
+        lblReturnCalculator->clear();
+        return;
+    }
+    txtSumReceived->setValue(a.payable);
+    txtReturn->setValue(a.shownChange());
+    lblReturnCalculator->setText(a.stateText());
 }
 
 }  // namespace sandogh

@@ -5,9 +5,12 @@
 
 #include "sales/SaleMode.h"
 #include "sales/SaleScreenLists.h"
+#include "sales/SaleSettlement.h"
+#include "sales/SettlementCalculator.h"
 
 class QComboBox;
 class QLabel;
+class QPushButton;
 
 namespace sandogh {
 
@@ -18,6 +21,10 @@ class AmountEdit;
 // charge with its kind, the amount payable (txtSumReceived), the amount handed over
 // (txtReceivedPrice, labelled for a sale or a return), the change (txtReturn) and its
 // state (lblReturnCalculator). Every amount reads left to right, flush right.
+//
+// Each change of the total, the discount, the charge or the amount handed over recomputes
+// the amount payable, the change and its state; DiscountButton turns the percent into the
+// discount amount.
 class SaleTotalsPanel : public QFrame {
     Q_OBJECT
 
@@ -35,6 +42,23 @@ public:
     // A new sale: every amount but the total emptied, no kinds chosen.
     void clearSettlement();
 
+    // The figures of the boxes as they stand.
+    SettlementCalculator::Amounts amounts() const;
+    // The amounts and the chosen kinds (item data of cmbDiscountType and cmbOverhead: the
+    // Ids; none for the empty first entry) as a settlement; the rest left empty.
+    SaleSettlement settlement() const;
+    // Fills the amounts and kinds of a settlement, keeping its other values.
+    void fillSettlement(SaleSettlement& settlement) const;
+    // Writes a discount (the loyalty gift) and recomputes.
+    void setDiscount(double discount);
+    // Chooses a discount kind by its Id; false when the list has no such kind.
+    bool chooseDiscountKind(int id);
+
+    // DiscountButton: the percent of txtDiscountPercent applied to the total.
+    void applyDiscountPercent();
+    // txtSumReceived, txtReturn and lblReturnCalculator from the other boxes.
+    void recompute();
+
     AmountEdit* txtSum;
     AmountEdit* txtDiscountPercent;
     AmountEdit* txtDiscount;
@@ -46,10 +70,14 @@ public:
     AmountEdit* txtReceivedPrice;
     AmountEdit* txtReturn;
     QLabel* lblReturnCalculator;
+    QPushButton* DiscountButton;
 
 private:
     void buildLayout();
     static void fillKinds(QComboBox* combo, const QList<SaleScreenLists::Item>& kinds);
+    static std::optional<int> chosenKind(const QComboBox* combo);
+
+    bool m_clearing = false;
 };
 
 }  // namespace sandogh

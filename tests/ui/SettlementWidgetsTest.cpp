@@ -1,0 +1,230 @@
+// The totals panel of the sale screen typed into, and the payment split dialog driven
+// through its named controls.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+
+#include "DialogDriver.h"
+#include "RecordingMessageService.h"
+#include "TypeText.h"
+#include "sales/SettlementTexts.h"
+#include "ui/sales/SaleTotalsPanel.h"
+#include "ui/sales/frmSalePayment.h"
+#include "ui/widgets/AmountEdit.h"
+
+namespace sandogh::test {
+namespace {
+
+void typeAmount(AmountEdit* box, const QString& text) {
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_Delete);
+    typeText(box, text);
+}
+
+struct PanelCase {
+    const char* name;
+    const char* total;
+    const char* percent;   // typed and applied with DiscountButton; empty: none
+    const char* discount;  // typed; empty: none
+    const char* other;
+    const char* received;
+    const char* payable;
+    const char* change;
+    QString label;
+};
+
+class SaleTotalsPanelTest : public ::testing::TestWithParam<PanelCase> {};
+
+TEST_P(SaleTotalsPanelTest, TypingRecomputesPayableChangeAndState) {
+    const PanelCase& c = GetParam();
+    SaleTotalsPanel panel;
+    panel.setDiscountKinds({{1, QStringLiteral("عادی")}, {5, QStringLiteral("هدیه")}});
+    panel.show();
+    panel.showTotal(QString::fromLatin1(c.total));
+    if (*c.percent != 0) {
+        typeAmount(panel.txtDiscountPercent, QString::fromLatin1(c.percent));
+        QTest::mouseClick(panel.DiscountButton, Qt::LeftButton);
+    }
+    if (*c.discount != 0) {
+        typeAmount(panel.txtDiscount, QString::fromLatin1(c.discount));
+    }
+    typeAmount(panel.txtOther, QString::fromLatin1(c.other));
+    typeAmount(panel.txtReceivedPrice, QString::fromUtf8(c.received));
+
+    EXPECT_EQ(panel.txtSumReceived->text(), QString::fromLatin1(c.payable));
+    EXPECT_EQ(panel.txtReturn->text(), QString::fromLatin1(c.change));
+    EXPECT_EQ(panel.lblReturnCalculator->text(), c.label);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Typed, SaleTotalsPanelTest,
+    ::testing::Values(PanelCase{"PercentChargeAndChange", "100,000", "10", "", "5000", "100000",
+                                "95,000", "5,000", SettlementTexts::toPay()},
+                      PanelCase{"Settled", "100,000", "", "10000", "", "90000", "90,000", "0",
+                                SettlementTexts::settled()},
+                      PanelCase{"StillToReceive", "100,000", "", "", "", "60000", "100,000",
+                                "40,000", SettlementTexts::toReceive()},
+                      PanelCase{"PersianDigits", "12,345", "10", "", "", "۲۰۰۰۰", "11,110", "8,890",
+                                SettlementTexts::toPay()}),
+    [](const ::testing::TestParamInfo<PanelCase>& p) { return std::string(p.param.name); });
+
+TEST(SaleTotalsPanelFlow, TheTotalChangingRecomputesAndANewSaleEmptiesEverything) {
+    SaleTotalsPanel panel;
+    panel.setDiscountKinds({{1, QStringLiteral("عادی")}, {5, QStringLiteral("هدیه")}});
+    panel.setOverheadKinds({{2, QStringLiteral("حمل")}});
+    panel.show();
+    panel.showTotal(QStringLiteral("50,000"));
+    typeAmount(panel.txtReceivedPrice, QStringLiteral("50000"));
+    EXPECT_EQ(panel.lblReturnCalculator->text(), SettlementTexts::settled());
+    // Another line rung up: still to receive.
+    panel.showTotal(QStringLiteral("70,000"));
+    EXPECT_EQ(panel.txtSumReceived->text(), QStringLiteral("70,000"));
+    EXPECT_EQ(panel.txtReturn->text(), QStringLiteral("20,000"));
+    EXPECT_EQ(panel.lblReturnCalculator->text(), SettlementTexts::toReceive());
+
+    typeAmount(panel.txtDiscount, QStringLiteral("7000"));
+    panel.cmbDiscountType->setCurrentIndex(panel.cmbDiscountType->findData(5));
+    typeAmount(panel.txtOther, QStringLiteral("1000"));
+    panel.cmbOverhead->setCurrentIndex(panel.cmbOverhead->findData(2));
+    const SaleSettlement s = panel.settlement();
+    EXPECT_DOUBLE_EQ(s.discount, 7000);
+    EXPECT_DOUBLE_EQ(s.overhead, 1000);
+    EXPECT_DOUBLE_EQ(s.payable, 64000);
+    EXPECT_DOUBLE_EQ(s.handedOver, 50000);
+    EXPECT_EQ(s.discountTypeId, 5);
+    EXPECT_EQ(s.overheadId, 2);
+
+    panel.clearSettlement();
+    panel.showTotal(QStringLiteral("0"));
+    for (AmountEdit* box : {panel.txtDiscount, panel.txtOther, panel.txtSumReceived,
+                            panel.txtReceivedPrice, panel.txtReturn}) {
+        EXPECT_TRUE(box->text().isEmpty()) << box->objectName().toStdString();
+    }
+    EXPECT_TRUE(panel.lblReturnCalculator->text().isEmpty());
+    EXPECT_FALSE(panel.settlement().discountTypeId.has_value());
+    EXPECT_FALSE(panel.settlement().overheadId.has_value());
+}
+
+TEST(SaleTotalsPanelFlow, ADisabledDiscountIgnoresThePercentButton) {
+    SaleTotalsPanel panel;
+    panel.show();
+    panel.showTotal(QStringLiteral("100,000"));
+    panel.txtDiscountPercent->setValue(10);
+    panel.setDiscountEnabled(false);
+    EXPECT_FALSE(panel.DiscountButton->isEnabled());
+    panel.applyDiscountPercent();
+    EXPECT_TRUE(panel.txtDiscount->text().isEmpty());
+    EXPECT_EQ(panel.txtSumReceived->text(), QStringLiteral("100,000"));
+}
+
+QList<frmSalePayment::AccountChoice> paymentAccounts() {
+    return {{{11, 12, 1, QStringLiteral("صندوق")}, QString()},
+            {{21, 901, 9, QStringLiteral("ملت")}, QStringLiteral("31005566")},
+            {{22, 902, 9, QStringLiteral("سامان")}, QString()}};
+}
+
+void chooseAccount(frmSalePayment& dialog, int id) {
+    dialog.cmbAccount->setCurrentIndex(dialog.cmbAccount->findData(id));
+}
+
+TEST(frmSalePaymentTest, RowsMustAddUpBeforeOk) {
+    RecordingMessageService messages;
+    frmSalePayment dialog(paymentAccounts(), messages);
+    dialog.DocSum(95000);
+    dialog.ComapanyName(QStringLiteral("رضا"));
+    dialog.FillTextValue();
+    dialog.show();
+    EXPECT_EQ(dialog.txtAmount->text(), QStringLiteral("95,000"));
+    EXPECT_EQ(dialog.lblCompanyName->text(), QStringLiteral("رضا"));
+    ASSERT_EQ(dialog.cmbPaymentKind->count(), 3);
+    EXPECT_EQ(dialog.cmbPaymentKind->itemText(0), QStringLiteral("نقدي"));
+    EXPECT_EQ(dialog.cmbPaymentKind->itemText(1), QStringLiteral("پوز بانکي"));
+    EXPECT_EQ(dialog.cmbPaymentKind->itemText(2), QStringLiteral("چک"));
+
+    // A bank account shows its terminal.
+    chooseAccount(dialog, 21);
+    EXPECT_TRUE(dialog.lblPosId->text().contains(QStringLiteral("31005566")));
+    chooseAccount(dialog, 22);
+    EXPECT_TRUE(dialog.lblPosId->text().isEmpty());
+
+    // 45,000 in cash, then OK refused: 50,000 left.
+    chooseAccount(dialog, 11);
+    typeAmount(dialog.txtAmount, QStringLiteral("45000"));
+    QTest::mouseClick(dialog.btnAdd, Qt::LeftButton);
+    EXPECT_EQ(dialog.txtAmount->text(), QStringLiteral("50,000"));
+    dialog.buttons->button(QDialogButtonBox::Ok)->click();
+    EXPECT_TRUE(dialog.isVisible());
+    ASSERT_EQ(messages.shown.size(), 1);
+    EXPECT_TRUE(messages.shown.first().text.startsWith(SettlementTexts::splitMismatch()));
+
+    // The rest on the Mellat terminal: OK closes with both rows.
+    dialog.cmbPaymentKind->setCurrentIndex(1);
+    chooseAccount(dialog, 21);
+    QTest::mouseClick(dialog.btnAdd, Qt::LeftButton);
+    EXPECT_EQ(dialog.grdPayments->rowCount(), 2);
+    EXPECT_EQ(dialog.grdPayments->item(1, 2)->text(), QStringLiteral("31005566"));
+    dialog.buttons->button(QDialogButtonBox::Ok)->click();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    const QList<SalePayment> rows = dialog.payments();
+    ASSERT_EQ(rows.size(), 2);
+    EXPECT_EQ(rows[0].kind, SalePayment::Cash);
+    EXPECT_EQ(rows[0].accountingGroupId, 11);
+    EXPECT_DOUBLE_EQ(rows[0].amount, 45000);
+    EXPECT_EQ(rows[1].kind, SalePayment::BankTerminal);
+    EXPECT_EQ(rows[1].posId, QStringLiteral("31005566"));
+    EXPECT_DOUBLE_EQ(rows[1].amount, 50000);
+}
+
+TEST(frmSalePaymentTest, BadRowsAreRefusedAndRowsCanBeDeleted) {
+    RecordingMessageService messages;
+    frmSalePayment dialog(paymentAccounts(), messages);
+    dialog.DocSum(10000);
+    dialog.FillTextValue();
+    EXPECT_FALSE(dialog.addRow(SalePayment::Cash, 999, 1000));  // unknown account
+    EXPECT_FALSE(dialog.addRow(SalePayment::Cash, 11, 0));
+    EXPECT_EQ(messages.shown.size(), 2);
+    EXPECT_TRUE(dialog.payments().isEmpty());
+
+    ASSERT_TRUE(dialog.addRow(SalePayment::Cheque, 22, 12000));
+    ASSERT_TRUE(dialog.addRow(SalePayment::Cash, 11, 10000));
+    dialog.grdPayments->setCurrentCell(0, 0);
+    QTest::mouseClick(dialog.btnDelete, Qt::LeftButton);
+    ASSERT_EQ(dialog.payments().size(), 1);
+    EXPECT_EQ(dialog.payments().first().kind, SalePayment::Cash);
+}
+
+TEST(frmSalePaymentTest, RunsModallyAndCancelKeepsNothing) {
+    RecordingMessageService messages;
+    frmSalePayment dialog(paymentAccounts(), messages);
+    dialog.DocSum(30000);
+    dialog.FillTextValue();
+    {
+        DialogDriver driver(QStringLiteral("frmSalePayment"), [](QWidget* w) {
+            auto* d = static_cast<frmSalePayment*>(w);
+            QTest::mouseClick(d->btnAdd, Qt::LeftButton);
+            d->buttons->button(QDialogButtonBox::Ok)->click();
+        });
+        EXPECT_EQ(dialog.exec(), QDialog::Accepted);
+    }
+    EXPECT_DOUBLE_EQ(dialog.payments().first().amount, 30000);
+
+    frmSalePayment second(paymentAccounts(), messages);
+    second.DocSum(30000);
+    {
+        DialogDriver driver(QStringLiteral("frmSalePayment"),
+                            [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); });
+        EXPECT_EQ(second.exec(), QDialog::Rejected);
+    }
+    EXPECT_TRUE(second.payments().isEmpty());
+}
+
+}  // namespace
+}  // namespace sandogh::test

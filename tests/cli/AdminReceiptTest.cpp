@@ -5,32 +5,20 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
-#include "AdminProcess.h"
+#include "AdminShopTest.h"
 #include "data/Database.h"
-#include "support/BackendTest.h"
 
 namespace sandogh {
 namespace {
 
-class AdminReceiptTest : public test::BackendTest {
+class AdminReceiptTest : public AdminShopTest {
 protected:
     void SetUp() override {
-        BackendTest::SetUp();
+        AdminShopTest::SetUp();
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        ASSERT_TRUE(settings.isValid());
-        qputenv("SANDOGH_SETTINGS", settings.path().toUtf8());
-        QFile provider(QDir(dir()).filePath(QStringLiteral("Provider.txt")));
-        ASSERT_TRUE(provider.open(QIODevice::WriteOnly));
-        provider.write(testDatabase().providerText().toUtf8());
-        provider.close();
-        const AdminProcess::Result init =
-            AdminProcess::run({QStringLiteral("init-db"), QStringLiteral("--dir"), dir()});
-        ASSERT_EQ(init.exitCode, 0) << init.err.toStdString();
-
         Session s = db().session();
         ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Company (Company_Name) VALUES (:n)"),
                            {{QStringLiteral(":n"), QStringLiteral("فروشگاه نمونه")}}));
@@ -44,19 +32,9 @@ protected:
             s.exec(QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, Fee, "
                                   "Price) VALUES (5, '1001', 2, 12500, 25000)")));
     }
-    void TearDown() override {
-        qunsetenv("SANDOGH_SETTINGS");
-        BackendTest::TearDown();
+    AdminProcess::Result receipt(const QStringList& words) {
+        return runCommand(QStringLiteral("receipt"), words);
     }
-    QString dir() { return testDatabase().programDir(); }
-    AdminProcess::Result receipt(QStringList words) {
-        words.prepend(dir());
-        words.prepend(QStringLiteral("--dir"));
-        words.prepend(QStringLiteral("receipt"));
-        return AdminProcess::run(words);
-    }
-
-    QTemporaryDir settings;
 };
 
 TEST_P(AdminReceiptTest, PrintsTheCompanionCommandOrWritesThePdf) {

@@ -5,11 +5,9 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
-#include "AdminProcess.h"
+#include "AdminShopTest.h"
 #include "data/Database.h"
-#include "support/BackendTest.h"
 
 namespace sandogh {
 namespace {
@@ -17,23 +15,13 @@ namespace {
 const QString kQuantityFirst =
     QStringLiteral("لطفاً ابتدا بارکد مورد نظر خود را وارد کرده سپس تعداد آن را مشخص نماييد");
 
-class AdminSellTest : public test::BackendTest {
+class AdminSellTest : public AdminShopTest {
 protected:
     void SetUp() override {
-        BackendTest::SetUp();
+        AdminShopTest::SetUp();
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        ASSERT_TRUE(settings.isValid());
-        qputenv("SANDOGH_SETTINGS", settings.path().toUtf8());
-        QFile provider(QDir(dir()).filePath(QStringLiteral("Provider.txt")));
-        ASSERT_TRUE(provider.open(QIODevice::WriteOnly));
-        provider.write(testDatabase().providerText().toUtf8());
-        provider.close();
-        const AdminProcess::Result init =
-            AdminProcess::run({QStringLiteral("init-db"), QStringLiteral("--dir"), dir()});
-        ASSERT_EQ(init.exitCode, 0) << init.err.toStdString();
-
         Session s = db().session();
         ASSERT_TRUE(s.exec(QStringLiteral(
             "INSERT INTO Goods (EAN_Code, Spec_Code, Name, Cost, Cost2, TaxValue) VALUES "
@@ -43,24 +31,14 @@ protected:
             s.exec(QStringLiteral("INSERT INTO ItemLock (Ean_Code, Qty, IsLock) "
                                   "VALUES ('1001', 4, 1)")));
     }
-    void TearDown() override {
-        qunsetenv("SANDOGH_SETTINGS");
-        BackendTest::TearDown();
-    }
-    QString dir() { return testDatabase().programDir(); }
-    AdminProcess::Result sell(QStringList words) {
-        words.prepend(dir());
-        words.prepend(QStringLiteral("--dir"));
-        words.prepend(QStringLiteral("sell"));
-        return AdminProcess::run(words);
+    AdminProcess::Result sell(const QStringList& words) {
+        return runCommand(QStringLiteral("sell"), words);
     }
     void setting(const char* section, const char* key, const char* value) {
         QFile ini(QDir(settings.path()).filePath(QStringLiteral("Retail.ini")));
         ASSERT_TRUE(ini.open(QIODevice::Append));
         ini.write(QByteArray("[") + section + "]\n" + key + "=" + value + "\n");
     }
-
-    QTemporaryDir settings;
 };
 
 TEST_P(AdminSellTest, ADryRunPrintsTheLinesAndTheTotal) {

@@ -2,9 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDate>
-#include <chrono>
 
-#include "common/JalaliCalendar.h"
+#include "app/JalaliDay.h"
 #include "data/ConnectionFile.h"
 #include "data/ConnectionSettings.h"
 #include "data/schema/Migrator.h"
@@ -17,15 +16,6 @@ namespace {
 // The start-up's message for a connection file that cannot be read, whatever the reason.
 const QString kMissingConnectionFile =
     QStringLiteral("فايل Provider.txt در مسير برنامه موجود نيست!");
-
-QString todayJalaliText() {
-    using namespace std::chrono;
-    const QDate today = QDate::currentDate();
-    const DaySerial serial = PlatformDate::fromDate(
-        year_month_day{year{today.year()}, month{static_cast<unsigned>(today.month())},
-                       day{static_cast<unsigned>(today.day())}});
-    return QString::fromStdString(JalaliCalendar::toJalaliText(serial));
-}
 
 }  // namespace
 
@@ -40,7 +30,7 @@ AdminShop::AdminShop(const QString& programDir, QTextStream& err)
 
 bool AdminShop::open(const QString& commandName) {
     m_log = std::make_unique<ErrorLog>(
-        m_programDir, &m_messages, m_clock, todayJalaliText(),
+        m_programDir, &m_messages, m_clock, JalaliDay::dateText(QDate::currentDate()),
         QStringLiteral("sandogh-admin ") + QCoreApplication::applicationVersion());
     ConnectionFile file(m_programDir, m_log.get());
     if (!file.LoadPrimary(m_settings.fiscalYearDatabase().trimmed())) {

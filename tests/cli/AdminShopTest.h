@@ -1,0 +1,50 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "AdminProcess.h"
+#include "support/BackendTest.h"
+
+namespace sandogh {
+
+// A program folder whose Provider.txt names the test database, prepared by
+// sandogh-admin init-db, with this machine's settings in a temporary folder.
+class AdminShopTest : public test::BackendTest {
+protected:
+    void SetUp() override {
+        BackendTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        ASSERT_TRUE(settings.isValid());
+        qputenv("SANDOGH_SETTINGS", settings.path().toUtf8());
+        QFile provider(QDir(dir()).filePath(QStringLiteral("Provider.txt")));
+        ASSERT_TRUE(provider.open(QIODevice::WriteOnly));
+        provider.write(testDatabase().providerText().toUtf8());
+        provider.close();
+        const AdminProcess::Result init =
+            AdminProcess::run({QStringLiteral("init-db"), QStringLiteral("--dir"), dir()});
+        ASSERT_EQ(init.exitCode, 0) << init.err.toStdString();
+    }
+    void TearDown() override {
+        qunsetenv("SANDOGH_SETTINGS");
+        BackendTest::TearDown();
+    }
+    QString dir() { return testDatabase().programDir(); }
+
+    // sandogh-admin COMMAND --dir DIR WORDS...
+    AdminProcess::Result runCommand(const QString& command, QStringList words) {
+        words.prepend(dir());
+        words.prepend(QStringLiteral("--dir"));
+        words.prepend(command);
+        return AdminProcess::run(words);
+    }
+
+    QTemporaryDir settings;
+};
+
+}  // namespace sandogh

@@ -10,6 +10,8 @@ int runInitDb(AdminCall& call);
 int runDemo(AdminCall& call);
 int runSell(AdminCall& call);
 int runReceipt(AdminCall& call);
+int runReport(AdminCall& call);
+int runStockRepair(AdminCall& call);
 
 const QList<AdminCommand>& adminCommands() {
     static const QList<AdminCommand> commands = {
@@ -25,6 +27,10 @@ const QList<AdminCommand>& adminCommands() {
         {"sell", "sell [--customer N] [--return] --dry-run ENTRY...  ring up a sale", runSell},
         {"receipt", "receipt CODE [--pdf FILE]  the receipt of a saved sale (command or PDF)",
          runReceipt},
+        {"report", "report daily [YYYY/MM/DD]   the day's sales and returns summary", runReport},
+        {"stock-repair",
+         "stock-repair [BARCODE ...]  recompute the stock of articles (all without)",
+         runStockRepair},
     };
     return commands;
 }

@@ -39,6 +39,8 @@ constexpr double kSmallestScale = 0.66;
 constexpr double kLargestScale = 1.3;
 constexpr double kMillimetresPerInch = 25.4;
 constexpr double kA4MarginMm = 12;
+// The white on each side of a raster image, as a part of its width.
+constexpr int kImagePaddingPart = 48;
 constexpr double kRollMarginMm = 4;
 
 QString persian(const QString& text) {
@@ -269,17 +271,20 @@ double ReceiptPainter::run(QPainter* painter, QPaintDevice* device) const {
 }
 
 QImage ReceiptPainter::image(const ReceiptData& receipt, int width) {
-    const ReceiptPainter layout(receipt, width);
+    // A few dots of white on each side, so that nothing is printed at the very edge.
+    const int pad = std::max(2, width / kImagePaddingPart);
+    const ReceiptPainter layout(receipt, width - 2 * pad);
     QImage probe(1, 1, QImage::Format_RGB32);
     const int dotsPerMeter = static_cast<int>(std::lround(kDotsPerInch / 0.0254));
     probe.setDotsPerMeterX(dotsPerMeter);
     probe.setDotsPerMeterY(dotsPerMeter);
-    const int height = static_cast<int>(layout.height(&probe));
+    const int height = static_cast<int>(layout.height(&probe)) + 2 * pad;
     QImage image(width, std::max(1, height), QImage::Format_RGB32);
     image.setDotsPerMeterX(dotsPerMeter);
     image.setDotsPerMeterY(dotsPerMeter);
     image.fill(Qt::white);
     QPainter painter(&image);
+    painter.translate(pad, pad);
     layout.paint(painter);
     painter.end();
     return image;

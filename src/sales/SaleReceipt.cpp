@@ -95,6 +95,20 @@ bool SaleReceipt::writePdf(qint64 code, const QString& path, const ReceiptOption
     return ReceiptPainter::writePdf(receipt, path, options.a4);
 }
 
+QImage SaleReceipt::rasterImage(qint64 code, int dots, const ReceiptOptions& options) {
+    ReceiptData receipt;
+    if (!readReceipt(m_database, m_messages, m_settings.fishIsRial(), code, options, receipt)) {
+        return {};
+    }
+    const int width = dots > 0 ? dots : dotsWidth();
+    return EscPosRaster::toMono(ReceiptPainter::image(receipt, width), width);
+}
+
+int SaleReceipt::dotsWidth() const {
+    const int dots = m_settings.receiptDotsWidth();
+    return dots > 0 ? dots : EscPosRaster::kWideDots;
+}
+
 QString SaleReceipt::pdfFolder() const {
     const QString folder = m_settings.receiptPdfFolder().trimmed();
     if (!folder.isEmpty()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QString>
 
 #include "sales/ReceiptOptions.h"
@@ -43,6 +44,10 @@ public:
     // or the file cannot be written.
     bool writePdf(qint64 code, const QString& path, const ReceiptOptions& options = {});
 
+    // The receipt as the ESC/POS printer prints it: 1-bit, dots wide (0: the setting).
+    // A null image when the sale cannot be read.
+    QImage rasterImage(qint64 code, int dots = 0, const ReceiptOptions& options = {});
+
     // The file the last receipt with the PDF output went to.
     QString lastPdfPath() const { return m_lastPdfPath; }
 
@@ -53,6 +58,7 @@ public:
 private:
     bool output(const ReceiptData& receipt, const ReceiptOptions& options);
     bool sendEscPos(const ReceiptData& receipt);
+    int dotsWidth() const;
 
     Database& m_database;
     const MachineSettings& m_settings;

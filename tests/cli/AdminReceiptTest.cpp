@@ -51,6 +51,17 @@ TEST_P(AdminReceiptTest, PrintsTheCompanionCommandOrWritesThePdf) {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.read(5) == "%PDF-");
     EXPECT_GT(file.size(), 1000);
+
+    // The ESC/POS printer's picture, 384 dots wide (IHDR width, big-endian).
+    const QString png = QDir(dir()).filePath(QStringLiteral("r.png"));
+    const AdminProcess::Result i = receipt({QStringLiteral("5"), QStringLiteral("--png"), png,
+                                            QStringLiteral("--dots"), QStringLiteral("384")});
+    ASSERT_EQ(i.exitCode, 0) << i.err.toStdString();
+    QFile image(png);
+    ASSERT_TRUE(image.open(QIODevice::ReadOnly));
+    const QByteArray head = image.read(24);
+    EXPECT_TRUE(head.startsWith("\x89PNG"));
+    EXPECT_EQ(head.mid(16, 4), QByteArray("\0\0\x01\x80", 4));
 }
 
 TEST_P(AdminReceiptTest, AMissingDocumentOrABadKeyPrintsNothing) {

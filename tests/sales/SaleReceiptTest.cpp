@@ -323,8 +323,11 @@ TEST(ReceiptLayoutOnPaper, EveryAmountEndsAtTheSameColumnEdgeOnBothPapers) {
         const auto ink = [&](int x, int y) { return qGray(image.pixel(x, y)) < 128; };
         // Text rows of the amount column: ink in its quarter, none in the gap beside it
         // (the rules cross the gap). Each band of such rows is one amount.
-        const int gapFrom = static_cast<int>(width * 0.245);
-        const int gapTo = static_cast<int>(width * 0.255);
+        // The image keeps a 48th of its width white on each side.
+        const int pad = width / 48;
+        const double inner = width - 2 * pad;
+        const int gapFrom = static_cast<int>(pad + inner * 0.245);
+        const int gapTo = static_cast<int>(pad + inner * 0.255);
         QList<int> edges;
         int bandEdge = -1;
         for (int y = 0; y < image.height(); ++y) {

@@ -11,9 +11,11 @@ namespace sandogh {
 namespace {
 
 const char* const kUsage =
-    "usage: sandogh-admin receipt CODE [--dir D] [--pdf FILE] [--a4] [--reprint]\n"
+    "usage: sandogh-admin receipt CODE [--dir D] [--pdf FILE | --png FILE [--dots N]] [--a4]\n"
+    "                              [--reprint]\n"
     "Prints the companion program's receipt command of the saved sale with this document\n"
-    "key (Whs_QTYDocH.Code); with --pdf writes its receipt as a PDF file instead.\n";
+    "key (Whs_QTYDocH.Code); with --pdf writes its receipt as a PDF file instead, with --png\n"
+    "the 1-bit image an ESC/POS receipt printer gets (N dots wide: 576 or 384).\n";
 
 // Nothing is started from here: the command is printed.
 class NoLauncher final : public ProgramLauncher {
@@ -33,7 +35,8 @@ int usage(AdminCall& call, const QString& problem) {
 // sandogh-admin receipt CODE: the receipt of a saved sale, as the companion program would
 // get it or as a PDF laid out here.
 int runReceipt(AdminCall& call) {
-    const AdminArgs args(call.args, {QStringLiteral("pdf")},
+    const AdminArgs args(call.args,
+                         {QStringLiteral("pdf"), QStringLiteral("png"), QStringLiteral("dots")},
                          {QStringLiteral("a4"), QStringLiteral("reprint")});
     if (!args.ok()) {
         return usage(call, args.error());
@@ -46,8 +49,14 @@ int runReceipt(AdminCall& call) {
     if (!ok || code <= 0) {
         return usage(call, QStringLiteral("the document key is a positive whole number"));
     }
-    if (args.has(QStringLiteral("pdf")) && args.value(QStringLiteral("pdf")).isEmpty()) {
-        return usage(call, QStringLiteral("--pdf needs a file name"));
+    for (const QString& option : {QStringLiteral("pdf"), QStringLiteral("png")}) {
+        if (args.has(option) && args.value(option).isEmpty()) {
+            return usage(call, QStringLiteral("--%1 needs a file name").arg(option));
+        }
+    }
+    const int dots = args.value(QStringLiteral("dots"), QStringLiteral("0")).toInt(&ok);
+    if (!ok || dots < 0) {
+        return usage(call, QStringLiteral("--dots needs a number of dots"));
     }
 
     AdminShop shop(call.programDir, call.err);
@@ -66,6 +75,16 @@ int runReceipt(AdminCall& call) {
         const QString path = args.value(QStringLiteral("pdf"));
         if (!receipt.writePdf(code, path, options)) {
             call.err << "sandogh-admin receipt: no PDF written to " << path << '\n';
+            return ExitFailed;
+        }
+        call.out << path << '\n';
+        return ExitOk;
+    }
+    if (args.has(QStringLiteral("png"))) {
+        const QString path = args.value(QStringLiteral("png"));
+        const QImage image = receipt.rasterImage(code, dots, options);
+        if (image.isNull() || !image.save(path, "PNG")) {
+            call.err << "sandogh-admin receipt: no image written to " << path << '\n';
             return ExitFailed;
         }
         call.out << path << '\n';

@@ -3,12 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include "AdminProcess.h"
+#include "AdminShopTest.h"
 #include "data/Database.h"
 #include "data/SqlQuery.h"
 #include "support/BackendTest.h"
@@ -16,22 +14,13 @@
 namespace sandogh {
 namespace {
 
-class AdminSellSaveTest : public test::BackendTest {
+class AdminSellSaveTest : public AdminShopTest {
 protected:
     void SetUp() override {
-        BackendTest::SetUp();
+        AdminShopTest::SetUp();
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        ASSERT_TRUE(settings.isValid());
-        qputenv("SANDOGH_SETTINGS", settings.path().toUtf8());
-        QFile provider(QDir(dir()).filePath(QStringLiteral("Provider.txt")));
-        ASSERT_TRUE(provider.open(QIODevice::WriteOnly));
-        provider.write(testDatabase().providerText().toUtf8());
-        provider.close();
-        const AdminProcess::Result init =
-            AdminProcess::run({QStringLiteral("init-db"), QStringLiteral("--dir"), dir()});
-        ASSERT_EQ(init.exitCode, 0) << init.err.toStdString();
         Session s = db().session();
         for (const char* sql : {
                  "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES "
@@ -44,11 +33,6 @@ protected:
             ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
         }
     }
-    void TearDown() override {
-        qunsetenv("SANDOGH_SETTINGS");
-        BackendTest::TearDown();
-    }
-    QString dir() { return testDatabase().programDir(); }
     QStringList words(QStringList rest, const char* station = "1") {
         return QStringList{QStringLiteral("sell"),
                            QStringLiteral("--dir"),
@@ -63,8 +47,6 @@ protected:
         Session s = db().session();
         return s.scalarInt64(sql, {}, -1);
     }
-
-    QTemporaryDir settings;
 };
 
 TEST_P(AdminSellSaveTest, SavingPrintsTheKeyNumberAndTotal) {

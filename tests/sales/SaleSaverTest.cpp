@@ -329,6 +329,39 @@ TEST_P(SaleSaverTest, AClosedPreInvoiceAndTheActiveShiftAreStamped) {
     EXPECT_EQ(count("tblPreFactorH", QStringLiteral("Code = 12 AND IsTrenchant = 1")), 1);
 }
 
+// The central database is another database of the server; on PostgreSQL a schema that
+// the test can make, while SQLite attaches such files only when a connection opens.
+TEST_P(SaleSaverTest, TheCardMovementIsCopiedToTheCentralDatabaseAfterTheCommit) {
+    if (backend() != Backend::PostgreSQL) {
+        GTEST_SKIP() << "the central database is made here on PostgreSQL only";
+    }
+    {
+        Session s = db().session();
+        ASSERT_TRUE(s.exec(s.dialect().createOtherDatabase(QStringLiteral("Center"))));
+        ASSERT_TRUE(
+            s.exec(QStringLiteral("CREATE TABLE ") +
+                   s.dialect().table(QStringLiteral("GiftCardItem"), QStringLiteral("Center")) +
+                   QStringLiteral(" (ID INTEGER, GiftCardID INTEGER, Date VARCHAR(10), "
+                                  "Time VARCHAR(8), Amount DOUBLE PRECISION, UserID "
+                                  "INTEGER, CustomerID INTEGER, DocHCode BIGINT)")));
+    }
+    setOption("LinkedServer", "Database", QStringLiteral("Center"));
+    setFlag("LinkedServer", "ActiveLinkedSystem", true);
+    exec(QStringLiteral("INSERT INTO tblGiftCard (CardID, Amount) VALUES (777, 50000)"));
+    settlement.giftCardId = 777;
+    settlement.giftCardAmount = 20000;
+    const SaleSaveResult r = saver->save(sale(), settlement);
+    ASSERT_TRUE(r.saved);
+    Session s = db().session();
+    EXPECT_EQ(s.scalarInt64(
+                  QStringLiteral("SELECT COUNT(*) FROM ") +
+                      s.dialect().table(QStringLiteral("GiftCardItem"), QStringLiteral("Center")) +
+                      QStringLiteral(" WHERE ID = :id AND DocHCode = :code AND Amount = "
+                                     "20000"),
+                  {{QStringLiteral(":id"), r.giftCardItemId}, {QStringLiteral(":code"), r.code}}),
+              1);
+}
+
 SANDOGH_INSTANTIATE_BACKENDS(SaleSaverTest);
 
 }  // namespace

@@ -66,7 +66,7 @@ TEST_F(frmMainTest, EachRoleSeesOnlyItsCommands) {
         {"mnuSetUp", false},     {"mnuScale", false},       {"mnuGoodsList", false},
         {"mnuCustomers", false}, {"mnuSuppliers", false},   {"mnuCustomerGroups", false},
         {"mnuUnits", false},     {"mnuGoodsLevels", false}, {"mnuAccountLevels", false},
-        {"mnuOpenCash", true},   {"mnuExit", true},
+        {"mnuOpenCash", true},   {"mnuExit", true},         {"mnuShift", true},
     };
     auto cashier = openWindow(PermissionLevel::Cashier);
     auto administrator = openWindow(PermissionLevel::Administrator);

@@ -8,6 +8,7 @@
 #include "ui/catalog/frmParameters.h"
 #include "ui/parties/frmCustomerGroup.h"
 #include "ui/parties/frmParties.h"
+#include "ui/sales/frmShift.h"
 #include "ui/settings/frmSetUp.h"
 
 namespace sandogh {
@@ -77,6 +78,10 @@ QList<MainMenuCommand> MainMenuCommands::all() {
         {QStringLiteral("mnuOpenCash"), QStringLiteral("باز کردن کشوی پول"), MainMenu::Sales,
          Permission::OpenDrawer, [](frmMain& main) { main.mnuOpenCash_Click(); },
          QKeySequence(Qt::CTRL | Qt::Key_K)},
+        {QStringLiteral("mnuShift"), QStringLiteral("شیفت صندوق"), MainMenu::Sales,
+         Permission::Shift,
+         child(QStringLiteral("frmShift"),
+               [](AppContext& c) { return new frmShift(c.database(), c.messages()); })},
         {QStringLiteral("mnuGoodsList"), QStringLiteral("فهرست کالاها"), MainMenu::Goods,
          Permission::Goods,
          child(QStringLiteral("frmGoodsList"),

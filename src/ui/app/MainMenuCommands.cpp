@@ -8,6 +8,7 @@
 #include "ui/catalog/frmParameters.h"
 #include "ui/parties/frmCustomerGroup.h"
 #include "ui/parties/frmParties.h"
+#include "ui/sales/SaleDesk.h"
 #include "ui/sales/frmShift.h"
 #include "ui/settings/frmSetUp.h"
 
@@ -75,6 +76,8 @@ QList<MainMenuCommand> MainMenuCommands::all() {
         {QStringLiteral("mnuExit"), QStringLiteral("خروج"), MainMenu::System,
          Permission::LeaveProgram, [](frmMain& main) { main.ExitApplication(); },
          QKeySequence(Qt::ALT | Qt::Key_F4)},
+        {QStringLiteral("mnuSale"), QStringLiteral("فاکتور فروش"), MainMenu::Sales,
+         Permission::Sale, [](frmMain& main) { SaleDesk::open(main); }},
         {QStringLiteral("mnuOpenCash"), QStringLiteral("باز کردن کشوی پول"), MainMenu::Sales,
          Permission::OpenDrawer, [](frmMain& main) { main.mnuOpenCash_Click(); },
          QKeySequence(Qt::CTRL | Qt::Key_K)},

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "ui/sales/SaleCustomerPanel.h"
@@ -52,6 +54,10 @@ QHBoxLayout* topBar(frmSale& s) {
     bar->addSpacing(16);
     bar->addWidget(s.lblDailyReceived);
     bar->addStretch(1);
+    bar->addWidget(s.lblPrevFactor);
+    bar->addSpacing(8);
+    bar->addWidget(s.lblPrevPrice);
+    bar->addSpacing(16);
     bar->addWidget(s.btnGoodDefinition);
     bar->addWidget(s.cmdNewSaleForm);
     bar->addWidget(s.btnDetail);
@@ -127,13 +133,31 @@ void SaleScreenLayout::arrange(frmSale& s) {
     auto* side = new QWidget(&s);
     side->setObjectName(QStringLiteral("fraSide"));
     side->setLayout(sideColumn(s));
-    side->setFixedWidth(kSideColumnWidth);
     side->layout()->setContentsMargins(0, 0, 0, 0);
+    // On a low screen the open detail panel would squeeze the customer and detail fields
+    // past reading; the column scrolls instead.
+    auto* sideScroll = new QScrollArea(&s);
+    sideScroll->setObjectName(QStringLiteral("scrSide"));
+    sideScroll->setWidget(side);
+    sideScroll->setWidgetResizable(true);
+    sideScroll->setFrameShape(QFrame::NoFrame);
+    sideScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    sideScroll->setFixedWidth(kSideColumnWidth +
+                              s.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    // Queued: the panel is shown by the same toggle, after this layout is made.
+    QObject::connect(
+        s.btnDetail, &QPushButton::toggled, sideScroll,
+        [sideScroll, &s](bool on) {
+            if (on) {
+                sideScroll->ensureWidgetVisible(s.frmDetail);
+            }
+        },
+        Qt::QueuedConnection);
 
     // The goods name takes what the side column leaves.
     auto* body = new QHBoxLayout;
     body->addWidget(s.Grid1, 1);
-    body->addWidget(side);
+    body->addWidget(sideScroll);
 
     auto* page = new QVBoxLayout(&s);
     page->setContentsMargins(8, 6, 8, 6);

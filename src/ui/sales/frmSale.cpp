@@ -106,6 +106,10 @@ void frmSale::buildControls() {
     lblDailyReceived = new QLabel(this);
     lblDailyReceived->setObjectName(QStringLiteral("lblDailyReceived"));
     lblDailyReceived->hide();
+    lblPrevFactor = new QLabel(this);
+    lblPrevFactor->setObjectName(QStringLiteral("lblPrevFactor"));
+    lblPrevPrice = new QLabel(this);
+    lblPrevPrice->setObjectName(QStringLiteral("lblPrevPrice"));
 
     m_customer = new SaleCustomerPanel(*m_sale, m_database, m_messages, this);
     m_totals = new SaleTotalsPanel(this);
@@ -465,6 +469,12 @@ bool frmSale::showDailyTotals() {
     lblDailySale->setText(DailyTotals::salesLabel(figures));
     lblDailyReceived->setText(DailyTotals::receivedLabel(figures));
     return figures.ok;
+}
+
+void frmSale::showPreviousInvoice(const QString& docNo, double received) {
+    lblPrevFactor->setText(QStringLiteral("فاکتور قبلی: ") + docNo);
+    lblPrevPrice->setText(QStringLiteral("مبلغ: ") +
+                          QString::fromStdString(AmountText::formatWhole(received)));
 }
 
 void frmSale::focusBarcode() {

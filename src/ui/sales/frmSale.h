@@ -77,6 +77,8 @@ public:
     void runCommand(const SaleKeyBinding& binding);
     // The day's totals of this desk in the labels (DisplayDailySale); false when off.
     bool showDailyTotals();
+    // The desk's previous invoice beside the number: its number and the amount received.
+    void showPreviousInvoice(const QString& docNo, double received);
 
     QLabel* lblCaption;
     QLineEdit* txtBarcode;
@@ -84,6 +86,8 @@ public:
     QLineEdit* txtNo;
     QLabel* lblDailySale;
     QLabel* lblDailyReceived;
+    QLabel* lblPrevFactor;
+    QLabel* lblPrevPrice;
     SaleDetailPanel* frmDetail;
     QPushButton* btnDetail;
     QPushButton* btnBarcodeSearch;

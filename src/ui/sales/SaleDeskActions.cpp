@@ -1,0 +1,150 @@
+#include "ui/sales/SaleDeskActions.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <algorithm>
+
+#include "common/AmountText.h"
+#include "data/MessageService.h"
+#include "devices/PecTerminal.h"
+#include "sales/GiftCardService.h"
+#include "sales/SaleSaver.h"
+#include "sales/SaleSession.h"
+#include "sales/TerminalHandOffs.h"
+#include "ui/sales/SaleDetailPanel.h"
+#include "ui/sales/SaleTotalsPanel.h"
+#include "ui/sales/frmSale.h"
+#include "ui/widgets/AmountEdit.h"
+
+namespace sandogh {
+
+namespace {
+
+std::optional<int> chosenCode(const QComboBox* combo) {
+    const QVariant code = combo->currentData();
+    if (!code.isValid() || code.isNull()) {
+        return std::nullopt;
+    }
+    return code.toInt();
+}
+
+}  // namespace
+
+SaleDeskActions::SaleDeskActions(frmSale& screen, MessageService& messages, QObject* parent)
+    : QObject(parent), m_screen(screen), m_messages(messages) {}
+
+QString SaleDeskActions::notAvailableText() {
+    return QStringLiteral(
+        "این کار هنوز در این صندوق راه‌اندازی نشده است.");
+}
+
+QString SaleDeskActions::companionMissingText() {
+    return QStringLiteral("برنامه حسابداری همراه پیدا نشد؛ پرداخت با این پایانه ممکن نیست.");
+}
+
+QString SaleDeskActions::payableText() const {
+    const QString payable = m_screen.totalsPanel()->txtSumReceived->text().trimmed();
+    if (AmountText::parse(payable.toStdString()) > 0) {
+        return payable;
+    }
+    return m_screen.session().totalText();
+}
+
+SaleSettlement SaleDeskActions::settlementOnScreen() const {
+    SaleSettlement s;
+    s.docNo = m_screen.txtNo->text().trimmed();
+    const SaleTotalsPanel& totals = *m_screen.totalsPanel();
+    s.discount = totals.txtDiscount->value();
+    s.discountPercent = totals.txtDiscountPercent->value();
+    s.overhead = totals.txtOther->value();
+    s.discountTypeId = chosenCode(totals.cmbDiscountType);
+    s.overheadId = chosenCode(totals.cmbOverhead);
+    s.payable = m_screen.session().total() - s.discount + s.overhead;
+    s.handedOver = totals.txtReceivedPrice->value();
+    if (totals.txtSumReceived->value() > 0) {
+        s.received = totals.txtSumReceived->value();
+    }
+    const SaleDetailPanel& detail = *m_screen.detailPanel();
+    s.payType = chosenCode(detail.cmbPayType);
+    s.returnCauseId = chosenCode(detail.cmbReturnCause);
+    s.note = detail.txtNote->text().trimmed();
+    if (m_card && m_card->accepted) {
+        s.giftCardId = m_card->cardNumber;
+        s.giftCardAmount = std::min(m_card->balance, s.payable);
+    }
+    s.printReceipt = m_screen.chkPrint->isChecked();
+    return s;
+}
+
+bool SaleDeskActions::save() {
+    if (m_saver == nullptr) {
+        m_messages.show(notAvailableText(), MessageStyle::Information);
+        return false;
+    }
+    SaleSettlement settlement = settlementOnScreen();
+    m_lastSave = m_saver->save(m_screen.session(), settlement);
+    if (!m_lastSave.saved) {
+        // A number taken by another desk meanwhile has been replaced: show the new one.
+        m_screen.txtNo->setText(settlement.docNo);
+        return false;
+    }
+    m_card.reset();
+    m_screen.session().newSale();
+    showNewDocument();
+    return true;
+}
+
+void SaleDeskActions::showNewDocument() {
+    if (m_saver == nullptr) {
+        return;
+    }
+    m_screen.txtNo->setText(m_saver->nextDocNo(m_screen.session()));
+    const PreviousInvoice previous = m_saver->previousInvoice(m_screen.session().station());
+    m_screen.showPreviousInvoice(previous.docNo, previous.received);
+}
+
+bool SaleDeskActions::paymentType() {
+    m_messages.show(notAvailableText(), MessageStyle::Information);
+    return false;
+}
+
+bool SaleDeskActions::pecPayment() {
+    if (m_pec == nullptr || m_screen.session().isEmpty()) {
+        return false;
+    }
+    // Sent and left: the answer arrives on the port and is shown or recorded there, so
+    // the cashier can go on meanwhile. A port that cannot be opened says nothing.
+    return m_pec->sendPaymentRequest(payableText(), m_screen.txtNo->text().trimmed());
+}
+
+void SaleDeskActions::terminalHandOff(const QString& command) {
+    if (m_handOffs == nullptr || m_screen.session().isEmpty()) {
+        return;
+    }
+    if (!m_handOffs->payOn(command, AmountText::parse(payableText().toStdString()))) {
+        m_messages.show(companionMissingText(), MessageStyle::Information);
+    }
+}
+
+void SaleDeskActions::openDrawer() {
+    if (m_openDrawer) {
+        m_openDrawer();
+    }
+}
+
+bool SaleDeskActions::cardLookup(qint64 cardNumber) {
+    if (m_cards == nullptr) {
+        m_messages.show(notAvailableText(), MessageStyle::Information);
+        return false;
+    }
+    const SaleSession& sale = m_screen.session();
+    GiftCardResult card = m_cards->lookUp(cardNumber, sale.total(), sale.todayJalali());
+    if (!card.accepted) {
+        return false;
+    }
+    m_card = std::move(card);
+    return true;
+}
+
+}  // namespace sandogh

@@ -1,0 +1,383 @@
+// The sale screen as the program opens it: from the main window's menu on the demo shop,
+// with this desk's drawer, card terminal (over a pseudo-terminal), companion program and
+// customer display behind it.
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QTest>
+
+#include "PtyPair.h"
+#include "SaleScreenTest.h"
+#include "ScreenTestContext.h"
+#include "WaitUntil.h"
+#include "app/Permissions.h"
+#include "data/Session.h"
+#include "devices/CashDrawer.h"
+#include "devices/PecRequest.h"
+#include "devices/PecResponse.h"
+#include "devices/PecTerminal.h"
+#include "sales/SaleSession.h"
+#include "settings/SettingKeys.h"
+#include "ui/app/frmMain.h"
+#include "ui/sales/SaleCustomerPanel.h"
+#include "ui/sales/SaleDesk.h"
+#include "ui/sales/SaleDeskActions.h"
+#include "ui/sales/SaleDetailPanel.h"
+#include "ui/sales/SaleTotalsPanel.h"
+#include "ui/sales/frmSale.h"
+#include "ui/widgets/AmountEdit.h"
+
+namespace sandogh {
+namespace {
+
+const QString kBarcode = QStringLiteral("9990001112223");
+
+class SaleDeskTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(app.openShop(true));
+        UserAccount user;
+        user.id = 1;
+        user.userName = QStringLiteral("cashier");
+        app.context.setUser(user);
+        app.context.setStation({1, QStringLiteral("صندوق ۱")});
+        Session s = app.context.database().session();
+        ASSERT_TRUE(
+            s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue, "
+                                  "ISActive, AQIS, Type, GType) VALUES (:b, :n, :c, 0, 0, 1, "
+                                  "0, 0, 0)"),
+                   {{QStringLiteral(":b"), kBarcode},
+                    {QStringLiteral(":n"), QStringLiteral("چای")},
+                    {QStringLiteral(":c"), 125000}}))
+            << s.lastError().text().toStdString();
+    }
+
+    void setOption(const SettingKey& key, const QString& value) {
+        app.context.machineSettings().write(key, value);
+    }
+
+    std::unique_ptr<frmMain> openMain(PermissionLevel level = PermissionLevel::Cashier) {
+        auto window = std::make_unique<frmMain>(app.context);
+        window->Form_Load();
+        window->applyPermissions(Permissions(level));
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        return window;
+    }
+
+    // The sale screen opened through the menu, the focus in its barcode box.
+    frmSale* openSale(frmMain& window) {
+        window.command(QStringLiteral("mnuSale"))->trigger();
+        QMdiSubWindow* active = window.mdiArea()->activeSubWindow();
+        auto* screen = active == nullptr ? nullptr : qobject_cast<frmSale*>(active->widget());
+        EXPECT_NE(screen, nullptr);
+        if (screen != nullptr) {
+            screen->txtBarcode->setFocus();
+        }
+        return screen;
+    }
+
+    static void scan(frmSale& screen, const QString& text) {
+        QTest::keyClicks(screen.txtBarcode, text);
+        QTest::keyClick(screen.txtBarcode, Qt::Key_Return);
+    }
+
+    static int saleScreens(const frmMain& window) {
+        int count = 0;
+        for (QMdiSubWindow* child : window.mdiArea()->subWindowList()) {
+            count += qobject_cast<frmSale*>(child->widget()) != nullptr ? 1 : 0;
+        }
+        return count;
+    }
+
+    test::ScreenTestContext app;
+};
+
+TEST_F(SaleDeskTest, TheMenuOpensOneSaleScreenAndF3Another) {
+    setOption(settingkeys::SalesNewForm, QStringLiteral("1"));
+    auto window = openMain();
+    ASSERT_TRUE(window->command(QStringLiteral("mnuSale"))->isVisible());
+    frmSale* first = openSale(*window);
+    ASSERT_NE(first, nullptr);
+    EXPECT_NE(SaleDesk::of(*first), nullptr);
+    // The menu again brings the open one forward.
+    EXPECT_EQ(openSale(*window), first);
+    EXPECT_EQ(saleScreens(*window), 1);
+
+    QTest::keyClick(first->txtBarcode, Qt::Key_F3);
+    EXPECT_EQ(saleScreens(*window), 2);
+    QTest::keyClick(first->txtBarcode, Qt::Key_F3);
+    EXPECT_EQ(saleScreens(*window), 3);
+
+    // A rung-up line goes to the screen's own sale, not to the others.
+    scan(*first, kBarcode);
+    EXPECT_EQ(first->session().lines().size(), 1);
+    int lines = 0;
+    for (QMdiSubWindow* child : window->mdiArea()->subWindowList()) {
+        if (auto* screen = qobject_cast<frmSale*>(child->widget()); screen != nullptr) {
+            lines += static_cast<int>(screen->session().lines().size());
+        }
+    }
+    EXPECT_EQ(lines, 1);
+}
+
+TEST_F(SaleDeskTest, TheDrawerButtonKicksThroughThePrinter) {
+    setOption(settingkeys::CashDrawerEnable, QStringLiteral("1"));
+    auto window = openMain();
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+    ASSERT_TRUE(screen->btnOpenCash->isVisible());
+    screen->btnOpenCash->click();
+    ASSERT_EQ(app.printer.jobs.size(), 1);
+    EXPECT_EQ(app.printer.jobs.front().first, QString::fromLatin1(CashDrawer::kJobName));
+    EXPECT_EQ(app.printer.jobs.front().second, CashDrawer::kickBytes());
+}
+
+TEST_F(SaleDeskTest, TheOpenDetailPanelKeepsTheSideFieldsReadableOnALowScreen) {
+    auto window = openMain();
+    window->resize(1366, 768);
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+    window->mdiArea()->activeSubWindow()->showMaximized();
+    screen->btnDetail->click();
+    QApplication::processEvents();
+    ASSERT_TRUE(screen->frmDetail->isVisible());
+    for (QWidget* part : {static_cast<QWidget*>(screen->frmDetail),
+                          static_cast<QWidget*>(screen->customerPanel())}) {
+        EXPECT_GE(part->height(), part->minimumSizeHint().height())
+            << part->objectName().toStdString();
+    }
+}
+
+struct HandOffCase {
+    const char* name;
+    Qt::Key key;
+    const char* command;
+    bool companionThere;
+};
+
+class SaleDeskHandOffTest : public SaleDeskTest,
+                            public ::testing::WithParamInterface<HandOffCase> {};
+
+TEST_P(SaleDeskHandOffTest, TheTerminalKeysHandTheAmountPayableToTheCompanion) {
+    const HandOffCase& c = GetParam();
+    if (c.companionThere) {
+        QDir(app.programFolder()).mkpath(QStringLiteral("Program"));
+        QFile exe(app.path(QStringLiteral("Program/KotrimoAcc.exe")));
+        ASSERT_TRUE(exe.open(QIODevice::WriteOnly));
+    }
+    auto window = openMain();
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+
+    // Nothing rung up: nothing handed over.
+    QTest::keyClick(screen->txtBarcode, c.key);
+    EXPECT_TRUE(app.launcher.calls.isEmpty());
+
+    scan(*screen, kBarcode);
+    scan(*screen, QStringLiteral("2"));
+    app.messages.clear();
+    QTest::keyClick(screen->txtBarcode, c.key);
+    if (c.companionThere) {
+        ASSERT_EQ(app.launcher.calls.size(), 1);
+        EXPECT_EQ(app.launcher.calls.front().arguments,
+                  QStringList{QString::fromLatin1(c.command) + QStringLiteral("250000")});
+        EXPECT_EQ(app.messages.count(), 0);
+    } else {
+        EXPECT_TRUE(app.launcher.calls.isEmpty());
+        EXPECT_EQ(app.messages.countOf(SaleDeskActions::companionMissingText()), 1);
+    }
+    // The sale stays as it was, the focus back in the barcode box.
+    EXPECT_EQ(screen->session().lines().size(), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Keys, SaleDeskHandOffTest,
+    ::testing::Values(HandOffCase{"Mellat", Qt::Key_F7, "mnuPosMellat,", true},
+                      HandOffCase{"Saman", Qt::Key_F8, "mnuPosSaman,", true},
+                      HandOffCase{"Pasargad", Qt::Key_F9, "mnuPosPasargad,", true},
+                      HandOffCase{"Kish", Qt::Key_F10, "mnuKishPsp,", true},
+                      HandOffCase{"AsanPardakht", Qt::Key_F11, "mnuAsanPardakhtPsp,", true},
+                      HandOffCase{"Damavand", Qt::Key_F12, "mnuDamavandPsp,", true},
+                      HandOffCase{"CompanionMissing", Qt::Key_F7, "mnuPosMellat,", false}),
+    test::CaseName());
+
+class SaleDeskPecTest : public SaleDeskTest {
+protected:
+    void SetUp() override {
+        SaleDeskTest::SetUp();
+        ASSERT_TRUE(pty.ok());
+        setOption(settingkeys::PecPort, QStringLiteral("4"));
+        setOption(settingkeys::PecDevice, pty.slavePath());
+    }
+
+    int posRows() {
+        Session s = app.context.database().session();
+        return static_cast<int>(
+            s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM tblPOS"), {}, -1));
+    }
+
+    test::PtyPair pty;
+};
+
+TEST_F(SaleDeskPecTest, F5SendsThePayableAndTheScreenGoesOnUntilTheAnswer) {
+    auto window = openMain();
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+    screen->txtNo->setText(QStringLiteral("57"));
+    scan(*screen, kBarcode);
+
+    QTest::keyClick(screen->txtBarcode, Qt::Key_F5);
+    const QByteArray expected = PecRequest::build(QStringLiteral("125,000"), QStringLiteral("57"));
+    EXPECT_EQ(pty.readMaster(expected.size()), expected);
+    PecTerminal& terminal = SaleDesk::of(*screen)->pecTerminal();
+    EXPECT_TRUE(terminal.waiting());
+
+    // Waiting for the customer's card does not hold the cashier up.
+    scan(*screen, kBarcode);
+    EXPECT_DOUBLE_EQ(screen->session().lines().front().quantity, 2);
+
+    QStringList codes;
+    QObject::connect(&terminal, &PecTerminal::answered,
+                     [&codes](const QString& code) { codes << code; });
+    pty.writeMaster("0012RS00200");
+    ASSERT_TRUE(test::waitUntil([&] { return !codes.isEmpty(); }));
+    EXPECT_EQ(codes, QStringList{QStringLiteral("00")});
+    EXPECT_EQ(posRows(), 1);
+    EXPECT_FALSE(terminal.waiting());
+}
+
+TEST_F(SaleDeskPecTest, ARefusalIsShownAndNothingRecorded) {
+    auto window = openMain();
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+    scan(*screen, kBarcode);
+    screen->btnParsianPos->click();
+    const QByteArray expected = PecRequest::build(QStringLiteral("125,000"), screen->txtNo->text());
+    EXPECT_EQ(pty.readMaster(expected.size()), expected);
+
+    PecTerminal& terminal = SaleDesk::of(*screen)->pecTerminal();
+    QStringList codes;
+    QObject::connect(&terminal, &PecTerminal::answered,
+                     [&codes](const QString& code) { codes << code; });
+    app.messages.clear();
+    pty.writeMaster("0012RS00255");
+    ASSERT_TRUE(test::waitUntil([&] { return !codes.isEmpty(); }));
+    EXPECT_EQ(app.messages.countOf(PecResponse::message(QStringLiteral("55"))), 1);
+    EXPECT_EQ(posRows(), 0);
+    EXPECT_EQ(screen->session().lines().size(), 1);
+}
+
+TEST_F(SaleDeskTest, ClosingTheSaleScreenResetsThePriceDisplay) {
+    test::PtyPair display;
+    ASSERT_TRUE(display.ok());
+    setOption(settingkeys::DisplayEnable, QStringLiteral("1"));
+    setOption(settingkeys::DisplayLine, QStringLiteral("3"));
+    setOption(settingkeys::CustomerDisplayDevice, display.slavePath());
+    auto window = openMain();
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+    scan(*screen, kBarcode);
+    const QByteArray total("\x1bQA125000\r");
+    EXPECT_EQ(display.readMaster(total.size()), total);
+
+    // The unsaved sale is given up when asked.
+    app.messages.queueAnswer(true);
+    window->mdiArea()->activeSubWindow()->close();
+    const QByteArray reset("\x1bs1\r");
+    EXPECT_EQ(display.readMaster(reset.size()), reset);
+    EXPECT_EQ(saleScreens(*window), 0);
+}
+
+struct SaveCase {
+    const char* name;
+    bool print;
+    int launches;  // the receipt goes to the companion program
+};
+
+class SaleDeskSaveTest : public SaleDeskTest, public ::testing::WithParamInterface<SaveCase> {
+protected:
+    qint64 count(const QString& sql, const SqlBinds& binds = {}) {
+        Session s = app.context.database().session();
+        return s.scalarInt64(sql, binds, -1);
+    }
+};
+
+TEST_P(SaleDeskSaveTest, ASaleTypedAndSavedLandsInTheShopAndTheScreenStartsAnew) {
+    const SaveCase& c = GetParam();
+    QDir(app.programFolder()).mkpath(QStringLiteral("Program"));
+    QFile exe(app.path(QStringLiteral("Program/KotrimoAcc.exe")));
+    ASSERT_TRUE(exe.open(QIODevice::WriteOnly));
+    auto window = openMain();
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+    const QString number = screen->txtNo->text();
+    ASSERT_FALSE(number.isEmpty());
+
+    scan(*screen, kBarcode);
+    scan(*screen, QStringLiteral("3"));
+    ASSERT_GT(screen->detailPanel()->cmbPayType->count(), 1);
+    screen->detailPanel()->cmbPayType->setCurrentIndex(1);
+    screen->chkPrint->setChecked(c.print);
+    app.messages.clear();
+    QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
+
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE TransType = 2 AND "
+                                   "DocNo = :no AND StationID = 1 AND DocSum = 375000"),
+                    {{QStringLiteral(":no"), number}}),
+              1)
+        << app.messages.count();
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocD D INNER JOIN Whs_QTYDocH H "
+                                   "ON D.Code = H.Code WHERE H.DocNo = :no AND D.EAN_Code = :b "
+                                   "AND D.Qty = 3"),
+                    {{QStringLiteral(":no"), number}, {QStringLiteral(":b"), kBarcode}}),
+              1);
+    EXPECT_EQ(app.launcher.calls.size(), c.launches);
+
+    // Ready for the next customer: a new number, nothing rung up, the last invoice shown.
+    EXPECT_TRUE(screen->session().isEmpty());
+    EXPECT_EQ(screen->txtNo->text(), QString::number(number.toLongLong() + 1));
+    EXPECT_TRUE(screen->lblPrevFactor->text().endsWith(number));
+    EXPECT_TRUE(screen->lblPrevPrice->text().endsWith(QStringLiteral("375,000")));
+    EXPECT_TRUE(screen->totalsPanel()->txtSumReceived->text().isEmpty() ||
+                screen->totalsPanel()->txtSumReceived->value() == 0);
+    EXPECT_TRUE(screen->cmdSave->isEnabled());
+}
+
+INSTANTIATE_TEST_SUITE_P(Receipt, SaleDeskSaveTest,
+                         ::testing::Values(SaveCase{"NoReceipt", false, 0},
+                                           SaveCase{"Receipt", true, 1}),
+                         test::CaseName());
+
+TEST_F(SaleDeskTest, ARefusedSaveKeepsTheSale) {
+    auto window = openMain();
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+    const QString number = screen->txtNo->text();
+    scan(*screen, kBarcode);
+    // No payment kind chosen: refused with the saver's message, nothing written.
+    app.messages.clear();
+    QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
+    EXPECT_GE(app.messages.count(), 1);
+    EXPECT_EQ(screen->session().lines().size(), 1);
+    EXPECT_EQ(screen->txtNo->text(), number);
+    EXPECT_TRUE(screen->cmdSave->isEnabled());
+    Session s = app.context.database().session();
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE DocNo = :no "
+                                           "AND StationID = 1 AND TransType = 2"),
+                            {{QStringLiteral(":no"), number}}, -1),
+              0);
+}
+
+}  // namespace
+}  // namespace sandogh

@@ -20,7 +20,7 @@ SerialPortConfig SerialPortConfig::MSComm1() {
 }
 
 SerialPortConfig SerialPortConfig::MSComm2() {
-    return make(2, "9600,n,8,1");
+    return make(kMSComm2BuiltInPort, "9600,n,8,1");
 }
 
 SerialPortConfig SerialPortConfig::MSCommCustomerDisplay() {

@@ -14,6 +14,10 @@ struct SerialPortConfig {
     int outBufferSize = 512;
     QString devicePath;  // empty: the device follows from commPort
 
+    // MSComm2's built-in COM number. A PortNo.No2 of 0 leaves it standing, so the main
+    // window's status bar still reads " COM:2" then, as cashiers have always seen it.
+    static constexpr int kMSComm2BuiltInPort = 2;
+
     // The built-in defaults of the four port objects of the cash desk.
     static SerialPortConfig MSComm1();                // first general port
     static SerialPortConfig MSComm2();                // second general port, caller ID

@@ -183,6 +183,38 @@ TEST_P(CodeLevelsRepositoryTest, TheProposedBarcodeFollowsTheNewestArticle) {
     }
 }
 
+TEST_P(CodeLevelsRepositoryTest, AFamilyTakesNineOrTenLevelsAndNoMore) {
+    struct Case {
+        Family family;
+        int levels;
+        int last;
+    };
+    const Case cases[] = {
+        {Family::Goods, CodeLevelsRepository::kGoodsLevels, 509},
+        {Family::Accounts, CodeLevelsRepository::kAccountLevels, 210},
+    };
+    CodeLevelsRepository r = repo();
+    for (const Case& c : cases) {
+        for (int i = 0; i < c.levels; ++i) {
+            add(c.family, QStringLiteral("سطح %1").arg(i + 1), 1);
+        }
+        EXPECT_EQ(r.nextTypeNo(c.family), c.last + 1);
+        Level extra;
+        extra.name = QStringLiteral("سطح اضافه");
+        const CheckResult refused = r.save(extra, c.family);
+        EXPECT_FALSE(refused.ok);
+        EXPECT_EQ(refused.message, listmessages::kAllLevelsDefined);
+        // A number typed past the family's last is refused too; nothing was written.
+        extra.typeNo = c.last + 1;
+        EXPECT_FALSE(r.save(extra, c.family).ok);
+        EXPECT_EQ(r.list(c.family).size(), c.levels);
+        // Editing a level of a full family still works.
+        Level first = r.list(c.family).first();
+        first.name = QStringLiteral("گروه اصلي");
+        EXPECT_TRUE(r.save(first, c.family).ok);
+    }
+}
+
 SANDOGH_INSTANTIATE_BACKENDS(CodeLevelsRepositoryTest);
 
 }  // namespace

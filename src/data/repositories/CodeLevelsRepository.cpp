@@ -94,6 +94,14 @@ CheckResult CodeLevelsRepository::save(Level& level, Family family) {
                     {QStringLiteral(":counter"), level.counter}});
         return updated ? CheckResult::passed(kSaved, kNoticeTitle) : CheckResult::failed();
     }
+    const int last = family == Family::Goods ? kLastGoodsLevel : kLastAccountLevel;
+    const int number = level.typeNo > 0 ? level.typeNo : nextTypeNo(family);
+    if (number <= 0) {
+        return CheckResult::failed();
+    }
+    if (number > last) {
+        return CheckResult::refused(kAllLevelsDefined);
+    }
     if (level.parameterLevel <= 0) {
         level.parameterLevel = nextParameterLevel(family);
         if (level.parameterLevel <= 0) {

@@ -30,6 +30,11 @@ public:
     static constexpr int kGoodsLevels = 9;
     static constexpr int kFirstGoodsLevel = 501;
     static constexpr int kFirstAccountLevel = 201;
+    static constexpr int kAccountLevels = 10;
+    // The last number of each family: an article carries nine levels (Goods.LevelID1..9),
+    // an account ten (Acc_Code.LevelID1..10).
+    static constexpr int kLastGoodsLevel = kFirstGoodsLevel + kGoodsLevels - 1;
+    static constexpr int kLastAccountLevel = kFirstAccountLevel + kAccountLevels - 1;
 
     explicit CodeLevelsRepository(Database& database);
 
@@ -47,6 +52,7 @@ public:
     // with the saved notice, or refused when the name is empty. A new level without a
     // number takes the next of its family inside its insert (two seats adding a level at
     // once get two numbers), one without an order the next order; both are set in level.
+    // A new level is refused once its family has all its levels (509 / 210).
     CheckResult save(Level& level, Family family);
     // Before a delete: passed with the question when the level has no values, refused
     // otherwise (and when they cannot be counted).

@@ -6,6 +6,9 @@ namespace sandogh::listmessages {
 
 // The texts the parameter and code level lists show, and their notice title.
 
+// A code family with all its levels (nine for goods, ten for accounts) takes no more.
+inline const QString kAllLevelsDefined =
+    QStringLiteral("همه سطوح اين کد تعريف شده است؛ سطح ديگري نمي توان افزود.");
 // Asked before a row is deleted.
 inline const QString kDeleteQuestion = QStringLiteral("آيا براي حذف اطمينان داريد؟");
 // First line of every refused delete.

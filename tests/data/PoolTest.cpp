@@ -112,6 +112,9 @@ TEST(SqlitePool, ConnectionsEnforceForeignKeysAndWaitForWriters) {
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA foreign_keys")), 1);
     EXPECT_EQ(s.scalarText(QStringLiteral("PRAGMA journal_mode")), QStringLiteral("wal"));
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA busy_timeout")), 5000);
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA synchronous")), 2);  // FULL
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA cache_size")), -65536);
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA temp_store")), 2);  // MEMORY
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(PoolTest);

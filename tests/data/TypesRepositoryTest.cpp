@@ -239,6 +239,19 @@ TEST_P(TypesRepositoryTest, PickerListsLinkedChildrenOrFallsBackToTheWholeList) 
     EXPECT_GT(milk.first().counter, 0);
 }
 
+TEST_P(TypesRepositoryTest, PickerListsInCodeOrderWhateverTheOrderOfEntry) {
+    const int dairy = add(501, QStringLiteral("1"), QStringLiteral("Dairy"));
+    add(502, QStringLiteral("30"), QStringLiteral("Yoghurt"), {dairy});
+    add(502, QStringLiteral("05"), QStringLiteral("Butter"));
+    add(502, QStringLiteral("10"), QStringLiteral("Milk"), {dairy});
+    add(502, QStringLiteral("20"), QStringLiteral("Cheese"), {dairy});
+    TypesRepository r = repo();
+    EXPECT_EQ(codesOf(r.picker(502, dairy)), (QStringList{"10", "20", "30"}));
+    EXPECT_EQ(codesOf(r.picker(502)), (QStringList{"05", "10", "20", "30"}));
+    EXPECT_EQ(codesOf(r.picker(502, 0, Column::Name, QStringLiteral("e"))),
+              (QStringList{"05", "20"}));
+}
+
 TEST_P(TypesRepositoryTest, DeleteIsRefusedWhileGoodsOrAccountsUseTheValue) {
     using namespace listmessages;
     const int used = add(503, QStringLiteral("1"), QStringLiteral("used"));

@@ -126,14 +126,16 @@ QList<TypesRepository::Value> TypesRepository::picker(int typeNo, int parentCoun
                                            "COALESCE(T.Name, '') FROM Types T INNER JOIN "
                                            "TypesLink TL ON T.Counter = TL.Counter "
                                            "WHERE T.TypeNo = :typeNo AND TL.Link = :parent") +
-                                searchCondition(column, QStringLiteral("T.")),
+                                searchCondition(column, QStringLiteral("T.")) +
+                                QStringLiteral(" ORDER BY T.Code, T.Counter"),
                             binds);
     } else {
-        values = readValues(s,
-                            QStringLiteral("SELECT Counter, COALESCE(Code, ''), COALESCE(Name, '') "
-                                           "FROM Types WHERE TypeNo = :typeNo") +
-                                searchCondition(column, {}),
-                            binds);
+        values =
+            readValues(s,
+                       QStringLiteral("SELECT Counter, COALESCE(Code, ''), COALESCE(Name, '') "
+                                      "FROM Types WHERE TypeNo = :typeNo") +
+                           searchCondition(column, {}) + QStringLiteral(" ORDER BY Code, Counter"),
+                       binds);
     }
     for (Value& v : values) {
         v.typeNo = typeNo;

@@ -11,6 +11,7 @@ void AfterLogin::run(const UserAccount& user) {
     m_context.setUser(user);
     MachineSettings& settings = m_context.machineSettings();
     settings.setUserInfo(user.id, user.userName, user.name);
+    m_context.setUserProfile(settings.userProfile());
 
     Station station;
     station.id = settings.stationId();

@@ -68,6 +68,11 @@ public:
     const UserAccount& user() const { return m_user; }
     void setUser(const UserAccount& user);
 
+    // UserProfile: the profile number of this machine's user, read at login (0 when the
+    // setting is empty or not a number); the settings screens show more with a profile.
+    int userProfile() const { return m_userProfile; }
+    void setUserProfile(int profile) { m_userProfile = profile; }
+
     const Station& station() const { return m_station; }
     void setStation(const Station& station) { m_station = station; }
 
@@ -92,6 +97,7 @@ private:
     std::unique_ptr<Database> m_database;
     QString m_currentDatabaseName;
     UserAccount m_user;
+    int m_userProfile = 0;
     Station m_station;
     QString m_displayGreeting;
 };

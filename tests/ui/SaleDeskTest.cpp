@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "DialogDriver.h"
 #include "PtyPair.h"
 #include "SaleScreenTest.h"
 #include "ScreenTestContext.h"
@@ -35,6 +36,7 @@
 #include "ui/sales/SaleDetailPanel.h"
 #include "ui/sales/SaleTotalsPanel.h"
 #include "ui/sales/frmSale.h"
+#include "ui/sales/frmSalePayment.h"
 #include "ui/widgets/AmountEdit.h"
 
 namespace sandogh {
@@ -157,6 +159,25 @@ TEST_F(SaleDeskTest, TheOpenDetailPanelKeepsTheSideFieldsReadableOnALowScreen) {
         EXPECT_GE(part->height(), part->minimumSizeHint().height())
             << part->objectName().toStdString();
     }
+}
+
+TEST_F(SaleDeskTest, ThePaymentSplitOpensWithTheAmountPayableAndACancelChangesNothing) {
+    auto window = openMain();
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+    scan(*screen, kBarcode);
+    QString shown;
+    {
+        test::DialogDriver driver(QStringLiteral("frmSalePayment"), [&shown](QWidget* dialog) {
+            auto* split = qobject_cast<frmSalePayment*>(dialog);
+            shown = split->lblDocSum->text();
+            split->reject();
+        });
+        screen->btnPaymentType->click();
+    }
+    EXPECT_TRUE(shown.endsWith(QStringLiteral("125,000"))) << shown.toStdString();
+    EXPECT_TRUE(SaleDesk::of(*screen)->actions().settlementOnScreen().payments.isEmpty());
+    EXPECT_EQ(screen->session().lines().size(), 1);
 }
 
 struct HandOffCase {

@@ -10,6 +10,7 @@
 #include "devices/WeightService.h"
 #include "sales/CustomerDisplayTotal.h"
 #include "sales/GiftCardService.h"
+#include "sales/PaymentAccounts.h"
 #include "sales/SaleReceipt.h"
 #include "sales/SaleSaver.h"
 #include "sales/SaleSession.h"
@@ -78,6 +79,8 @@ SaleDesk::SaleDesk(AppContext& context, GeneralPorts* generalPorts, frmSale& scr
     m_actions->setTerminalHandOffs(m_handOffs.get());
     m_actions->setSaver(m_saver.get());
     m_actions->setGiftCards(m_cards.get());
+    m_accounts = std::make_unique<PaymentAccounts>(context.database());
+    m_actions->setPaymentAccounts(m_accounts.get());
 }
 
 SaleDesk::~SaleDesk() = default;

@@ -12,6 +12,7 @@ class CustomerDisplay;
 class CustomerDisplayTotal;
 class GeneralPorts;
 class GiftCardService;
+class PaymentAccounts;
 class PecTerminal;
 class SaleDeskActions;
 class SaleReceipt;
@@ -60,6 +61,7 @@ private:
     std::unique_ptr<SaleSaver> m_saver;
     std::unique_ptr<SaleReceipt> m_receipt;
     std::unique_ptr<GiftCardService> m_cards;
+    std::unique_ptr<PaymentAccounts> m_accounts;
     std::unique_ptr<CustomerDisplayTotal> m_total;
     CustomerDisplay* m_display = nullptr;
     PecTerminal* m_pec = nullptr;

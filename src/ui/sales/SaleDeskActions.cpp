@@ -9,12 +9,14 @@
 #include "data/MessageService.h"
 #include "devices/PecTerminal.h"
 #include "sales/GiftCardService.h"
+#include "sales/PaymentAccounts.h"
 #include "sales/SaleSaver.h"
 #include "sales/SaleSession.h"
 #include "sales/TerminalHandOffs.h"
 #include "ui/sales/SaleDetailPanel.h"
 #include "ui/sales/SaleTotalsPanel.h"
 #include "ui/sales/frmSale.h"
+#include "ui/sales/frmSalePayment.h"
 #include "ui/widgets/AmountEdit.h"
 
 namespace sandogh {
@@ -73,6 +75,7 @@ SaleSettlement SaleDeskActions::settlementOnScreen() const {
         s.giftCardId = m_card->cardNumber;
         s.giftCardAmount = std::min(m_card->balance, s.payable);
     }
+    s.payments = m_payments;
     s.printReceipt = m_screen.chkPrint->isChecked();
     return s;
 }
@@ -90,6 +93,7 @@ bool SaleDeskActions::save() {
         return false;
     }
     m_card.reset();
+    m_payments.clear();
     m_screen.session().newSale();
     showNewDocument();
     return true;
@@ -105,8 +109,19 @@ void SaleDeskActions::showNewDocument() {
 }
 
 bool SaleDeskActions::paymentType() {
-    m_messages.show(notAvailableText(), MessageStyle::Information);
-    return false;
+    if (m_accounts == nullptr) {
+        m_messages.show(notAvailableText(), MessageStyle::Information);
+        return false;
+    }
+    frmSalePayment dialog(frmSalePayment::readAccounts(*m_accounts), m_messages, &m_screen);
+    dialog.DocSum(AmountText::parse(payableText().toStdString()));
+    dialog.ComapanyName(m_screen.session().CompanyName());
+    dialog.FillTextValue();
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    m_payments = dialog.payments();
+    return true;
 }
 
 bool SaleDeskActions::pecPayment() {

@@ -14,6 +14,7 @@ namespace sandogh {
 
 class GiftCardService;
 class MessageService;
+class PaymentAccounts;
 class PecTerminal;
 class SaleSaver;
 class TerminalHandOffs;
@@ -24,9 +25,9 @@ class frmSale;
 // (its new number, the previous invoice beside it); the drawer through the main window's
 // one drawer entry; the PEC card terminal on the screen's own port (the request is sent
 // and the screen goes on; the terminal's answer is shown or recorded when it comes); the
-// other terminals handed to the companion program with the amount payable; a gift card
-// read into the barcode box. A step whose part is missing is refused with a message and
-// the sale stays as it was.
+// other terminals handed to the companion program with the amount payable; the split of the
+// payment in frmSalePayment; a gift card read into the barcode box. A step whose part is missing is
+// refused with a message and the sale stays as it was.
 class SaleDeskActions final : public QObject, public SaleActions {
     Q_OBJECT
 
@@ -40,6 +41,7 @@ public:
     void setTerminalHandOffs(TerminalHandOffs* handOffs) { m_handOffs = handOffs; }
     void setSaver(SaleSaver* saver) { m_saver = saver; }
     void setGiftCards(GiftCardService* cards) { m_cards = cards; }
+    void setPaymentAccounts(PaymentAccounts* accounts) { m_accounts = accounts; }
 
     bool save() override;
     bool paymentType() override;
@@ -75,6 +77,9 @@ private:
     TerminalHandOffs* m_handOffs = nullptr;
     SaleSaver* m_saver = nullptr;
     GiftCardService* m_cards = nullptr;
+    PaymentAccounts* m_accounts = nullptr;
+    // The split chosen in frmSalePayment for the sale on the screen.
+    QList<SalePayment> m_payments;
     SaleSaveResult m_lastSave;
     std::optional<GiftCardResult> m_card;
 };

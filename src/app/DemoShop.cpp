@@ -10,6 +10,7 @@
 #include "data/ConnectionFile.h"
 #include "data/Database.h"
 #include "data/Transaction.h"
+#include "sales/SaleSaveTexts.h"
 
 namespace sandogh {
 
@@ -105,6 +106,44 @@ void seedShop(DemoSeeder& seeder) {
                   {2, QStringLiteral("گذشتن تاریخ مصرف")},
                   {3, QStringLiteral("انصراف مشتری")},
                   {4, QStringLiteral("اشتباه در فروش")}});
+}
+
+// A small chart of accounts for the cash desk's vouchers: the cash box (code 12, offered by
+// the payment split with the banks of group 9), two banks with their card terminals, and
+// the sales income and sales return accounts that the sale's voucher credits and debits.
+// Only a shop without any account is given it.
+void seedAccounts(DemoSeeder& seeder) {
+    if (seeder.count(QStringLiteral("tblAccountingGroup")) != 0) {
+        return;
+    }
+    struct Account {
+        int code;
+        int parentCode;
+        QString name;
+        qint64 posId;  // 0: not a bank
+    };
+    const QList<Account> accounts{
+        {12, 1, SaleSaveTexts::cashBoxAccount(), 0},
+        {901, 9, QStringLiteral("بانک ملت - کارت‌خوان"), 31001234},
+        {902, 9, QStringLiteral("بانک ملی - کارت‌خوان"), 31005678},
+        {601, 6, SaleSaveTexts::salesIncomeAccount(), 0},
+        {602, 6, SaleSaveTexts::salesReturnAccount(), 0},
+    };
+    for (const Account& account : accounts) {
+        if (!seeder.insert(QStringLiteral("tblAccountingGroup"),
+                           {{QStringLiteral("Code"), account.code},
+                            {QStringLiteral("ParentCode"), account.parentCode},
+                            {QStringLiteral("Name"), account.name},
+                            {QStringLiteral("IsOpen"), 1}}) ||
+            account.posId == 0) {
+            continue;
+        }
+        const qint64 id = seeder.number(
+            QStringLiteral("SELECT MAX(ID) FROM tblAccountingGroup WHERE Code = :code"),
+            {{QStringLiteral(":code"), account.code}});
+        seeder.insert(QStringLiteral("tblBanks"), {{QStringLiteral("AccountingGroupId"), id},
+                                                   {QStringLiteral("PosId"), account.posId}});
+    }
 }
 
 void seedUsers(DemoSeeder& seeder, QList<DemoShop::DemoUser>& created) {
@@ -212,6 +251,7 @@ DemoShop::Report DemoShop::seed() {
     }
     DemoSeeder seeder(session, report.added);
     seedShop(seeder);
+    seedAccounts(seeder);
     seedUsers(seeder, report.createdUsers);
     DemoCatalogue::seed(seeder);
     if (!seeder.ok()) {

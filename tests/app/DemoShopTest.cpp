@@ -10,6 +10,7 @@
 #include "app/DemoGoods.h"
 #include "app/DemoShop.h"
 #include "app/LoginService.h"
+#include "sales/SaleVoucher.h"
 
 namespace sandogh {
 namespace {
@@ -94,6 +95,21 @@ TEST_P(DemoShopTest, TheShopIsReadyForTheCashDesk) {
     EXPECT_EQ(text(QStringLiteral("SELECT Company_Name FROM Company")), DemoShop::shopName());
     EXPECT_EQ(text(QStringLiteral("SELECT Display FROM Display")),
               QString::fromLatin1(DemoShop::kGreeting));
+
+    // The sale's voucher finds its three accounts; the payment split offers the cash box
+    // and the banks, each bank with its terminal.
+    Session s = db().session();
+    const SaleVoucher::Accounts accounts = SaleVoucher::accounts(s, 0);
+    EXPECT_GT(accounts.cashBox, 0);
+    EXPECT_GT(accounts.salesIncome, 0);
+    EXPECT_GT(accounts.salesReturn, 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM tblAccountingGroup WHERE IsOpen = 1 "
+                                   "AND (ParentCode = 9 OR Code = 12)")),
+              3);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM tblBanks B INNER JOIN tblAccountingGroup "
+                                   "A ON A.ID = B.AccountingGroupId WHERE A.ParentCode = 9 AND "
+                                   "B.PosId > 0")),
+              2);
 
     for (const DemoShop::DemoUser& user : DemoShop::users()) {
         const LoginService::Result r = LoginService(db()).login(user.userName, user.password);

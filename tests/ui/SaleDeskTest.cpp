@@ -347,8 +347,9 @@ TEST_P(SaleDeskSaveTest, ASaleTypedAndSavedLandsInTheShopAndTheScreenStartsAnew)
 
     scan(*screen, kBarcode);
     scan(*screen, QStringLiteral("3"));
+    // The first payment kind is chosen for every sale.
     ASSERT_GT(screen->detailPanel()->cmbPayType->count(), 1);
-    screen->detailPanel()->cmbPayType->setCurrentIndex(1);
+    EXPECT_EQ(screen->detailPanel()->cmbPayType->currentIndex(), 1);
     screen->chkPrint->setChecked(c.print);
     app.messages.clear();
     QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
@@ -387,6 +388,7 @@ TEST_F(SaleDeskTest, ARefusedSaveKeepsTheSale) {
     const QString number = screen->txtNo->text();
     scan(*screen, kBarcode);
     // No payment kind chosen: refused with the saver's message, nothing written.
+    screen->detailPanel()->cmbPayType->setCurrentIndex(0);
     app.messages.clear();
     QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
     EXPECT_GE(app.messages.count(), 1);
@@ -398,6 +400,54 @@ TEST_F(SaleDeskTest, ARefusedSaveKeepsTheSale) {
                                            "AND StationID = 1 AND TransType = 2"),
                             {{QStringLiteral(":no"), number}}, -1),
               0);
+}
+
+TEST_F(SaleDeskTest, TheLoyaltyButtonGivesTheEarnedGiftsAndSavingCountsThem) {
+    setOption(settingkeys::LoyaltyBuyFactor, QStringLiteral("100000"));
+    setOption(settingkeys::LoyaltyAmountRebate, QStringLiteral("10000"));
+    Session s = app.context.database().session();
+    const qint64 customer = s.scalarInt64(
+        QStringLiteral("SELECT MIN(Counter) FROM Types WHERE TypeNo = 10 AND Active = 1"));
+    ASSERT_GT(customer, 0);
+    // 250,000 bought earlier and one gift taken already: one more gift is due.
+    ASSERT_TRUE(s.exec(QStringLiteral("UPDATE Types SET DiscountTakenTotal = 1 WHERE Counter = :c"),
+                       {{QStringLiteral(":c"), customer}}));
+    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, CompanyID, "
+                                      "DocDate, DocSum) VALUES (900, '900', 2, :c, '1405/01/01', "
+                                      "250000)"),
+                       {{QStringLiteral(":c"), customer}}));
+
+    auto window = openMain();
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+    scan(*screen, kBarcode);
+    ASSERT_TRUE(screen->session().selectCustomer(int(customer)));
+    SaleTotalsPanel* totals = screen->totalsPanel();
+    // The gift kind (Id 1 of the shop counts towards gifts).
+    ASSERT_TRUE(totals->chooseDiscountKind(1));
+    QTest::mouseClick(screen->btnBuyFactor, Qt::LeftButton);
+    EXPECT_EQ(totals->txtDiscount->value(), 10000);
+
+    app.messages.clear();
+    QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
+    EXPECT_TRUE(screen->session().isEmpty()) << app.messages.count();
+    EXPECT_EQ(
+        s.scalarInt64(QStringLiteral("SELECT DiscountTakenTotal FROM Types WHERE Counter = :c"),
+                      {{QStringLiteral(":c"), customer}}),
+        2);
+
+    // 375,000 bought now earns three gifts; with three taken the button refuses and clears
+    // the discount typed before.
+    ASSERT_TRUE(s.exec(QStringLiteral("UPDATE Types SET DiscountTakenTotal = 3 WHERE Counter = :c"),
+                       {{QStringLiteral(":c"), customer}}));
+    scan(*screen, kBarcode);
+    ASSERT_TRUE(screen->session().selectCustomer(int(customer)));
+    ASSERT_TRUE(totals->chooseDiscountKind(1));
+    totals->txtDiscount->setValue(5000);
+    app.messages.clear();
+    QTest::mouseClick(screen->btnBuyFactor, Qt::LeftButton);
+    EXPECT_EQ(totals->txtDiscount->value(), 0);
+    EXPECT_GE(app.messages.count(), 1);
 }
 
 }  // namespace

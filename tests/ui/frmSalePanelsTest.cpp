@@ -244,6 +244,11 @@ TEST_F(frmSalePanelsTest, PickListsAreFilledOnOpening) {
     ASSERT_EQ(detail->cmbWarehouseSelector->count(), 2);
     EXPECT_EQ(detail->cmbPayType->itemText(1), QStringLiteral("نقد"));
     EXPECT_EQ(detail->cmbPayType->itemText(2), QStringLiteral("کارت"));
+    // The first kind is chosen already, and again for the next sale.
+    EXPECT_EQ(detail->cmbPayType->currentIndex(), 1);
+    detail->cmbPayType->setCurrentIndex(2);
+    detail->clearDocument();
+    EXPECT_EQ(detail->cmbPayType->currentIndex(), 1);
     EXPECT_EQ(detail->cmbReturnCause->itemData(1).toInt(), 3);
 
     // Choosing the warehouse tells the sale.

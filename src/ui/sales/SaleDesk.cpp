@@ -10,6 +10,7 @@
 #include "devices/WeightService.h"
 #include "sales/CustomerDisplayTotal.h"
 #include "sales/GiftCardService.h"
+#include "sales/LoyaltyGift.h"
 #include "sales/PaymentAccounts.h"
 #include "sales/SaleReceipt.h"
 #include "sales/SaleSaver.h"
@@ -18,6 +19,7 @@
 #include "ui/app/frmMain.h"
 #include "ui/catalog/CatalogScreens.h"
 #include "ui/catalog/frmGood.h"
+#include "ui/sales/QtReceiptPrinter.h"
 #include "ui/sales/SaleDeskActions.h"
 #include "ui/sales/frmSale.h"
 
@@ -54,9 +56,10 @@ SaleDesk::SaleDesk(AppContext& context, GeneralPorts* generalPorts, frmSale& scr
 
     m_handOffs = std::make_unique<TerminalHandOffs>(*m_companion);
 
+    m_pagePrinter = std::make_unique<QtReceiptPrinter>();
     m_receipt = std::make_unique<SaleReceipt>(context.database(), settings, context.messages(),
                                               context.launcher(), context.programFolder(),
-                                              &context.rawPrinter(), nullptr);
+                                              &context.rawPrinter(), m_pagePrinter.get());
     m_saver = std::make_unique<SaleSaver>(context.database(), settings, context.messages(),
                                           context.clock());
     m_saver->setCompanion(m_companion.get());
@@ -81,6 +84,9 @@ SaleDesk::SaleDesk(AppContext& context, GeneralPorts* generalPorts, frmSale& scr
     m_actions->setGiftCards(m_cards.get());
     m_accounts = std::make_unique<PaymentAccounts>(context.database());
     m_actions->setPaymentAccounts(m_accounts.get());
+    m_loyalty = std::make_unique<LoyaltyGift>(context.database(), settings, context.messages());
+    m_actions->setLoyaltyGift(m_loyalty.get());
+    connect(&screen, &frmSale::loyaltyGiftRequested, m_actions, &SaleDeskActions::giveLoyaltyGift);
 }
 
 SaleDesk::~SaleDesk() = default;

@@ -12,6 +12,8 @@ class CustomerDisplay;
 class CustomerDisplayTotal;
 class GeneralPorts;
 class GiftCardService;
+class LoyaltyGift;
+class QtReceiptPrinter;
 class PaymentAccounts;
 class PecTerminal;
 class SaleDeskActions;
@@ -59,7 +61,9 @@ private:
     std::unique_ptr<CompanionHandOff> m_companion;
     std::unique_ptr<TerminalHandOffs> m_handOffs;
     std::unique_ptr<SaleSaver> m_saver;
+    std::unique_ptr<QtReceiptPrinter> m_pagePrinter;
     std::unique_ptr<SaleReceipt> m_receipt;
+    std::unique_ptr<LoyaltyGift> m_loyalty;
     std::unique_ptr<GiftCardService> m_cards;
     std::unique_ptr<PaymentAccounts> m_accounts;
     std::unique_ptr<CustomerDisplayTotal> m_total;

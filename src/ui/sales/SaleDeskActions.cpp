@@ -9,6 +9,7 @@
 #include "data/MessageService.h"
 #include "devices/PecTerminal.h"
 #include "sales/GiftCardService.h"
+#include "sales/LoyaltyGift.h"
 #include "sales/PaymentAccounts.h"
 #include "sales/SaleSaver.h"
 #include "sales/SaleSession.h"
@@ -76,8 +77,28 @@ SaleSettlement SaleDeskActions::settlementOnScreen() const {
         s.giftCardAmount = std::min(m_card->balance, s.payable);
     }
     s.payments = m_payments;
+    // A gift given by the button and not changed by hand since.
+    s.loyaltyGift = m_giftDiscount.has_value() && *m_giftDiscount == s.discount && s.discount > 0;
     s.printReceipt = m_screen.chkPrint->isChecked();
     return s;
+}
+
+bool SaleDeskActions::giveLoyaltyGift() {
+    if (m_loyalty == nullptr) {
+        m_messages.show(notAvailableText(), MessageStyle::Information);
+        return false;
+    }
+    SaleTotalsPanel& totals = *m_screen.totalsPanel();
+    const SaleSession& sale = m_screen.session();
+    const LoyaltyGift::Offer offer =
+        m_loyalty->offer(sale.CompanyId(), sale.CompanyName(), chosenCode(totals.cmbDiscountType));
+    totals.setDiscount(offer.given ? offer.discount : 0);
+    if (offer.given) {
+        m_giftDiscount = offer.discount;
+    } else {
+        m_giftDiscount.reset();
+    }
+    return offer.given;
 }
 
 bool SaleDeskActions::save() {
@@ -94,6 +115,7 @@ bool SaleDeskActions::save() {
     }
     m_card.reset();
     m_payments.clear();
+    m_giftDiscount.reset();
     m_screen.session().newSale();
     showNewDocument();
     return true;

@@ -13,6 +13,7 @@
 namespace sandogh {
 
 class GiftCardService;
+class LoyaltyGift;
 class MessageService;
 class PaymentAccounts;
 class PecTerminal;
@@ -42,6 +43,7 @@ public:
     void setSaver(SaleSaver* saver) { m_saver = saver; }
     void setGiftCards(GiftCardService* cards) { m_cards = cards; }
     void setPaymentAccounts(PaymentAccounts* accounts) { m_accounts = accounts; }
+    void setLoyaltyGift(LoyaltyGift* loyalty) { m_loyalty = loyalty; }
 
     bool save() override;
     bool paymentType() override;
@@ -49,6 +51,10 @@ public:
     void terminalHandOff(const QString& command) override;
     void openDrawer() override;
     bool cardLookup(qint64 cardNumber) override;
+
+    // btnBuyFactor: the customer's loyalty gift written into txtDiscount (cleared when
+    // refused); the sale then saves it as gifts taken.
+    bool giveLoyaltyGift();
 
     // A new sale on the screen: its invoice number and the desk's previous invoice.
     void showNewDocument();
@@ -78,6 +84,9 @@ private:
     SaleSaver* m_saver = nullptr;
     GiftCardService* m_cards = nullptr;
     PaymentAccounts* m_accounts = nullptr;
+    LoyaltyGift* m_loyalty = nullptr;
+    // The discount on the screen is the loyalty gift of btnBuyFactor (this amount).
+    std::optional<double> m_giftDiscount;
     // The split chosen in frmSalePayment for the sale on the screen.
     QList<SalePayment> m_payments;
     SaleSaveResult m_lastSave;

@@ -108,10 +108,18 @@ void SaleDetailPanel::setReturnCauses(const QList<SaleScreenLists::Item>& causes
 
 void SaleDetailPanel::setPaymentKinds(const QList<SaleScreenLists::Item>& kinds) {
     fill(cmbPayType, kinds);
+    chooseFirstPaymentKind();
+}
+
+void SaleDetailPanel::chooseFirstPaymentKind() {
+    // Most sales are paid the shop's first way (cash): it is chosen for every new sale,
+    // and the cashier changes it only when the customer pays otherwise.
+    cmbPayType->setCurrentIndex(cmbPayType->count() > 1 ? 1 : 0);
 }
 
 void SaleDetailPanel::clearDocument() {
     cmbReturnCause->setCurrentIndex(0);
+    chooseFirstPaymentKind();
     txtNote->clear();
     // The next sale is dated today unless the cashier types another date.
     m_sale.setSaleDate(QString());

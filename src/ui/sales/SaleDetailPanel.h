@@ -51,6 +51,7 @@ public:
 private:
     void buildLayout();
     void showMode(SaleMode mode);
+    void chooseFirstPaymentKind();
     void showSalesType(int salesType);
     void onSalesTypeClicked(int salesType);
     void onWarehouseChosen(int index);

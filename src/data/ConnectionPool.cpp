@@ -185,10 +185,13 @@ bool ConnectionPool::configureSqlite(QSqlDatabase& db, DbError& error) {
     // receipt has been handed out must survive a power cut, and a commit on a cash desk is
     // rare enough that its fsync does not matter. A 64 MB page cache (negative: KiB) keeps
     // the goods, stock and document tables of a shop in memory across statements, and
-    // temporary sort and grouping tables stay in memory.
+    // temporary sort and grouping tables stay in memory. Reads go through a memory map of
+    // up to 1 GB: a look-up over an article's scattered purchase lines in a shop of a
+    // million documents then costs page faults on cached pages instead of a read call per
+    // page (half the time of the average purchase price there).
     static const char* const pragmas[] = {
         "PRAGMA foreign_keys = ON",   "PRAGMA journal_mode = WAL",  "PRAGMA synchronous = FULL",
-        "PRAGMA cache_size = -65536", "PRAGMA temp_store = MEMORY",
+        "PRAGMA cache_size = -65536", "PRAGMA temp_store = MEMORY", "PRAGMA mmap_size = 1073741824",
     };
     QSqlQuery q(db);
     for (const char* pragma : pragmas) {

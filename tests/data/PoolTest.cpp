@@ -115,6 +115,7 @@ TEST(SqlitePool, ConnectionsEnforceForeignKeysAndWaitForWriters) {
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA synchronous")), 2);  // FULL
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA cache_size")), -65536);
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA temp_store")), 2);  // MEMORY
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA mmap_size")), 1073741824);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(PoolTest);

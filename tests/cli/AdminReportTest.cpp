@@ -7,11 +7,10 @@
 #include <QTemporaryDir>
 #include <chrono>
 
-#include "AdminProcess.h"
+#include "AdminShopTest.h"
 #include "common/JalaliCalendar.h"
 #include "common/PlatformDate.h"
 #include "data/Database.h"
-#include "support/BackendTest.h"
 
 namespace sandogh {
 namespace {
@@ -24,28 +23,8 @@ QString todayJalali() {
             year{today.year()}, month{unsigned(today.month())}, day{unsigned(today.day())}})));
 }
 
-class AdminReportTest : public test::BackendTest {
+class AdminReportTest : public AdminShopTest {
 protected:
-    void SetUp() override {
-        BackendTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
-        ASSERT_TRUE(settings.isValid());
-        qputenv("SANDOGH_SETTINGS", settings.path().toUtf8());
-        QFile provider(QDir(dir()).filePath(QStringLiteral("Provider.txt")));
-        ASSERT_TRUE(provider.open(QIODevice::WriteOnly));
-        provider.write(testDatabase().providerText().toUtf8());
-        provider.close();
-        const AdminProcess::Result init =
-            AdminProcess::run({QStringLiteral("init-db"), QStringLiteral("--dir"), dir()});
-        ASSERT_EQ(init.exitCode, 0) << init.err.toStdString();
-    }
-    void TearDown() override {
-        qunsetenv("SANDOGH_SETTINGS");
-        BackendTest::TearDown();
-    }
-    QString dir() { return testDatabase().programDir(); }
     AdminProcess::Result admin(QStringList words) {
         words << QStringLiteral("--dir") << dir();
         return AdminProcess::run(words);

@@ -13,6 +13,7 @@
 #include "sales/PaymentAccounts.h"
 #include "sales/SaleSaver.h"
 #include "sales/SaleSession.h"
+#include "sales/SettlementCalculator.h"
 #include "sales/TerminalHandOffs.h"
 #include "ui/sales/SaleDetailPanel.h"
 #include "ui/sales/SaleTotalsPanel.h"
@@ -21,18 +22,6 @@
 #include "ui/widgets/AmountEdit.h"
 
 namespace sandogh {
-
-namespace {
-
-std::optional<int> chosenCode(const QComboBox* combo) {
-    const QVariant code = combo->currentData();
-    if (!code.isValid() || code.isNull()) {
-        return std::nullopt;
-    }
-    return code.toInt();
-}
-
-}  // namespace
 
 SaleDeskActions::SaleDeskActions(frmSale& screen, MessageService& messages, QObject* parent)
     : QObject(parent), m_screen(screen), m_messages(messages) {}
@@ -58,19 +47,18 @@ SaleSettlement SaleDeskActions::settlementOnScreen() const {
     SaleSettlement s;
     s.docNo = m_screen.txtNo->text().trimmed();
     const SaleTotalsPanel& totals = *m_screen.totalsPanel();
-    s.discount = totals.txtDiscount->value();
-    s.discountPercent = totals.txtDiscountPercent->value();
-    s.overhead = totals.txtOther->value();
-    s.discountTypeId = chosenCode(totals.cmbDiscountType);
-    s.overheadId = chosenCode(totals.cmbOverhead);
-    s.payable = m_screen.session().total() - s.discount + s.overhead;
-    s.handedOver = totals.txtReceivedPrice->value();
+    // The total of the lines themselves, not its rounded text in txtSum.
+    SettlementCalculator::fill(s, m_screen.session().total(), totals.txtDiscount->value(),
+                               totals.txtDiscountPercent->value(), totals.txtOther->value(),
+                               totals.txtReceivedPrice->value());
+    s.discountTypeId = SaleTotalsPanel::chosenKind(totals.cmbDiscountType);
+    s.overheadId = SaleTotalsPanel::chosenKind(totals.cmbOverhead);
     if (totals.txtSumReceived->value() > 0) {
         s.received = totals.txtSumReceived->value();
     }
     const SaleDetailPanel& detail = *m_screen.detailPanel();
-    s.payType = chosenCode(detail.cmbPayType);
-    s.returnCauseId = chosenCode(detail.cmbReturnCause);
+    s.payType = SaleTotalsPanel::chosenKind(detail.cmbPayType);
+    s.returnCauseId = SaleTotalsPanel::chosenKind(detail.cmbReturnCause);
     s.note = detail.txtNote->text().trimmed();
     if (m_card && m_card->accepted) {
         s.giftCardId = m_card->cardNumber;
@@ -90,8 +78,8 @@ bool SaleDeskActions::giveLoyaltyGift() {
     }
     SaleTotalsPanel& totals = *m_screen.totalsPanel();
     const SaleSession& sale = m_screen.session();
-    const LoyaltyGift::Offer offer =
-        m_loyalty->offer(sale.CompanyId(), sale.CompanyName(), chosenCode(totals.cmbDiscountType));
+    const LoyaltyGift::Offer offer = m_loyalty->offer(
+        sale.CompanyId(), sale.CompanyName(), SaleTotalsPanel::chosenKind(totals.cmbDiscountType));
     totals.setDiscount(offer.given ? offer.discount : 0);
     if (offer.given) {
         m_giftDiscount = offer.discount;

@@ -49,6 +49,8 @@ public:
     SaleSettlement settlement() const;
     // Fills the amounts and kinds of a settlement, keeping its other values.
     void fillSettlement(SaleSettlement& settlement) const;
+    // The Id (item data) chosen in a kind list; nothing for the empty first row.
+    static std::optional<int> chosenKind(const QComboBox* combo);
     // Writes a discount (the loyalty gift) and recomputes.
     void setDiscount(double discount);
     // Chooses a discount kind by its Id; false when the list has no such kind.
@@ -75,7 +77,6 @@ public:
 private:
     void buildLayout();
     static void fillKinds(QComboBox* combo, const QList<SaleScreenLists::Item>& kinds);
-    static std::optional<int> chosenKind(const QComboBox* combo);
 
     bool m_clearing = false;
 };

@@ -124,4 +124,19 @@ std::string TextHelpers::toPersianDigits(std::string_view text) {
     return out;
 }
 
+std::string TextHelpers::searchKey(std::string_view text) {
+    static constexpr std::string_view kZeroWidthNonJoiner = "\xE2\x80\x8C";
+    std::string folded = toAsciiDigits(toPersianLetters(text));
+    std::string out;
+    out.reserve(folded.size());
+    for (std::size_t i = 0; i < folded.size(); ++i) {
+        if (std::string_view(folded).substr(i, kZeroWidthNonJoiner.size()) == kZeroWidthNonJoiner) {
+            i += kZeroWidthNonJoiner.size() - 1;
+            continue;
+        }
+        out.push_back(folded[i]);
+    }
+    return out;
+}
+
 }  // namespace sandogh

@@ -23,6 +23,11 @@ public:
     static std::string toAsciiDigits(std::string_view text);
     // ASCII digits become Persian digits; everything else is kept.
     static std::string toPersianDigits(std::string_view text);
+
+    // The form every search compares: Persian letters, ASCII digits and no zero-width
+    // non-joiner (U+200C), so "چاي" finds "چای" and "۶۲۶۰" finds "6260". Stored text is
+    // never rewritten with it; both the typed words and the searched column are folded.
+    static std::string searchKey(std::string_view text);
 };
 
 }  // namespace sandogh

@@ -64,5 +64,27 @@ TEST(TextHelpersTest, DigitsBothWays) {
     EXPECT_EQ(TextHelpers::toPersianDigits("يك x"), "يك x");
 }
 
+TEST(TextHelpersTest, SearchKeyFoldsWhatPeopleTypeDifferently) {
+    const std::string zwnj = "\u200C";
+    struct Case {
+        std::string in;
+        std::string out;
+    };
+    const Case cases[] = {
+        {"", ""},
+        {"\u0686\u0627" + kArabicYeh, "\u0686\u0627" + kPersianYeh},  // the tea word, Arabic yeh
+        {kArabicKaf + kAlefMaksura, kPersianKeheh + kPersianYeh},
+        {"\u0645\u06CC" + zwnj + "\u0634\u0648\u062F", "\u0645\u06CC\u0634\u0648\u062F"},
+        {zwnj + zwnj, ""},
+        {"\u06F6\u06F2\u06F6\u06F0", "6260"},  // Persian digits
+        {"\u0666\u0662\u0666\u0660", "6260"},  // Arabic-Indic digits
+        {"A-12 " + zwnj + "z", "A-12 z"},
+        {"\xE2\x80", "\xE2\x80"},  // a cut sequence is kept
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(TextHelpers::searchKey(c.in), c.out) << c.in;
+    }
+}
+
 }  // namespace
 }  // namespace sandogh

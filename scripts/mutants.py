@@ -163,8 +163,11 @@ def build_targets(build, layers, log):
     targets = ["test_" + layer for layer in layers]
     if "cli" in layers:
         targets.append("sandogh-admin")
-    r = subprocess.run(["cmake", "--build", build, "-j2", "--target"] + targets,
-                       stdout=log, stderr=subprocess.STDOUT)
+    command = ["cmake", "--build", build, "-j2", "--target"] + targets
+    lock = os.environ.get("SANDOGH_BUILD_LOCK")
+    if lock:
+        command = ["flock", lock] + command
+    r = subprocess.run(command, stdout=log, stderr=subprocess.STDOUT)
     return r.returncode == 0
 
 

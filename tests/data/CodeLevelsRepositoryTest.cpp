@@ -52,34 +52,6 @@ TEST_P(CodeLevelsRepositoryTest, AnEmptyFamilyStartsAtItsFirstNumberAndOrderOne)
     EXPECT_EQ(second.parameterLevel, 2);
 }
 
-TEST_P(CodeLevelsRepositoryTest, ListsOneFamilyByNumberWithSearch) {
-    add(Family::Goods, QStringLiteral("Brand"), 3, 503);
-    add(Family::Goods, QStringLiteral("Group"), 2, 501);
-    add(Family::Accounts, QStringLiteral("Ledger"), 2);
-    CodeLevelsRepository r = repo();
-    const QList<Level> goods = r.list(Family::Goods);
-    ASSERT_EQ(goods.size(), 2);
-    EXPECT_EQ(goods.at(0).typeNo, 501);
-    EXPECT_EQ(goods.at(0).name, QStringLiteral("Group"));
-    EXPECT_EQ(goods.at(0).nameEnglish, QStringLiteral("Group en"));
-    EXPECT_EQ(goods.at(0).digitQty, 2);
-    EXPECT_EQ(goods.at(1).typeNo, 503);
-    EXPECT_EQ(r.list(Family::Accounts).size(), 1);
-    struct Case {
-        CodeLevelsRepository::SearchColumn column;
-        const char* text;
-        int found;
-    };
-    const Case cases[] = {{CodeLevelsRepository::SearchColumn::Name, "ran", 1},
-                          {CodeLevelsRepository::SearchColumn::NameEnglish, "en", 2},
-                          {CodeLevelsRepository::SearchColumn::Name, "Ledger", 0},
-                          {CodeLevelsRepository::SearchColumn::Name, "%", 2}};
-    for (const Case& c : cases) {
-        EXPECT_EQ(r.list(Family::Goods, c.column, QString::fromLatin1(c.text)).size(), c.found)
-            << c.text;
-    }
-}
-
 TEST_P(CodeLevelsRepositoryTest, SavingNeedsANameAndEditsInPlace) {
     Level level;
     level.name = QStringLiteral("  ");
@@ -151,35 +123,6 @@ TEST_P(CodeLevelsRepositoryTest, DigitCountsPerLevelAllGoodsLevelsAndBelowALevel
     for (const Case& c : {Case{201, 0}, Case{202, 1}, Case{203, 3}, Case{501, 3}, Case{502, 5},
                           Case{509, 8}, Case{510, 12}}) {
         EXPECT_EQ(r.digitsBelow(c.typeNo), c.below) << c.typeNo;
-    }
-}
-
-TEST_P(CodeLevelsRepositoryTest, TheProposedBarcodeFollowsTheNewestArticle) {
-    CodeLevelsRepository r = repo();
-    EXPECT_EQ(r.proposedBarcode(), QStringLiteral("1"));
-    struct Case {
-        const char* newest;
-        const char* proposed;
-    };
-    const Case cases[] = {
-        {"6260000000009", "6260000000010"},
-        {"99999999999999999999", "100000000000000000000"},
-        {"00123", "124"},
-        {"12abc", "13"},
-        {"abc", "1"},
-    };
-    Session s = session();
-    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code) VALUES (:b)"),
-                       {{QStringLiteral(":b"), QStringLiteral("9999999999999")}}));
-    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code) VALUES (:b)"),
-                       {{QStringLiteral(":b"), QStringLiteral("6260000000009")}}));
-    // The older article's larger barcode does not count.
-    EXPECT_EQ(r.proposedBarcode(), QStringLiteral("6260000000010"));
-    for (const Case& c : cases) {
-        ASSERT_TRUE(s.exec(QStringLiteral("DELETE FROM Goods")));
-        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code) VALUES (:b)"),
-                           {{QStringLiteral(":b"), QString::fromLatin1(c.newest)}}));
-        EXPECT_EQ(r.proposedBarcode(), QString::fromLatin1(c.proposed)) << c.newest;
     }
 }
 

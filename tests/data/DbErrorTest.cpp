@@ -111,13 +111,5 @@ TEST(DbErrorRecord, CarriesNumberDescriptionAndSourceToTheLog) {
     EXPECT_EQ(logged.source, QStringLiteral("QPSQL: Unable to create query"));
 }
 
-TEST(DbErrorRecord, AFailureWithoutDriverTextStillSaysWhatHappened) {
-    const DbError e = DbError::fromSqlError(QSqlError(), Backend::PostgreSQL, false);
-    EXPECT_TRUE(e.isConnectionLost());
-    EXPECT_FALSE(e.text().isEmpty());
-    const DbError other = DbError::fromSqlError(QSqlError(), Backend::SQLite, true);
-    EXPECT_EQ(other.kind, DbErrorKind::Other);
-}
-
 }  // namespace
 }  // namespace sandogh

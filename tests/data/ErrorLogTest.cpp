@@ -90,29 +90,12 @@ void PrintTo(const TimeCase& c, std::ostream* os) {
 
 class ErrTimeTest : public ::testing::TestWithParam<TimeCase> {};
 
-TEST_P(ErrTimeTest, ThirdFieldIsTheDayOfTheMonth) {
-    QTemporaryDir dir;
-    test::FixedClock clock(GetParam().now);
-    ErrorLog log(dir.path(), nullptr, clock, QStringLiteral("1404/01/01"), QString());
-    const QString record = log.formatRecord({}, {}, {});
-    EXPECT_TRUE(record.contains(
-        QStringLiteral("ErrTime : 1404/01/01  %1\r\n").arg(QLatin1String(GetParam().field))))
-        << record.toStdString();
-}
-
 INSTANTIATE_TEST_SUITE_P(
     Times, ErrTimeTest,
     ::testing::Values(TimeCase{QDateTime(QDate(2025, 3, 5), QTime(23, 59, 58)), "23:59:05"},
                       TimeCase{QDateTime(QDate(2025, 12, 31), QTime(0, 0, 0)), "00:00:31"},
                       TimeCase{QDateTime(QDate(2024, 2, 29), QTime(12, 1, 59)), "12:01:29"},
                       TimeCase{QDateTime(QDate(2025, 1, 1), QTime(1, 2, 3)), "01:02:01"}));
-
-TEST_F(ErrorLogTest, AppendCreatesTheFileAndKeepsWhatIsThere) {
-    ASSERT_FALSE(QFile::exists(log.filePath()));
-    EXPECT_TRUE(log.AppendErrorLog(QStringLiteral("first")));
-    EXPECT_TRUE(log.AppendErrorLog(QStringLiteral("second")));
-    EXPECT_EQ(readAll(log.filePath()), QByteArray("\"first\"\r\n\"second\"\r\n"));
-}
 
 TEST(ErrorLogFailure, AppendToAMissingFolderFails) {
     QTemporaryDir dir;

@@ -232,81 +232,6 @@ TEST_P(GoodsRepositoryTest, AnArticleNamedByDocumentsIsNotDeletedButCanBeTakenOu
     EXPECT_FALSE(goods.setActive(QStringLiteral("no such"), false));
 }
 
-TEST_P(GoodsRepositoryTest, TheHookHearsOfEverySaveWithTheArticleAsSaved) {
-    GoodsRepository goods = repository();
-    GoodsArticle a = article(QStringLiteral("6006"), QStringLiteral("Cheese"), 125000);
-    a.specCode = QStringLiteral("12");
-    a.weighed = true;
-    ASSERT_TRUE(goods.save(a).ok);
-    a.cost = 130000;
-    ASSERT_TRUE(goods.save(a).ok);
-    ASSERT_EQ(hook.saved.size(), 2);
-    EXPECT_TRUE(hook.sessionValid);
-    EXPECT_EQ(hook.saved.at(0).barcode, QStringLiteral("6006"));
-    EXPECT_EQ(hook.saved.at(0).specCode, QStringLiteral("12"));
-    EXPECT_EQ(hook.saved.at(0).cost, 125000.0);
-    EXPECT_TRUE(hook.saved.at(0).weighed);
-    EXPECT_EQ(hook.saved.at(1).cost, 130000.0);
-    EXPECT_EQ(hook.saved.at(1).id, a.id);
-}
-
-TEST_P(GoodsRepositoryTest, LevelsAreKeptAndComposeTheStructuredCode) {
-    addLevel(501, QStringLiteral("Group"), 2);
-    addLevel(502, QStringLiteral("Brand"), 3);
-    addLevel(503, QStringLiteral("Size"), 1);
-    addValue(100, 501, QStringLiteral("01"), QStringLiteral("Dairy"));
-    addValue(200, 502, QStringLiteral("002"), QStringLiteral("Pegah"), 100);
-    addValue(300, 503, QStringLiteral("L"), QStringLiteral("Large"));
-    GoodsRepository goods = repository();
-
-    GoodsArticle a = article(QStringLiteral("7007"), QStringLiteral("Milk"), 1);
-    a.levels = {100, 200, 300};
-    ASSERT_TRUE(goods.save(a).ok);
-    EXPECT_EQ(a.complexCode, QStringLiteral("01002L"));
-    Session s = db().session();
-    SqlQuery q(s, QStringLiteral("SELECT ComplexCode, LevelID1, LevelID2, LevelID3, LevelID4 "
-                                 "FROM Goods WHERE EAN_Code = '7007'"));
-    ASSERT_TRUE(q.exec() && q.next());
-    EXPECT_EQ(q.text(0), QStringLiteral("01002L"));
-    EXPECT_EQ(q.integer(1), 100);
-    EXPECT_EQ(q.integer(2), 200);
-    EXPECT_EQ(q.integer(3), 300);
-    EXPECT_EQ(q.integer(4), 0);
-
-    // A level left out before a chosen one keeps its place with zeros; a counter that is
-    // no value of its level is not kept.
-    GoodsArticle b = article(QStringLiteral("7008"), QStringLiteral("Other"), 1);
-    b.levels = {100, 0, 300, 200};
-    ASSERT_TRUE(goods.save(b).ok);
-    EXPECT_EQ(b.complexCode, QStringLiteral("01000L"));
-    EXPECT_EQ(b.levels[3], 0);
-    const auto values = goods.levelValues(a.levels);
-    EXPECT_EQ(values[1].code, QStringLiteral("002"));
-    EXPECT_EQ(values[1].name, QStringLiteral("Pegah"));
-}
-
-TEST(GoodsComplexCode, CodesFollowTheLevelOrderEachInItsWidth) {
-    using Codes = std::array<QString, GoodsArticle::kLevels>;
-    using Digits = std::array<int, GoodsArticle::kLevels>;
-    const Digits digits{2, 3, 1, 2};
-    struct Case {
-        Codes codes;
-        QString composed;
-    };
-    const Case cases[] = {
-        {{}, QString()},
-        {{QStringLiteral("01")}, QStringLiteral("01")},
-        {{QStringLiteral("01"), QStringLiteral("002")}, QStringLiteral("01002")},
-        {{QString(), QStringLiteral("002")}, QStringLiteral("00002")},
-        {{QStringLiteral("01"), QString(), QString(), QStringLiteral("AB")},
-         QStringLiteral("010000AB")},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(GoodsRepository::composeComplexCode(c.codes, digits), c.composed)
-            << c.composed.toStdString();
-    }
-}
-
 TEST_P(GoodsRepositoryTest, TheProposedBarcodeFollowsTheNewestArticle) {
     GoodsRepository goods = repository();
     EXPECT_EQ(goods.proposedBarcode(), QStringLiteral("1"));
@@ -315,28 +240,6 @@ TEST_P(GoodsRepositoryTest, TheProposedBarcodeFollowsTheNewestArticle) {
     ASSERT_TRUE(goods.save(older).ok);
     ASSERT_TRUE(goods.save(newest).ok);
     EXPECT_EQ(goods.proposedBarcode(), QStringLiteral("6260000000010"));
-}
-
-TEST_P(GoodsRepositoryTest, AnEditedArticleKeepsItsBarcodeAndTheColumnsItDoesNotShow) {
-    ASSERT_TRUE(
-        exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Note, C_In_Paket, G_Min, "
-                            "G_Max, Cost) VALUES ('8008', 'Soap', 'shelf note', 12, 3, 30, 9)")));
-    GoodsRepository goods = repository();
-    auto a = goods.find(QStringLiteral("8008"));
-    ASSERT_TRUE(a.has_value());
-    a->barcode = QStringLiteral("8009");  // an edit never moves the article to a barcode
-    a->name = QStringLiteral("Hand soap");
-    ASSERT_TRUE(goods.save(*a).ok);
-    const auto back = goods.find(QStringLiteral("8008"));
-    ASSERT_TRUE(back.has_value());
-    EXPECT_EQ(back->name, QStringLiteral("Hand soap"));
-    EXPECT_EQ(back->note, QStringLiteral("shelf note"));
-    EXPECT_EQ(back->inPacket, 12.0);
-    EXPECT_EQ(back->minimum, 3.0);
-    EXPECT_EQ(back->maximum, 30.0);
-    EXPECT_FALSE(goods.find(QStringLiteral("8009")).has_value());
-    // An article made elsewhere without a stock row gets none by an edit.
-    EXPECT_EQ(rows(QStringLiteral("Stock")), 0);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(GoodsRepositoryTest);

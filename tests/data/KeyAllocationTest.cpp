@@ -45,17 +45,6 @@ qint64 insertTakenCode(Session& s, qint64 code, DbError& error) {
 
 class KeyAllocationTest : public test::ShopFixture {};
 
-TEST_P(KeyAllocationTest, AnEmptyTableGivesKeyOneThenCountsOn) {
-    Session s = session();
-    EXPECT_EQ(DocumentNumbering::nextCode(s), 1);
-    for (qint64 expected = 1; expected <= 3; ++expected) {
-        EXPECT_EQ(StockDocumentWriter::insertHeader(s, saleHeader(QStringLiteral("1"))), expected);
-    }
-    EXPECT_EQ(DocumentNumbering::nextCode(s), 4);
-    EXPECT_EQ(StockDocumentWriter::insertInternalHeader(s, saleHeader(QStringLiteral("1"))), 1);
-    EXPECT_EQ(DocumentNumbering::nextInternalCode(s), 2);
-}
-
 TEST_P(KeyAllocationTest, LinesCarryTheKeyTheirHeaderWasGiven) {
     Session s = session();
     Transaction tx(s);
@@ -96,29 +85,6 @@ TEST_P(KeyAllocationTest, AConflictIsRetriedAndOnlyTheFailedAttemptIsUndone) {
     ASSERT_TRUE(tx.commit());
     EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 3);
     EXPECT_EQ(messages().count(), 0);
-}
-
-TEST_P(KeyAllocationTest, OtherFailuresAreNotRetried) {
-    Session s = session();
-    int attempts = 0;
-    DbError last;
-    const qint64 key = KeyConflictRetry::run(
-        s,
-        [&](DbError& error) {
-            ++attempts;
-            SqlQuery q(s, QStringLiteral("INSERT INTO NoSuchTable (Code) VALUES (:code)"));
-            q.setLogging(FailureLogging::Quiet);
-            q.bind(QStringLiteral(":code"), 1);
-            if (!q.exec()) {
-                error = q.error();
-            }
-            return qint64(0);
-        },
-        KeyConflictRetry::kAttempts, &last);
-    EXPECT_EQ(key, 0);
-    EXPECT_EQ(attempts, 1);
-    EXPECT_TRUE(last.isError());
-    EXPECT_FALSE(last.isKeyConflict());
 }
 
 TEST_P(KeyAllocationTest, ConflictsInEveryAttemptGiveUpWithTheConflict) {
@@ -231,13 +197,6 @@ protected:
         return false;
     }
 };
-
-TEST_P(KeyAllocationRaceTest, TheLoserOfARaceGetsAKeyConflict) {
-    const auto [key, error] = race(false);
-    EXPECT_EQ(key, 0);
-    EXPECT_TRUE(error.isKeyConflict()) << error.text().toStdString();
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 1);
-}
 
 TEST_P(KeyAllocationRaceTest, TheRetryGivesTheLoserTheNextKey) {
     const auto [key, error] = race(true);

@@ -154,24 +154,6 @@ TEST_P(MigratorTest, AppliesEveryStepOnceAndRecordsIt) {
     EXPECT_EQ(messages().count(), 0);
 }
 
-TEST_P(MigratorTest, UpgradesFromAnEarlierVersion) {
-    Migrator migrator(db());
-    ASSERT_TRUE(migrator.apply(testSteps().mid(0, 1)).ok);
-    EXPECT_EQ(migrator.currentVersion(), 1);
-    const Migrator::Result upgrade = migrator.apply(testSteps());
-    ASSERT_TRUE(upgrade.ok) << upgrade.message.toStdString();
-    EXPECT_EQ(upgrade.versionBefore, 1);
-    EXPECT_EQ(upgrade.applied, (QList<int>{2, 3}));
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Stations")), 1);
-}
-
-TEST_P(MigratorTest, EndsWithTheTablesAndColumnsOfTheSteps) {
-    ASSERT_TRUE(Migrator(db()).apply(testSteps()).ok);
-    Session s = db().session();
-    EXPECT_EQ(SchemaReader::tables(s), kShopTables);
-    EXPECT_EQ(SchemaReader::tables(s, QStringLiteral("MizanNet")), kMizanNetTables);
-}
-
 TEST_P(MigratorTest, RowsSurviveALaterForeignKeyWhichIsThenEnforced) {
     Migrator migrator(db());
     ASSERT_TRUE(migrator.apply(testSteps().mid(0, 2)).ok);
@@ -241,15 +223,6 @@ TEST_P(MigratorTest, AFailingStepLeavesNothingOfItself) {
     EXPECT_EQ(migrator.currentVersion(), 3);
     Session s = db().session();
     EXPECT_EQ(SchemaReader::tables(s), kShopTables);  // no Half, no DocH.Extra
-}
-
-TEST_P(MigratorTest, StepsOutOfOrderAreRefusedBeforeAnythingIsDone) {
-    QList<MigrationStep> steps = testSteps();
-    std::swap(steps[1], steps[2]);
-    const Migrator::Result result = Migrator(db()).apply(steps);
-    EXPECT_FALSE(result.ok);
-    Session s = db().session();
-    EXPECT_TRUE(SchemaReader::tables(s).isEmpty());
 }
 
 TEST_P(MigratorTest, TheShopCatalogueApplies) {

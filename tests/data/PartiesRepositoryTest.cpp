@@ -25,27 +25,6 @@ protected:
     }
 };
 
-TEST_P(PartiesRepositoryTest, PersonsAndCompaniesShareOneRunOfCodes) {
-    PartiesRepository parties(db());
-    EXPECT_EQ(parties.newCode(), QStringLiteral("1"));
-    struct Step {
-        int typeNo;
-        const char* code;
-        const char* next;
-    };
-    // A dashed code counts as its digits; a list value of another kind counts not at all.
-    const Step steps[] = {{10, "12-3", "124"},
-                          {11, "124", "125"},
-                          {61, "900", "125"},
-                          {11, "", "125"},
-                          {10, "7", "125"}};
-    int counter = 1;
-    for (const Step& s : steps) {
-        addParty(counter++, s.typeNo, QString::fromLatin1(s.code));
-        EXPECT_EQ(parties.newCode(), QString::fromLatin1(s.next)) << s.code;
-    }
-}
-
 TEST_P(PartiesRepositoryTest, APartyIsSavedWithEveryFieldAsTyped) {
     ASSERT_TRUE(
         exec(QStringLiteral("INSERT INTO tblCustomerGroup (Code, Name) VALUES (3, 'VIP')")));
@@ -154,24 +133,6 @@ TEST_P(PartiesRepositoryTest, APartyNamedByADocumentStaysAndCanBeTakenOutOfUse) 
     EXPECT_TRUE(parties.remove(unused.counter).ok);
     EXPECT_FALSE(parties.find(unused.counter).has_value());
     EXPECT_TRUE(parties.find(used.counter).has_value());
-}
-
-TEST_P(PartiesRepositoryTest, SearchesLookInTheirColumn) {
-    PartiesRepository parties(db());
-    Party a = person(QStringLiteral("1"), QStringLiteral("مریم"));
-    a.family = QStringLiteral("احمدی");
-    a.mobile = QStringLiteral("09121234567");
-    Party b = person(QStringLiteral("2"), QStringLiteral("Reza"));
-    b.telephone = QStringLiteral("02188776655");
-    ASSERT_TRUE(parties.save(a).ok);
-    ASSERT_TRUE(parties.save(b).ok);
-    using C = PartiesRepository::SearchColumn;
-    EXPECT_EQ(parties.list(Party::kPerson, C::Family, QStringLiteral("حمد")).size(), 1);
-    EXPECT_EQ(parties.list(Party::kPerson, C::Telephone, QStringLiteral("1234")).size(), 1);
-    EXPECT_EQ(parties.list(Party::kPerson, C::Telephone, QStringLiteral("8877")).first().name,
-              QStringLiteral("Reza"));
-    EXPECT_EQ(parties.list(Party::kPerson, C::Code, QStringLiteral("2")).size(), 1);
-    EXPECT_EQ(parties.list(Party::kPerson, C::Name, QStringLiteral("x")).size(), 0);
 }
 
 TEST_P(PartiesRepositoryTest, CustomerGroupsAreNumberedAndKeptWhileCustomersHaveThem) {

@@ -20,59 +20,6 @@ namespace {
 
 class PoolTest : public test::BackendTest {};
 
-TEST_P(PoolTest, ManyRoutinesInARowShareOneConnection) {
-    for (int i = 0; i < 300; ++i) {
-        Session s = db().session();
-        ASSERT_EQ(s.scalarInt64(QStringLiteral("SELECT :n + 1"), {{QStringLiteral("n"), i}}),
-                  i + 1);
-    }
-    EXPECT_EQ(db().physicalConnects(), 1);
-    EXPECT_EQ(db().pooledConnections(), 1);
-    EXPECT_EQ(messages().count(), 0);
-}
-
-TEST_P(PoolTest, NestedRoutinesGetTheirOwnConnections) {
-    {
-        Session outer = db().session();
-        Session inner = db().session();
-        ASSERT_TRUE(outer && inner);
-        EXPECT_NE(outer.connection().connectionName(), inner.connection().connectionName());
-    }
-    EXPECT_EQ(db().pooledConnections(), 2);
-    for (int i = 0; i < 10; ++i) {
-        Session a = db().session();
-        Session b = db().session();
-    }
-    EXPECT_EQ(db().physicalConnects(), 2);
-}
-
-TEST_P(PoolTest, ASecondConnectionKeepsItsOwnResultOpen) {
-    {
-        Session s = db().OpenConnection();
-        ASSERT_TRUE(test::createTables(s, {test::probeTable()}));
-        for (int code = 1; code <= 3; ++code) {
-            ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (Code) VALUES (:c)"),
-                               {{QStringLiteral("c"), code}}));
-        }
-        s.CloseConnection();
-        EXPECT_FALSE(s.isValid());
-    }
-    Session first = db().OpenConnection();
-    SqlQuery list(first, QStringLiteral("SELECT Code FROM Goods ORDER BY Code"));
-    ASSERT_TRUE(list.exec());
-    Session second = db().OpenSecondConnection();
-    EXPECT_NE(first.connection().connectionName(), second.connection().connectionName());
-    qint64 sum = 0;
-    while (list.next()) {
-        ASSERT_TRUE(second.exec(
-            QStringLiteral("UPDATE Goods SET Big = :b WHERE Code = :c"),
-            {{QStringLiteral("b"), list.int64(0) * 10}, {QStringLiteral("c"), list.int64(0)}}));
-        sum += list.int64(0);
-    }
-    EXPECT_EQ(sum, 6);
-    EXPECT_EQ(second.scalarInt64(QStringLiteral("SELECT SUM(Big) FROM Goods")), 60);
-}
-
 TEST_P(PoolTest, EachThreadUsesItsOwnConnectionsAndClosesThemAtItsEnd) {
     {
         Session s = db().session();
@@ -192,25 +139,6 @@ TEST_P(DroppedConnectionTest, ALossFoundByAStatementFailsThatRoutineOnlyOnce) {
     EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT 41 + 1")), 42);
     EXPECT_NE(backendPid(s), first);
     EXPECT_EQ(messages().count(), 1);
-}
-
-TEST_P(DroppedConnectionTest, ALossInsideATransactionEndsItWithoutHarm) {
-    testDatabase().options().idleCheckMs = 24 * 3600 * 1000;
-    {
-        Session s = db().session();
-        ASSERT_TRUE(test::createTables(s, {test::probeTable()}));
-    }
-    {
-        Session s = db().session();
-        Transaction tx(s);
-        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (Code) VALUES (1)")));
-        terminate(backendPid(s));
-        EXPECT_FALSE(s.exec(QStringLiteral("INSERT INTO Goods (Code) VALUES (2)")));
-        EXPECT_TRUE(s.lastError().isConnectionLost());
-        EXPECT_FALSE(tx.commit());
-    }
-    Session s = db().session();
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods"), {}, -1), 0);
 }
 
 SANDOGH_INSTANTIATE_POSTGRES_ONLY(DroppedConnectionTest);

@@ -149,67 +149,6 @@ TEST_P(ProceduresTest, SerialNumbersAreAllocatedAsTheLargestPlusOne) {
     EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Serial")), 1);
 }
 
-TEST_P(ProceduresTest, AccountsAndPartyRowsAreWrittenAndReadBack) {
-    Session s = session();
-    const qint64 account = sp_tblAccountingGroup_Insert(
-        s, AccountingGroupRow{0, 101, 10, QStringLiteral("صندوق"), true});
-    ASSERT_GT(account, 0);
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM tblAccountingGroup WHERE ID = :id"),
-                           {{QStringLiteral(":id"), account}}),
-              QStringLiteral("صندوق"));
-    const int counter = sp_Types_GetNewCounter(s, 11);
-    EXPECT_EQ(counter, 1);
-    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, "
-                                      "Value9, AccountingGroupID, Credit) VALUES (:c, 11, '12-3', "
-                                      ":n, :v1, :v9, :a, 2500)"),
-                       {{QStringLiteral(":c"), counter},
-                        {QStringLiteral(":n"), QStringLiteral("O'Reilly")},
-                        {QStringLiteral(":v1"), QStringLiteral("family")},
-                        {QStringLiteral(":v9"), QStringLiteral("1360/05/12")},
-                        {QStringLiteral(":a"), int(account)}}));
-    const std::optional<TypesRow> row = sp_Types_SelectRow(s, counter);
-    ASSERT_TRUE(row.has_value());
-    EXPECT_EQ(row->typeNo, 11);
-    EXPECT_EQ(row->code, QStringLiteral("12-3"));
-    EXPECT_EQ(row->name, QStringLiteral("O'Reilly"));
-    EXPECT_EQ(row->value(1), QStringLiteral("family"));
-    EXPECT_EQ(row->value(9), QStringLiteral("1360/05/12"));
-    EXPECT_EQ(row->value(11), QString());
-    EXPECT_EQ(row->accountingGroupId, account);
-    EXPECT_DOUBLE_EQ(row->credit, 2500);
-    EXPECT_EQ(row->note, QString());
-    EXPECT_EQ(row->active, 1);  // the column's default
-    EXPECT_FALSE(sp_Types_SelectRow(s, counter + 1).has_value());
-    EXPECT_EQ(sp_Types_GetNewCounter(s, 61), counter + 1);
-}
-
-TEST_P(ProceduresTest, AStockDocumentHeaderReadsBackWithItsNulls) {
-    StockDocumentHeader h;
-    h.docNo = QStringLiteral("12");
-    h.transType = kSaleReturn;
-    h.companyId = 4;
-    h.docSum = 1500.25;
-    h.note = QStringLiteral("O'Reilly'; DROP TABLE Goods; --");
-    h.returnCauseId = 2;
-    const qint64 code = writeDocument(h, {}, false);
-    Session s = session();
-    const std::optional<StockDocumentHeader> read = sp_tblWhs_QTYDocH_SelectRow(s, code);
-    ASSERT_TRUE(read.has_value());
-    EXPECT_EQ(read->code, code);
-    EXPECT_EQ(read->docNo, QStringLiteral("12"));
-    EXPECT_EQ(read->transType, kSaleReturn);
-    EXPECT_EQ(read->companyId, 4);
-    EXPECT_EQ(read->docDate, QStringLiteral("____/__/__"));
-    EXPECT_DOUBLE_EQ(read->docSum, 1500.25);
-    EXPECT_EQ(read->note, h.note);
-    EXPECT_EQ(read->returnCauseId, 2);
-    EXPECT_FALSE(read->stationId.has_value());
-    EXPECT_FALSE(read->documentHId.has_value());
-    EXPECT_FALSE(read->docType.has_value());
-    EXPECT_FALSE(read->kilometerEntry.has_value());
-    EXPECT_FALSE(sp_tblWhs_QTYDocH_SelectRow(s, code + 1).has_value());
-}
-
 TEST_P(ProceduresTest, AHeaderNamingNoStationIsRefusedWhole) {
     StockDocumentHeader h;
     h.docNo = QStringLiteral("1");

@@ -111,14 +111,6 @@ TEST_P(PurchasePricesTest, LineProfitIsTheSalePriceLessTheLatestNetPurchasePrice
     }
 }
 
-TEST_P(PurchasePricesTest, BarcodesWithQuotesAreLookedUpAsTyped) {
-    const QString odd = QStringLiteral("12'3; --");
-    addGoods(odd, 10);
-    addDocument(kPurchase, QStringLiteral("1"), {{odd, 2, 7, 14}});
-    EXPECT_DOUBLE_EQ(prices().lastPurchasePrice(odd), 7);
-    EXPECT_DOUBLE_EQ(prices().averagePurchasePrice(odd), 7);
-}
-
 SANDOGH_INSTANTIATE_BACKENDS(PurchasePricesTest);
 
 }  // namespace

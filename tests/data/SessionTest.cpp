@@ -46,34 +46,6 @@ protected:
     std::unique_ptr<ErrorLog> errorLog;
 };
 
-TEST_P(SessionTest, TextRoundTripsUnchanged) {
-    const QStringList texts = {
-        QStringLiteral("O'Reilly'; DROP TABLE Goods; --"),
-        QStringLiteral("شیر پاستوریزه کاله ۱ لیتری"),
-        QStringLiteral("كيك عربي ي ك"),
-        QString(),
-        QStringLiteral("100% _off_ [a-z]"),
-        QStringLiteral("C:\\Velbari\\RptFactors.txt"),
-        QStringLiteral("\"quoted\" :name ? $1 @p"),
-        QStringLiteral("line1\r\nline2\ttab"),
-        QStringLiteral("'; DELETE FROM Goods WHERE '1'='1"),
-    };
-    Session s = db().session(QStringLiteral("SessionTest"), QStringLiteral("roundTrip"));
-    for (int i = 0; i < texts.size(); ++i) {
-        ASSERT_TRUE(insert(s, i + 1, texts[i])) << s.lastError().text().toStdString();
-    }
-    for (int i = 0; i < texts.size(); ++i) {
-        EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM Goods WHERE Code = :code"),
-                               {{QStringLiteral(":code"), i + 1}}, QStringLiteral("<none>")),
-                  texts[i]);
-        EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods WHERE Name = :name"),
-                                {{QStringLiteral(":name"), texts[i]}}),
-                  1);
-    }
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods")), texts.size());
-    EXPECT_EQ(messages().count(), 0);
-}
-
 TEST_P(SessionTest, ReadsFieldsByPositionAndNameWithIsnullDefaults) {
     Session s = db().session();
     SqlQuery empty(s, QStringLiteral("INSERT INTO Goods (Code, Name, Amount, Note, DocDate, Big, "
@@ -125,23 +97,6 @@ TEST_P(SessionTest, ReadsFieldsByPositionAndNameWithIsnullDefaults) {
     EXPECT_EQ(q.text(QStringLiteral("NoSuchColumn"), QStringLiteral("fb")), QStringLiteral("fb"));
     EXPECT_FALSE(q.next());
     EXPECT_EQ(q.text(0, QStringLiteral("after")), QStringLiteral("after"));
-}
-
-TEST_P(SessionTest, SingleValueHelpersFallBackOnNoRowAndNull) {
-    Session s = db().session();
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT MAX(Code) FROM Goods")), 0);
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT MAX(Code) FROM Goods"), {}, -7), -7);
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COALESCE(MAX(Code), 0) + 1 FROM Goods")), 1);
-    EXPECT_FALSE(s.scalar(QStringLiteral("SELECT Name FROM Goods")).isValid());
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM Goods"), {}, QStringLiteral("x")),
-              QStringLiteral("x"));
-    ASSERT_TRUE(insert(s, 5, QStringLiteral("a")));
-    EXPECT_DOUBLE_EQ(
-        s.scalarNumber(QStringLiteral("SELECT Amount FROM Goods WHERE Code = 5"), {}, 3.5), 3.5);
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COALESCE(MAX(Code), 0) + 1 FROM Goods")), 6);
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM Goods WHERE Code = :c"),
-                           {{QStringLiteral("c"), 5}}),
-              QStringLiteral("a"));
 }
 
 TEST_P(SessionTest, AFailedStatementIsLoggedUnderItsRoutine) {
@@ -219,40 +174,6 @@ TEST_P(SessionTest, AUniqueIndexViolationIsAKeyConflict) {
                FailureLogging::QuietKeyConflicts));
     EXPECT_TRUE(s.lastError().isKeyConflict());
     EXPECT_EQ(messages().count(), 0);
-}
-
-TEST_P(SessionTest, PreparedStatementsAreReusedWithNewValues) {
-    Session s = db().session();
-    SqlQuery add(s, QStringLiteral("INSERT INTO Goods (Code, Name, Amount) VALUES (:c, :n, :a)"));
-    for (int i = 1; i <= 200; ++i) {
-        add.bind(QStringLiteral("c"), i)
-            .bind(QStringLiteral("n"), QString::number(i))
-            .bind(QStringLiteral("a"), i * 0.5);
-        ASSERT_TRUE(add.exec()) << i;
-    }
-    for (int i = 201; i <= 220; ++i) {
-        ASSERT_TRUE(insert(s, i, QStringLiteral("again")));
-    }
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods")), 220);
-    EXPECT_DOUBLE_EQ(s.scalarNumber(QStringLiteral("SELECT SUM(Amount) FROM Goods")), 10050.0);
-
-    // The same statement open twice at once: an outer loop and the look-up inside it.
-    const QString sql =
-        QStringLiteral("SELECT Code, Name FROM Goods WHERE Code <= :max ORDER BY Code");
-    SqlQuery outer(s, sql);
-    outer.bind(QStringLiteral("max"), 3);
-    ASSERT_TRUE(outer.exec());
-    QStringList seen;
-    while (outer.next()) {
-        SqlQuery inner(s, sql);
-        inner.bind(QStringLiteral("max"), 1);
-        ASSERT_TRUE(inner.exec());
-        ASSERT_TRUE(inner.next());
-        EXPECT_EQ(inner.integer(0), 1);
-        EXPECT_FALSE(inner.next());
-        seen << outer.text(QStringLiteral("Name"));
-    }
-    EXPECT_EQ(seen, (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}));
 }
 
 TEST_P(SessionTest, ABindNamedOnlyOnceServesEveryUseOfThePlaceholder) {

@@ -44,13 +44,6 @@ protected:
     }
 };
 
-TEST_P(StockRepairTest, EmptyDatabaseRepairsToNothing) {
-    EXPECT_TRUE(repair());
-    EXPECT_TRUE(repair({QStringLiteral("626")}));
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Stock")), 0);
-    EXPECT_EQ(messages().count(), 0);
-}
-
 TEST_P(StockRepairTest, EachTransactionTypeMovesStockItsWay) {
     struct Case {
         int transType;
@@ -77,27 +70,6 @@ TEST_P(StockRepairTest, EachTransactionTypeMovesStockItsWay) {
         EXPECT_DOUBLE_EQ(q.stock, c.import - c.exported) << c.transType;
         EXPECT_EQ(q.branch, 1);
     }
-}
-
-TEST_P(StockRepairTest, AllKindsTogetherIncludingInternalDocuments) {
-    const QString b = QStringLiteral("6260000000009");
-    addGoods(b);
-    addDocument(kPurchase, QStringLiteral("1"), {{b, 20}, {b, 5}});
-    addDocument(kSale, QStringLiteral("1"), {{b, 4}});
-    addDocument(kSaleReturn, QStringLiteral("1"), {{b, 1}});
-    addDocument(kPurchaseReturn, QStringLiteral("1"), {{b, 2}});
-    // Received from the centre, sent to a branch, returned by it, sent back.
-    addInternalDocument(kPurchase, QStringLiteral("1"), {{b, 7}});
-    addInternalDocument(kSale, QStringLiteral("1"), {{b, 6}});
-    addInternalDocument(kSaleReturn, QStringLiteral("1"), {{b, 3}});
-    addInternalDocument(kPurchaseReturn, QStringLiteral("2"), {{b, 0.5}});
-    ASSERT_TRUE(repair());
-    const Quantities q = stockOf(b);
-    EXPECT_DOUBLE_EQ(q.import, 20 + 5 + 1 + 7 + 3);
-    EXPECT_DOUBLE_EQ(q.exported, 4 + 2 + 6 + 0.5);
-    EXPECT_DOUBLE_EQ(q.stock, 36 - 12.5);
-    Session s = session();
-    EXPECT_DOUBLE_EQ(procedures::SP_ComputeWarehouseQtyByEanCode(s, b, QString()), q.stock);
 }
 
 TEST_P(StockRepairTest, DocumentsWithADocTypeMoveNoGoods) {
@@ -131,22 +103,6 @@ TEST_P(StockRepairTest, ScopedRepairTouchesOnlyTheGivenBarcodes) {
     EXPECT_DOUBLE_EQ(stockOf(a).stock, 99);
     EXPECT_DOUBLE_EQ(stockOf(b).stock, 7);
     EXPECT_DOUBLE_EQ(stockOf(b).import, 7);
-}
-
-TEST_P(StockRepairTest, ArticlesWithoutLinesGetAZeroRowOnBranchOne) {
-    addGoods(QStringLiteral("X1"));
-    addGoods(QStringLiteral("X2"));
-    ASSERT_TRUE(repair());
-    for (const QString& b : {QStringLiteral("X1"), QStringLiteral("X2")}) {
-        const Quantities q = stockOf(b);
-        ASSERT_TRUE(q.found);
-        EXPECT_DOUBLE_EQ(q.import, 0);
-        EXPECT_DOUBLE_EQ(q.exported, 0);
-        EXPECT_DOUBLE_EQ(q.stock, 0);
-        EXPECT_EQ(q.branch, 1);
-    }
-    ASSERT_TRUE(repair());  // a second run adds no second row
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Stock")), 2);
 }
 
 TEST_P(StockRepairTest, ScopedRepairOfManyBarcodesSpansStatements) {

@@ -112,49 +112,6 @@ TEST_P(TransactionTest, LeavingTheScopeWithoutCommitRollsBack) {
     EXPECT_EQ(committedRows(), 0);
 }
 
-TEST_P(TransactionTest, ExplicitRollbackUndoesAndEnds) {
-    Session s = db().session();
-    Transaction tx(s);
-    ASSERT_TRUE(insert(s, 1));
-    EXPECT_TRUE(tx.rollback());
-    EXPECT_FALSE(tx.isActive());
-    EXPECT_FALSE(tx.commit());
-    EXPECT_FALSE(tx.rollback());
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods")), 0);
-    // Work after the rollback is outside any transaction and stays.
-    ASSERT_TRUE(insert(s, 2));
-    EXPECT_EQ(committedRows(), 1);
-}
-
-TEST_P(TransactionTest, MovingKeepsOneOwner) {
-    Session s = db().session();
-    std::vector<Transaction> held;
-    {
-        Transaction tx(s);
-        ASSERT_TRUE(insert(s, 1));
-        held.push_back(std::move(tx));
-        EXPECT_FALSE(tx.isActive());  // NOLINT(bugprone-use-after-move): checked on purpose
-    }
-    EXPECT_TRUE(s.inTransaction());
-    Transaction last = std::move(held.back());
-    held.clear();
-    EXPECT_TRUE(s.inTransaction());
-    EXPECT_TRUE(last.commit());
-    EXPECT_EQ(committedRows(), 1);
-}
-
-TEST_P(TransactionTest, ASecondTransactionOnTheSameSessionIsRefused) {
-    Session s = db().session();
-    Transaction first(s);
-    ASSERT_TRUE(first.isActive());
-    Transaction second(s, FailureLogging::Quiet);
-    EXPECT_FALSE(second.isActive());
-    EXPECT_EQ(second.error().kind, DbErrorKind::Other);
-    ASSERT_TRUE(insert(s, 1));
-    EXPECT_TRUE(first.commit());
-    EXPECT_EQ(committedRows(), 1);
-}
-
 TEST_P(TransactionTest, ARefusedCommitIsReportedAndLeavesNothing) {
     Session s = db().session();
     ASSERT_TRUE(test::createTables(s, test::parentChildTables(), {test::childToParent()}));

@@ -56,15 +56,6 @@ TEST_P(TypesRepositoryTest, EmptyTableGivesCounterOneAndPartyCodeOne) {
     EXPECT_EQ(messages().count(), 0);
 }
 
-TEST_P(TypesRepositoryTest, CountersAreUniqueOverTheWholeTable) {
-    const int unit = add(61, QStringLiteral("1"), QStringLiteral("عدد"));
-    const int grade = add(1010, QStringLiteral("1"), QStringLiteral("A"));
-    EXPECT_EQ(unit, 1);
-    EXPECT_EQ(grade, 2);
-    Session s = session();
-    EXPECT_EQ(procedures::sp_Types_GetNewCounter(s, 61), 3);
-}
-
 TEST_P(TypesRepositoryTest, ListIsOrderedByCodeAndSearchedBySubstring) {
     add(1011, QStringLiteral("30"), QStringLiteral("نانوا"), {}, QStringLiteral("Baker"));
     add(1011, QStringLiteral("10"), QStringLiteral("معلم"), {}, QStringLiteral("Teacher"),
@@ -99,19 +90,6 @@ TEST_P(TypesRepositoryTest, ListIsOrderedByCodeAndSearchedBySubstring) {
     EXPECT_EQ(values.first().name, QStringLiteral("معلم"));
     EXPECT_EQ(values.first().note, QStringLiteral("school"));
     EXPECT_EQ(values.first().typeNo, 1011);
-}
-
-TEST_P(TypesRepositoryTest, TextWithQuotesAndSqlWordsIsKeptAsTyped) {
-    const QString name = QStringLiteral("O'Reilly'; DROP TABLE Goods; --");
-    const QString code = QStringLiteral("1'2");
-    const int counter = add(61, code, name, {}, QStringLiteral("it's"), QStringLiteral("--"));
-    const QList<Value> values = repo().list(61, Column::Name, QStringLiteral("'; DROP"));
-    ASSERT_EQ(values.size(), 1);
-    EXPECT_EQ(values.first().counter, counter);
-    EXPECT_EQ(values.first().name, name);
-    EXPECT_EQ(values.first().code, code);
-    EXPECT_EQ(values.first().nameEng, QStringLiteral("it's"));
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Goods")), 0);  // still there
 }
 
 TEST_P(TypesRepositoryTest, SaveChecksNameCodeDigitsAndRepeatsInOrder) {
@@ -191,67 +169,6 @@ TEST_P(TypesRepositoryTest, EditingAValueKeepsItsCodeAndReplacesItsLinks) {
     EXPECT_EQ(repo().save(edited, {}).message, listmessages::kRepeatedCode);
 }
 
-TEST_P(TypesRepositoryTest, ParentOptionsAreTickedWhereLinked) {
-    const int a = add(501, QStringLiteral("1"), QStringLiteral("Beta"));
-    const int b = add(501, QStringLiteral("2"), QStringLiteral("Alpha"));
-    const int child = add(502, QStringLiteral("10"), QStringLiteral("c"), {a});
-    const QList<TypesRepository::ParentOption> options = repo().parentOptions(501, child);
-    ASSERT_EQ(options.size(), 2);
-    EXPECT_EQ(options.at(0).name, QStringLiteral("Alpha"));
-    EXPECT_EQ(options.at(0).counter, b);
-    EXPECT_FALSE(options.at(0).linked);
-    EXPECT_TRUE(options.at(1).linked);
-    for (const auto& o : repo().parentOptions(501, 0)) {
-        EXPECT_FALSE(o.linked);  // a new value hangs under nothing yet
-    }
-}
-
-TEST_P(TypesRepositoryTest, PickerListsLinkedChildrenOrFallsBackToTheWholeList) {
-    const int dairy = add(501, QStringLiteral("1"), QStringLiteral("Dairy"));
-    const int bakery = add(501, QStringLiteral("2"), QStringLiteral("Bakery"));
-    add(502, QStringLiteral("10"), QStringLiteral("Milk"), {dairy});
-    add(502, QStringLiteral("11"), QStringLiteral("Cheese"), {dairy});
-    add(502, QStringLiteral("20"), QStringLiteral("Bread"));
-    TypesRepository r = repo();
-    struct Case {
-        int parent;
-        Column column;
-        const char* text;
-        QStringList codes;
-    };
-    const Case cases[] = {
-        {dairy, Column::None, "", {"10", "11"}},
-        {dairy, Column::Name, "ees", {"11"}},
-        {dairy, Column::Code, "2", {}},
-        {bakery, Column::None, "", {"10", "11", "20"}},  // no links under it: everything
-        {0, Column::None, "", {"10", "11", "20"}},
-        {0, Column::Code, "0", {"10", "20"}},
-        {9999, Column::Name, "Bread", {"20"}},
-    };
-    for (const Case& c : cases) {
-        QStringList found = codesOf(r.picker(502, c.parent, c.column, QString::fromUtf8(c.text)));
-        found.sort();
-        EXPECT_EQ(found, c.codes) << c.parent << " " << c.text;
-    }
-    const QList<Value> milk = r.picker(502, dairy, Column::Code, QStringLiteral("10"));
-    ASSERT_EQ(milk.size(), 1);
-    EXPECT_EQ(milk.first().name, QStringLiteral("Milk"));
-    EXPECT_GT(milk.first().counter, 0);
-}
-
-TEST_P(TypesRepositoryTest, PickerListsInCodeOrderWhateverTheOrderOfEntry) {
-    const int dairy = add(501, QStringLiteral("1"), QStringLiteral("Dairy"));
-    add(502, QStringLiteral("30"), QStringLiteral("Yoghurt"), {dairy});
-    add(502, QStringLiteral("05"), QStringLiteral("Butter"));
-    add(502, QStringLiteral("10"), QStringLiteral("Milk"), {dairy});
-    add(502, QStringLiteral("20"), QStringLiteral("Cheese"), {dairy});
-    TypesRepository r = repo();
-    EXPECT_EQ(codesOf(r.picker(502, dairy)), (QStringList{"10", "20", "30"}));
-    EXPECT_EQ(codesOf(r.picker(502)), (QStringList{"05", "10", "20", "30"}));
-    EXPECT_EQ(codesOf(r.picker(502, 0, Column::Name, QStringLiteral("e"))),
-              (QStringList{"05", "20"}));
-}
-
 TEST_P(TypesRepositoryTest, DeleteIsRefusedWhileGoodsOrAccountsUseTheValue) {
     using namespace listmessages;
     const int used = add(503, QStringLiteral("1"), QStringLiteral("used"));
@@ -326,42 +243,6 @@ TEST_P(TypesRepositoryTest, PartyCodesShareOneRunWithDashesRemoved) {
                               "(200, 10, '9-9-9')")));
     EXPECT_EQ(repo().newPartyCode(), 1000);
     EXPECT_EQ(repo().newCounter(10), 201);
-}
-
-TEST_P(TypesRepositoryTest, SingleValuedSettingsAreMadeOnFirstSaveThenUpdated) {
-    TypesRepository r = repo();
-    EXPECT_EQ(r.singleCode(), QString());
-    EXPECT_EQ(r.clubFigures().purchaseFactor, 0);
-    ASSERT_TRUE(r.saveSingleCode(QStringLiteral("7")));
-    ASSERT_TRUE(r.saveSingleCode(QStringLiteral("8")));
-    ASSERT_TRUE(r.saveSingleName(QStringLiteral("پيام")));
-    ASSERT_TRUE(r.saveClubFigures({1500000, 25000.5}));
-    ASSERT_TRUE(r.saveClubFigures({2000000, 30000}));
-    EXPECT_EQ(r.singleCode(), QStringLiteral("8"));
-    EXPECT_EQ(r.singleName(), QStringLiteral("پيام"));
-    EXPECT_EQ(r.clubFigures().purchaseFactor, 2000000);
-    EXPECT_EQ(r.clubFigures().rebateAmount, 30000);
-    for (const int typeNo : {TypesRepository::kSingleCodeSetting,
-                             TypesRepository::kSingleNameSetting, TypesRepository::kClubFigures}) {
-        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types WHERE TypeNo = :t"),
-                        {{QStringLiteral(":t"), typeNo}}),
-                  1)
-            << typeNo;
-    }
-    // Figures typed with separators are read as amounts.
-    Session s = session();
-    ASSERT_TRUE(s.exec(QStringLiteral("UPDATE Types SET Value1 = :v WHERE TypeNo = 1009"),
-                       {{QStringLiteral(":v"), QStringLiteral("1,250,000")}}));
-    EXPECT_EQ(r.clubFigures().purchaseFactor, 1250000);
-}
-
-TEST_P(TypesRepositoryTest, UnitsAreListedByName) {
-    add(61, QStringLiteral("2"), QStringLiteral("kg"));
-    add(61, QStringLiteral("1"), QStringLiteral("box"));
-    const QList<Value> units = repo().units();
-    ASSERT_EQ(units.size(), 2);
-    EXPECT_EQ(units.at(0).name, QStringLiteral("box"));
-    EXPECT_EQ(units.at(1).name, QStringLiteral("kg"));
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(TypesRepositoryTest);

@@ -73,16 +73,6 @@ TEST(AmountEdit, DeleteBeforeASeparatorRemovesTheDigitAfterIt) {
     EXPECT_EQ(edit.cursorPosition(), 1);
 }
 
-TEST(AmountEdit, SetValueShowsTheShopForm) {
-    AmountEdit edit;
-    edit.setValue(1234567.4);
-    EXPECT_EQ(edit.text(), QStringLiteral("1,234,567"));
-    edit.setDecimals(3);
-    edit.setValue(1234.5);
-    EXPECT_EQ(edit.text(), QStringLiteral("1,234.5"));
-    EXPECT_EQ(edit.value(), 1234.5);
-}
-
 TEST(AmountEdit, NegativeAmountsOnlyWhenAllowed) {
     AmountEdit edit;
     edit.setValue(-1500);
@@ -92,12 +82,6 @@ TEST(AmountEdit, NegativeAmountsOnlyWhenAllowed) {
     QTest::keyClicks(&edit, QStringLiteral("-1500"));
     EXPECT_EQ(edit.text(), QStringLiteral("-1,500"));
     EXPECT_EQ(edit.value(), -1500);
-}
-
-TEST(AmountEdit, EmptyBoxReadsZero) {
-    AmountEdit edit;
-    EXPECT_EQ(edit.value(), 0);
-    EXPECT_FALSE(edit.hasAcceptableInput());
 }
 
 TEST(AmountValidator, RefusesMoreWholeDigitsThanADoubleHolds) {

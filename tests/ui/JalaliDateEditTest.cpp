@@ -72,18 +72,5 @@ TEST(JalaliDateEdit, SetDateTextTakesTypedFormsAndRefusesOthers) {
     EXPECT_EQ(edit.dateText(), QString());
 }
 
-TEST(JalaliDateEdit, TellsWhenTheDateChanges) {
-    JalaliDateEdit edit;
-    QSignalSpy changed(&edit, &JalaliDateEdit::dateChanged);
-    QTest::keyClicks(&edit, QStringLiteral("1404010"));
-    EXPECT_EQ(changed.count(), 0);  // no real day yet
-    QTest::keyClicks(&edit, QStringLiteral("5"));
-    ASSERT_EQ(changed.count(), 1);
-    EXPECT_EQ(changed.at(0).at(0).toString(), QStringLiteral("1404/01/05"));
-    QTest::keyClick(&edit, Qt::Key_Backspace);
-    ASSERT_EQ(changed.count(), 2);
-    EXPECT_EQ(changed.at(1).at(0).toString(), QString());
-}
-
 }  // namespace
 }  // namespace sandogh

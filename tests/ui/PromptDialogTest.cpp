@@ -37,14 +37,6 @@ TEST(PromptDialog, BuildsARightToLeftDialogWithTheQuestion) {
     EXPECT_FALSE(dialog->isPassword());
 }
 
-TEST(PromptDialog, HidesACardPassword) {
-    const auto dialog = QtMessageService::buildPrompt(QStringLiteral("رمز کارت"), {}, true);
-    EXPECT_TRUE(dialog->isPassword());
-    const auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("txtAnswer"));
-    ASSERT_NE(edit, nullptr);
-    EXPECT_EQ(edit->echoMode(), QLineEdit::Password);
-}
-
 TEST(PromptDialog, AcceptedAnswerComesBack) {
     QtMessageService messages;
     QString answer = QStringLiteral("1");

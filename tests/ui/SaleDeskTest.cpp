@@ -133,53 +133,6 @@ TEST_F(SaleDeskTest, TheMenuOpensOneSaleScreenAndF3Another) {
     EXPECT_EQ(lines, 1);
 }
 
-TEST_F(SaleDeskTest, TheDrawerButtonKicksThroughThePrinter) {
-    setOption(settingkeys::CashDrawerEnable, QStringLiteral("1"));
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
-    ASSERT_NE(screen, nullptr);
-    ASSERT_TRUE(screen->btnOpenCash->isVisible());
-    screen->btnOpenCash->click();
-    ASSERT_EQ(app.printer.jobs.size(), 1);
-    EXPECT_EQ(app.printer.jobs.front().first, QString::fromLatin1(CashDrawer::kJobName));
-    EXPECT_EQ(app.printer.jobs.front().second, CashDrawer::kickBytes());
-}
-
-TEST_F(SaleDeskTest, TheOpenDetailPanelKeepsTheSideFieldsReadableOnALowScreen) {
-    auto window = openMain();
-    window->resize(1366, 768);
-    frmSale* screen = openSale(*window);
-    ASSERT_NE(screen, nullptr);
-    window->mdiArea()->activeSubWindow()->showMaximized();
-    screen->btnDetail->click();
-    QApplication::processEvents();
-    ASSERT_TRUE(screen->frmDetail->isVisible());
-    for (QWidget* part : {static_cast<QWidget*>(screen->frmDetail),
-                          static_cast<QWidget*>(screen->customerPanel())}) {
-        EXPECT_GE(part->height(), part->minimumSizeHint().height())
-            << part->objectName().toStdString();
-    }
-}
-
-TEST_F(SaleDeskTest, ThePaymentSplitOpensWithTheAmountPayableAndACancelChangesNothing) {
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
-    ASSERT_NE(screen, nullptr);
-    scan(*screen, kBarcode);
-    QString shown;
-    {
-        test::DialogDriver driver(QStringLiteral("frmSalePayment"), [&shown](QWidget* dialog) {
-            auto* split = qobject_cast<frmSalePayment*>(dialog);
-            shown = split->lblDocSum->text();
-            split->reject();
-        });
-        screen->btnPaymentType->click();
-    }
-    EXPECT_TRUE(shown.endsWith(QStringLiteral("125,000"))) << shown.toStdString();
-    EXPECT_TRUE(SaleDesk::of(*screen)->actions().settlementOnScreen().payments.isEmpty());
-    EXPECT_EQ(screen->session().lines().size(), 1);
-}
-
 struct HandOffCase {
     const char* name;
     Qt::Key key;
@@ -189,49 +142,6 @@ struct HandOffCase {
 
 class SaleDeskHandOffTest : public SaleDeskTest,
                             public ::testing::WithParamInterface<HandOffCase> {};
-
-TEST_P(SaleDeskHandOffTest, TheTerminalKeysHandTheAmountPayableToTheCompanion) {
-    const HandOffCase& c = GetParam();
-    if (c.companionThere) {
-        QDir(app.programFolder()).mkpath(QStringLiteral("Program"));
-        QFile exe(app.path(QStringLiteral("Program/KotrimoAcc.exe")));
-        ASSERT_TRUE(exe.open(QIODevice::WriteOnly));
-    }
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
-    ASSERT_NE(screen, nullptr);
-
-    // Nothing rung up: nothing handed over.
-    QTest::keyClick(screen->txtBarcode, c.key);
-    EXPECT_TRUE(app.launcher.calls.isEmpty());
-
-    scan(*screen, kBarcode);
-    scan(*screen, QStringLiteral("2"));
-    app.messages.clear();
-    QTest::keyClick(screen->txtBarcode, c.key);
-    if (c.companionThere) {
-        ASSERT_EQ(app.launcher.calls.size(), 1);
-        EXPECT_EQ(app.launcher.calls.front().arguments,
-                  QStringList{QString::fromLatin1(c.command) + QStringLiteral("250000")});
-        EXPECT_EQ(app.messages.count(), 0);
-    } else {
-        EXPECT_TRUE(app.launcher.calls.isEmpty());
-        EXPECT_EQ(app.messages.countOf(SaleDeskActions::companionMissingText()), 1);
-    }
-    // The sale stays as it was, the focus back in the barcode box.
-    EXPECT_EQ(screen->session().lines().size(), 1);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Keys, SaleDeskHandOffTest,
-    ::testing::Values(HandOffCase{"Mellat", Qt::Key_F7, "mnuPosMellat,", true},
-                      HandOffCase{"Saman", Qt::Key_F8, "mnuPosSaman,", true},
-                      HandOffCase{"Pasargad", Qt::Key_F9, "mnuPosPasargad,", true},
-                      HandOffCase{"Kish", Qt::Key_F10, "mnuKishPsp,", true},
-                      HandOffCase{"AsanPardakht", Qt::Key_F11, "mnuAsanPardakhtPsp,", true},
-                      HandOffCase{"Damavand", Qt::Key_F12, "mnuDamavandPsp,", true},
-                      HandOffCase{"CompanionMissing", Qt::Key_F7, "mnuPosMellat,", false}),
-    test::CaseName());
 
 class SaleDeskPecTest : public SaleDeskTest {
 protected:
@@ -276,48 +186,6 @@ TEST_F(SaleDeskPecTest, F5SendsThePayableAndTheScreenGoesOnUntilTheAnswer) {
     EXPECT_EQ(codes, QStringList{QStringLiteral("00")});
     EXPECT_EQ(posRows(), 1);
     EXPECT_FALSE(terminal.waiting());
-}
-
-TEST_F(SaleDeskPecTest, ARefusalIsShownAndNothingRecorded) {
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
-    ASSERT_NE(screen, nullptr);
-    scan(*screen, kBarcode);
-    screen->btnParsianPos->click();
-    const QByteArray expected = PecRequest::build(QStringLiteral("125,000"), screen->txtNo->text());
-    EXPECT_EQ(pty.readMaster(expected.size()), expected);
-
-    PecTerminal& terminal = SaleDesk::of(*screen)->pecTerminal();
-    QStringList codes;
-    QObject::connect(&terminal, &PecTerminal::answered,
-                     [&codes](const QString& code) { codes << code; });
-    app.messages.clear();
-    pty.writeMaster("0012RS00255");
-    ASSERT_TRUE(test::waitUntil([&] { return !codes.isEmpty(); }));
-    EXPECT_EQ(app.messages.countOf(PecResponse::message(QStringLiteral("55"))), 1);
-    EXPECT_EQ(posRows(), 0);
-    EXPECT_EQ(screen->session().lines().size(), 1);
-}
-
-TEST_F(SaleDeskTest, ClosingTheSaleScreenResetsThePriceDisplay) {
-    test::PtyPair display;
-    ASSERT_TRUE(display.ok());
-    setOption(settingkeys::DisplayEnable, QStringLiteral("1"));
-    setOption(settingkeys::DisplayLine, QStringLiteral("3"));
-    setOption(settingkeys::CustomerDisplayDevice, display.slavePath());
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
-    ASSERT_NE(screen, nullptr);
-    scan(*screen, kBarcode);
-    const QByteArray total("\x1bQA125000\r");
-    EXPECT_EQ(display.readMaster(total.size()), total);
-
-    // The unsaved sale is given up when asked.
-    app.messages.queueAnswer(true);
-    window->mdiArea()->activeSubWindow()->close();
-    const QByteArray reset("\x1bs1\r");
-    EXPECT_EQ(display.readMaster(reset.size()), reset);
-    EXPECT_EQ(saleScreens(*window), 0);
 }
 
 struct SaveCase {

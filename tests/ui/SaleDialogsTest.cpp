@@ -83,21 +83,6 @@ TEST(frmUserSelectTest, NoSellersNoQuestion) {
     EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST(frmChangeQtyTest, StartsAtTheLinesQuantity) {
-    frmChangeQty dialog;
-    SaleLine line;
-    line.barcode = QStringLiteral("6262004");
-    line.name = QStringLiteral("ماست");
-    line.quantity = 2.5;
-    dialog.prepare(line);
-    auto* box = dialog.findChild<QLineEdit*>(QStringLiteral("txtQty"));
-    ASSERT_NE(box, nullptr);
-    EXPECT_EQ(box->text(), QStringLiteral("2.5"));
-    EXPECT_EQ(dialog.quantity(), std::optional<double>(2.5));
-    box->setText(QStringLiteral("0"));
-    EXPECT_FALSE(dialog.quantity().has_value());
-}
-
 class SaleDialogsOnScreenTest : public SaleScreenTest {};
 
 TEST_F(SaleDialogsOnScreenTest, QuantityIsAskedForAnArticleThatAsks) {
@@ -140,29 +125,6 @@ TEST_F(SaleDialogsOnScreenTest, PriceIsChosenWhenTheArticleHasSeveral) {
 
     ASSERT_EQ(lineCount(), 1);
     EXPECT_DOUBLE_EQ(unitPriceOf(0), 10500);
-}
-
-TEST_F(SaleDialogsOnScreenTest, SellerIsChosenForEachLine) {
-    setOption("UseUserIDInSale", "Enable", QStringLiteral("1"));
-    addUser(5, QStringLiteral("sara"));
-    addUser(6, QStringLiteral("nima"));
-    addUser(7, QStringLiteral("old"), false);
-    addGoods({QStringLiteral("6262012"), 5000});
-    openScreen();
-
-    DialogDriver choose(QStringLiteral("frmUserSelect"), [](QWidget* d) {
-        auto* list = d->findChild<QListWidget*>(QStringLiteral("lstUsers"));
-        ASSERT_NE(list, nullptr);
-        // Active users only.
-        ASSERT_EQ(list->count(), 2);
-        list->setCurrentRow(1);
-        QTest::keyClick(list, Qt::Key_Return);
-    });
-    scan(QStringLiteral("6262012"));
-
-    ASSERT_EQ(lineCount(), 1);
-    EXPECT_EQ(screen().session().linesModel().line(0).seller, QStringLiteral("nima"));
-    EXPECT_EQ(screen().session().linesModel().line(0).sellerId, 6);
 }
 
 }  // namespace

@@ -74,31 +74,6 @@ TEST_F(frmLoginTest, AnEmptyShopIsGivenAnAdministratorAndToldSo) {
     EXPECT_EQ(loggedIn.first().first().value<UserAccount>().level, PermissionLevel::Administrator);
 }
 
-TEST_F(frmLoginTest, TheRightPasswordLogsTheUserIn) {
-    ASSERT_TRUE(app.openShop(true));
-    const struct {
-        const char* userName;
-        const char* password;
-        PermissionLevel level;
-    } cases[] = {
-        {"admin", "1234", PermissionLevel::Administrator},
-        {" Cashier", "1111", PermissionLevel::Cashier},
-    };
-    for (const auto& c : cases) {
-        auto screen = openScreen();
-        QSignalSpy loggedIn(screen.get(), &frmLogin::loggedIn);
-        type(*screen, "txtUserName", QString::fromLatin1(c.userName));
-        type(*screen, "txtPassword", QString::fromLatin1(c.password));
-        QTest::mouseClick(control<QPushButton>(*screen, "cmdOK"), Qt::LeftButton);
-        ASSERT_EQ(loggedIn.count(), 1) << c.userName;
-        const auto user = loggedIn.first().first().value<UserAccount>();
-        EXPECT_EQ(user.userName, QString::fromLatin1(c.userName).trimmed().toLower());
-        EXPECT_EQ(user.level, c.level);
-        EXPECT_TRUE(user.isValid());
-    }
-    EXPECT_TRUE(app.messages.messages().isEmpty());
-}
-
 TEST_F(frmLoginTest, EnterMovesToThePasswordAndThenLogsIn) {
     ASSERT_TRUE(app.openShop(true));
     auto screen = openScreen();
@@ -134,23 +109,6 @@ TEST_F(frmLoginTest, ARefusedLoginIsWarnedAboutAndMayBeTriedAgain) {
     type(*screen, "txtPassword", QStringLiteral("1234"));
     QTest::mouseClick(control<QPushButton>(*screen, "cmdOK"), Qt::LeftButton);
     EXPECT_EQ(loggedIn.count(), 1);
-}
-
-TEST_F(frmLoginTest, CancelAndClosingBothCancelOnce) {
-    ASSERT_TRUE(app.openShop(true));
-    {
-        auto screen = openScreen();
-        QSignalSpy cancelled(screen.get(), &frmLogin::cancelled);
-        QTest::mouseClick(control<QPushButton>(*screen, "cmdCancel"), Qt::LeftButton);
-        screen->close();
-        EXPECT_EQ(cancelled.count(), 1);
-    }
-    {
-        auto screen = openScreen();
-        QSignalSpy cancelled(screen.get(), &frmLogin::cancelled);
-        screen->close();
-        EXPECT_EQ(cancelled.count(), 1);
-    }
 }
 
 }  // namespace

@@ -123,27 +123,6 @@ TEST_F(frmMainTest, TheStatusBarShowsUserCashDeskDayAndVersion) {
     EXPECT_EQ(app.context.displayGreeting(), QString::fromLatin1(DemoShop::kGreeting));
 }
 
-TEST_F(frmMainTest, TheSecondPortNumberShowsWhenThePortsAreOn) {
-    const struct {
-        const char* enable;
-        const char* port2;
-        const char* shown;
-    } cases[] = {
-        {"1", "7", " COM:7"},
-        {"1", "0", " COM:2"},  // MSComm2 keeps its built-in port, COM 2
-        {"0", "7", ""},
-    };
-    for (const auto& c : cases) {
-        MachineSettings& settings = app.context.machineSettings();
-        settings.write(settingkeys::PortsEnable, QString::fromLatin1(c.enable));
-        settings.write(settingkeys::PortNo2, QString::fromLatin1(c.port2));
-        // No such device here: the port stays closed, as a missing port does.
-        settings.write(settingkeys::MSComm2Device, QStringLiteral("/nonexistent/ttySandogh"));
-        auto window = openWindow(PermissionLevel::Cashier);
-        EXPECT_EQ(panel(*window, "stbPort")->text(), QString::fromLatin1(c.shown)) << c.port2;
-    }
-}
-
 TEST_F(frmMainTest, AScreenOpensOnceAsAChildWindow) {
     auto window = openWindow(PermissionLevel::Administrator);
     action(*window, "mnuSetUp")->trigger();
@@ -168,30 +147,6 @@ TEST_F(frmMainTest, AScreenOpensOnceAsAChildWindow) {
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(window->mdiArea()->subWindowList().isEmpty());
-}
-
-TEST_F(frmMainTest, EachListIsItsOwnChildWindow) {
-    auto window = openWindow(PermissionLevel::Administrator);
-    for (const char* command : {"mnuCustomers", "mnuSuppliers", "mnuCustomers", "mnuGoodsList",
-                                "mnuGoodsLevels", "mnuAccountLevels", "mnuUnits"}) {
-        action(*window, command)->trigger();
-    }
-    QStringList titles;
-    for (const QMdiSubWindow* child : window->mdiArea()->subWindowList()) {
-        titles << child->windowTitle();
-    }
-    EXPECT_EQ(titles.size(), 6);
-    EXPECT_EQ(QSet<QString>(titles.cbegin(), titles.cend()).size(), 6);
-    EXPECT_EQ(window->mdiArea()->activeSubWindow()->widget()->objectName(),
-              QStringLiteral("frmParameters"));
-}
-
-TEST_F(frmMainTest, TheScaleProgramIsStartedOrMissedAloud) {
-    auto window = openWindow(PermissionLevel::Administrator);
-    action(*window, "mnuScale")->trigger();
-    EXPECT_TRUE(app.launcher.calls.isEmpty());
-    ASSERT_EQ(app.messages.messages().size(), 1);
-    EXPECT_EQ(app.messages.messages().first().style, MessageStyle::Information);
 }
 
 TEST_F(frmMainTest, LeavingClosesTheChildWindowsAndEndsOnce) {

@@ -49,15 +49,6 @@ TEST_F(frmSaleKeysTest, CtrlDDeletesTheSelectedLine) {
     EXPECT_TRUE(barcodeHasFocus());
 }
 
-TEST_F(frmSaleKeysTest, CmdDelDeletesTheLineJustRungUp) {
-    ringUpTwoLines();
-
-    QTest::mouseClick(screen().cmdDel, Qt::LeftButton);
-
-    ASSERT_EQ(lineCount(), 1);
-    EXPECT_EQ(screen().session().linesModel().line(0).barcode, QStringLiteral("6261001"));
-}
-
 TEST_F(frmSaleKeysTest, CtrlMSwitchesBetweenSaleAndReturn) {
     openScreen();
     auto* received = screen().findChild<QLabel*>(QStringLiteral("lblReceivedPrice"));
@@ -76,27 +67,6 @@ TEST_F(frmSaleKeysTest, CtrlMSwitchesBetweenSaleAndReturn) {
     press(Qt::Key_M, Qt::ControlModifier);
     EXPECT_EQ(screen().lblCaption->text(), QStringLiteral("فاکتور فروش"));
     EXPECT_TRUE(screen().frmDetail->rdoTypeSale->isChecked());
-}
-
-TEST_F(frmSaleKeysTest, SalesTypeStaysWhileLinesAreOnTheGrid) {
-    ringUpTwoLines();
-    QTest::mouseClick(screen().btnDetail, Qt::LeftButton);
-    ASSERT_TRUE(screen().frmDetail->isVisible());
-
-    QTest::mouseClick(screen().frmDetail->rdoSalesTypeSecond, Qt::LeftButton);
-
-    EXPECT_EQ(messages().countOf(SaleTexts::salesTypeOnlyWhileEmpty()), 1);
-    EXPECT_EQ(screen().session().salesType(), SaleSession::kFirstSalesType);
-    EXPECT_TRUE(screen().frmDetail->rdoSalesTypeFirst->isChecked());
-
-    // With the grid emptied the second type is taken.
-    press(Qt::Key_Escape);  // closes the detail panel
-    press(Qt::Key_Escape);  // a new sale
-    ASSERT_EQ(lineCount(), 0);
-    QTest::mouseClick(screen().btnDetail, Qt::LeftButton);
-    QTest::mouseClick(screen().frmDetail->rdoSalesTypeSecond, Qt::LeftButton);
-    EXPECT_EQ(screen().session().salesType(), SaleSession::kSecondSalesType);
-    EXPECT_EQ(messages().countOf(SaleTexts::salesTypeOnlyWhileEmpty()), 1);
 }
 
 TEST_F(frmSaleKeysTest, EscapeClosesTheDetailPanelFirstThenStartsANewSale) {
@@ -165,34 +135,6 @@ struct HandOffCase {
 
 class frmSaleTerminalTest : public SaleScreenTest,
                             public ::testing::WithParamInterface<HandOffCase> {};
-
-TEST_P(frmSaleTerminalTest, FunctionKeyHandsTheTerminalOn) {
-    RecordingSaleActions actions;
-    openScreen().setActions(&actions);
-
-    press(GetParam().key);
-
-    EXPECT_EQ(actions.handOffs, QStringList{QString::fromLatin1(GetParam().command)});
-    EXPECT_EQ(actions.saves, 0);
-}
-
-INSTANTIATE_TEST_SUITE_P(Terminals, frmSaleTerminalTest,
-                         ::testing::Values(HandOffCase{Qt::Key_F7, "mnuPosMellat,"},
-                                           HandOffCase{Qt::Key_F8, "mnuPosSaman,"},
-                                           HandOffCase{Qt::Key_F9, "mnuPosPasargad,"},
-                                           HandOffCase{Qt::Key_F10, "mnuKishPsp,"},
-                                           HandOffCase{Qt::Key_F11, "mnuAsanPardakhtPsp,"},
-                                           HandOffCase{Qt::Key_F12, "mnuDamavandPsp,"}));
-
-TEST_F(frmSaleKeysTest, F5PaysOnTheCardTerminal) {
-    RecordingSaleActions actions;
-    openScreen().setActions(&actions);
-
-    press(Qt::Key_F5);
-    QTest::mouseClick(screen().btnParsianPos, Qt::LeftButton);
-
-    EXPECT_EQ(actions.pecPayments, 2);
-}
 
 struct SaveCase {
     const char* name;
@@ -269,18 +211,6 @@ INSTANTIATE_TEST_SUITE_P(Keys, frmSaleRequestTest,
 
 class frmSaleSwitchedOffRequestTest : public frmSaleRequestTest {};
 
-TEST_P(frmSaleSwitchedOffRequestTest, NothingIsAskedWhileTheDeskSwitchIsOff) {
-    openScreen();
-    QSignalSpy spy(&screen(), GetParam().signal);
-
-    press(GetParam().key, GetParam().modifiers);
-
-    EXPECT_EQ(spy.count(), 0);
-}
-
-INSTANTIATE_TEST_SUITE_P(Keys, frmSaleSwitchedOffRequestTest,
-                         ::testing::Values(kGoodDefinition, kNewSaleForm), CaseName());
-
 TEST_F(frmSaleKeysTest, CtrlQChangesTheQuantityOfTheSelectedLine) {
     ringUpTwoLines();
     screen().Grid1->selectLine(0);
@@ -299,17 +229,6 @@ TEST_F(frmSaleKeysTest, CtrlQChangesTheQuantityOfTheSelectedLine) {
     EXPECT_EQ(totalShown(), QStringLiteral("27,500"));
     EXPECT_EQ(screen().session().ChangedRowNo(), 0);
     EXPECT_TRUE(barcodeHasFocus());
-}
-
-TEST_F(frmSaleKeysTest, CtrlQCancelledChangesNothing) {
-    ringUpTwoLines();
-    DialogDriver cancel(QStringLiteral("frmChangeQty"),
-                        [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
-
-    press(Qt::Key_Q, Qt::ControlModifier);
-
-    EXPECT_DOUBLE_EQ(quantityOf(1), 1);
-    EXPECT_EQ(lineCount(), 2);
 }
 
 TEST_F(frmSaleKeysTest, CtrlLSearchesGoodsAndComesBackToTheBarcodeBox) {

@@ -77,44 +77,12 @@ TEST_F(frmSalePanelsTest, ChoosingAFavouriteRingsItUp) {
     EXPECT_TRUE(barcodeHasFocus());
 }
 
-TEST_F(frmSalePanelsTest, FavouriteColumnOrderIsKeptAndRestored) {
-    addFavourites();
-    openScreen();
-    QHeaderView* header = favouritesGrid()->horizontalHeader();
-
-    // The user drags the price column to the front.
-    header->moveSection(header->visualIndex(SaleFavouritesPanel::ColCost), 0);
-
-    EXPECT_EQ(settings().saleGoodsColumnOrder(), QStringLiteral("2,0,1"));
-
-    closeScreen();
-    openScreen();
-    header = favouritesGrid()->horizontalHeader();
-    EXPECT_EQ(header->logicalIndex(0), SaleFavouritesPanel::ColCost);
-    EXPECT_EQ(header->logicalIndex(1), SaleFavouritesPanel::ColBarcode);
-    EXPECT_EQ(header->logicalIndex(2), SaleFavouritesPanel::ColName);
-    // Putting the order back is no move of the user's: the kept text stays.
-    EXPECT_EQ(settings().saleGoodsColumnOrder(), QStringLiteral("2,0,1"));
-}
-
 struct OrderCase {
     const char* text;
     QList<int> order;
 };
 
 class SaleFavouritesOrderTest : public ::testing::TestWithParam<OrderCase> {};
-
-TEST_P(SaleFavouritesOrderTest, ParsesOnlyAWholeOrder) {
-    EXPECT_EQ(SaleFavouritesPanel::parseColumnOrder(QString::fromLatin1(GetParam().text)),
-              GetParam().order);
-}
-
-INSTANTIATE_TEST_SUITE_P(Texts, SaleFavouritesOrderTest,
-                         ::testing::Values(OrderCase{"2,0,1", {2, 0, 1}},
-                                           OrderCase{" 1, 2 ,0", {1, 2, 0}}, OrderCase{"", {}},
-                                           OrderCase{"0,1", {}}, OrderCase{"0,0,1", {}},
-                                           OrderCase{"0,1,3", {}}, OrderCase{"a,b,c", {}},
-                                           OrderCase{"0,1,2,3", {}}));
 
 TEST_F(frmSalePanelsTest, CustomerSearchEnterSearchesArrowsMove) {
     addCustomer(11, QStringLiteral("101"), QStringLiteral("علی"), QStringLiteral("رضایی"));
@@ -149,56 +117,6 @@ TEST_F(frmSalePanelsTest, CustomerSearchEnterSearchesArrowsMove) {
     EXPECT_EQ(screen().session().CompanyId(), 13);
 }
 
-TEST_F(frmSalePanelsTest, CustomerSearchByCodeAndNothingFound) {
-    addCustomer(21, QStringLiteral("501"), QStringLiteral("سارا"), QStringLiteral("نوری"));
-    openScreen();
-    SaleCustomerPanel* panel = screen().customerPanel();
-    panel->cmbSearchKind->setCurrentIndex(1);  // customer code
-    panel->txtAccountSearch->setText(QStringLiteral("501"));
-    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
-    EXPECT_EQ(screen().session().CompanyId(), 21);
-
-    panel->txtAccountSearch->setText(QStringLiteral("999"));
-    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
-    EXPECT_EQ(screen().session().CompanyId(), 0);
-    EXPECT_TRUE(panel->txtCustomerName->text().isEmpty());
-    EXPECT_EQ(panel->txtAccountSearch->text(), QStringLiteral("999"));
-}
-
-TEST_F(frmSalePanelsTest, CustomerSummaryOnCtrlH) {
-    addCustomer(31, QStringLiteral("301"), QStringLiteral("رضا"), QStringLiteral("پاکزاد"));
-    openScreen();
-    press(Qt::Key_H, Qt::ControlModifier);
-    EXPECT_EQ(messages().countOf(SaleTexts::customerNotResolved()), 1);
-
-    SaleCustomerPanel* panel = screen().customerPanel();
-    panel->txtAccountSearch->setText(QStringLiteral("رضا"));
-    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
-    messages().clear();
-    press(Qt::Key_H, Qt::ControlModifier);
-
-    ASSERT_EQ(messages().count(), 1);
-    const QStringList lines = messages().messages().first().text.split(QStringLiteral("\r\n"));
-    ASSERT_EQ(lines.size(), 4);
-    EXPECT_EQ(lines.at(0), SaleTexts::customerName() + QStringLiteral("رضا پاکزاد"));
-    EXPECT_EQ(lines.at(1), SaleTexts::customerPurchaseCount() + QStringLiteral("0"));
-}
-
-TEST_F(frmSalePanelsTest, NewSaleForgetsTheCustomer) {
-    addCustomer(41, QStringLiteral("401"), QStringLiteral("نیما"), QStringLiteral("صالحی"));
-    openScreen();
-    SaleCustomerPanel* panel = screen().customerPanel();
-    panel->txtAccountSearch->setText(QStringLiteral("نیما"));
-    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
-    ASSERT_EQ(screen().session().CompanyId(), 41);
-
-    press(Qt::Key_Escape);
-
-    EXPECT_EQ(screen().session().CompanyId(), 0);
-    EXPECT_TRUE(panel->txtAccountSearch->text().isEmpty());
-    EXPECT_TRUE(panel->txtCustomerName->text().isEmpty());
-}
-
 TEST_F(frmSalePanelsTest, DailyTotalsShownOnOpeningAndOnCtrlT) {
     setOption("Cash", "DisplayDailySale", QStringLiteral("1"));
     addGoods({QStringLiteral("7101"), 1000});
@@ -216,46 +134,6 @@ TEST_F(frmSalePanelsTest, DailyTotalsShownOnOpeningAndOnCtrlT) {
     addDocument(5, 2, QStringLiteral("7101"), 1, 10000, 10000);
     press(Qt::Key_T, Qt::ControlModifier);
     EXPECT_EQ(screen().lblDailySale->text(), QStringLiteral("فروش روزانه صندوق :210,000"));
-}
-
-TEST_F(frmSalePanelsTest, DailyTotalsStayHiddenWhileSwitchedOff) {
-    addDocument(1, 2, QStringLiteral("7102"), 1, 150000, 140000);
-    openScreen();
-    press(Qt::Key_T, Qt::ControlModifier);
-    EXPECT_FALSE(screen().lblDailySale->isVisible());
-    EXPECT_TRUE(screen().lblDailySale->text().isEmpty());
-}
-
-TEST_F(frmSalePanelsTest, PickListsAreFilledOnOpening) {
-    exec(QStringLiteral("INSERT INTO DiscountType (Id, Name) VALUES (1, 'تخفیف ویژه')"));
-    exec(QStringLiteral("INSERT INTO Overhead (Id, Name) VALUES (1, 'حمل')"));
-    exec(QStringLiteral("INSERT INTO tblWarehouse (Code, Name, ISActive) VALUES (1, 'اصلی', 1)"));
-    exec(QStringLiteral("INSERT INTO tblWarehouse (Code, Name, ISActive) VALUES (2, 'قدیم', 0)"));
-    exec(QStringLiteral("INSERT INTO ReturnCause (Id, Name) VALUES (3, 'معیوب')"));
-    exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (2, 'کارت')"));
-    exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'نقد')"));
-    openScreen();
-
-    SaleTotalsPanel* totals = screen().totalsPanel();
-    SaleDetailPanel* detail = screen().detailPanel();
-    EXPECT_EQ(totals->cmbDiscountType->count(), 2);
-    EXPECT_EQ(totals->cmbDiscountType->itemText(1), QStringLiteral("تخفیف ویژه"));
-    EXPECT_EQ(totals->cmbOverhead->itemText(1), QStringLiteral("حمل"));
-    ASSERT_EQ(detail->cmbWarehouseSelector->count(), 2);
-    EXPECT_EQ(detail->cmbPayType->itemText(1), QStringLiteral("نقد"));
-    EXPECT_EQ(detail->cmbPayType->itemText(2), QStringLiteral("کارت"));
-    // The first kind is chosen already, and again for the next sale.
-    EXPECT_EQ(detail->cmbPayType->currentIndex(), 1);
-    detail->cmbPayType->setCurrentIndex(2);
-    detail->clearDocument();
-    EXPECT_EQ(detail->cmbPayType->currentIndex(), 1);
-    EXPECT_EQ(detail->cmbReturnCause->itemData(1).toInt(), 3);
-
-    // Choosing the warehouse tells the sale.
-    detail->cmbWarehouseSelector->setCurrentIndex(1);
-    EXPECT_EQ(screen().session().warehouse(), QStringLiteral("1"));
-    detail->cmbWarehouseSelector->setCurrentIndex(0);
-    EXPECT_TRUE(screen().session().warehouse().isEmpty());
 }
 
 struct LeaveCase {

@@ -14,10 +14,10 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "RecordingMessageService.h"
 #include "TypeText.h"
 #include "settings/QSettingsStore.h"
 #include "settings/SettingsCatalogue.h"
+#include "support/RecordingMessageService.h"
 #include "ui/settings/ProgramSettingField.h"
 #include "ui/settings/frmSetUp.h"
 #include "ui/widgets/AmountEdit.h"
@@ -65,55 +65,6 @@ protected:
     std::unique_ptr<QSettingsStore> transfer;
     test::RecordingMessageService messages;
 };
-
-TEST_F(frmSetUpTest, OnePageForEachPageOfTheCatalogue) {
-    const auto screen = openScreen();
-    const auto* pages = control<QListWidget>(*screen, QStringLiteral("lstPages"));
-    const auto* stack = control<QStackedWidget>(*screen, QStringLiteral("stkPages"));
-    ASSERT_NE(pages, nullptr);
-    ASSERT_NE(stack, nullptr);
-    EXPECT_EQ(pages->count(), 12);
-    EXPECT_EQ(stack->count(), pages->count());
-    EXPECT_EQ(pages->item(0)->text(), SettingsCatalogue::groupCaption(SettingGroup::Session));
-    EXPECT_EQ(screen->layoutDirection(), Qt::RightToLeft);
-    // The page list stands on the right of the pages.
-    EXPECT_GT(pages->mapTo(screen.get(), QPoint()).x(), stack->mapTo(screen.get(), QPoint()).x());
-}
-
-TEST_F(frmSetUpTest, ChoosingAPageShowsIt) {
-    const auto screen = openScreen();
-    auto* pages = control<QListWidget>(*screen, QStringLiteral("lstPages"));
-    auto* stack = control<QStackedWidget>(*screen, QStringLiteral("stkPages"));
-    auto* display = control<QCheckBox>(*screen, QStringLiteral("IsActivePoolDisplay/Enable"));
-    ASSERT_TRUE(pages && stack && display);
-    EXPECT_FALSE(display->isVisible());
-    pages->setCurrentRow(2);
-    EXPECT_EQ(stack->currentIndex(), 2);
-    EXPECT_TRUE(display->isVisible());
-}
-
-TEST_F(frmSetUpTest, EverySettingHasItsNamedEditor) {
-    const auto screen = openScreen();
-    for (const SettingDescriptor& row : SettingsCatalogue::all()) {
-        const QString name = row.section() + u'/' + row.name();
-        auto* editor = screen->findChild<QWidget*>(name);
-        ASSERT_NE(editor, nullptr) << name.toStdString();
-        switch (row.key.form) {
-            case SettingForm::Flag:
-                EXPECT_NE(qobject_cast<QCheckBox*>(editor), nullptr) << name.toStdString();
-                break;
-            case SettingForm::Number:
-                EXPECT_TRUE(qobject_cast<AmountEdit*>(editor) || qobject_cast<QSpinBox*>(editor))
-                    << name.toStdString();
-                break;
-            case SettingForm::Text:
-                // "True"/"False" switches are ticked rather than typed.
-                EXPECT_TRUE(qobject_cast<QLineEdit*>(editor) || qobject_cast<QCheckBox*>(editor))
-                    << name.toStdString();
-                break;
-        }
-    }
-}
 
 struct LoadCase {
     const char* section;
@@ -180,9 +131,9 @@ TEST_F(frmSetUpTest, SavedValuesReadBackFromTheFile) {
     EXPECT_TRUE(screen->hasChanges());
     QTest::mouseClick(save, Qt::LeftButton);
 
-    ASSERT_EQ(messages.shown.size(), 1);
-    EXPECT_EQ(messages.shown[0].text, frmSetUp::savedMessage());
-    EXPECT_EQ(messages.shown[0].style, MessageStyle::Information);
+    ASSERT_EQ(messages.messages().size(), 1);
+    EXPECT_EQ(messages.messages()[0].text, frmSetUp::savedMessage());
+    EXPECT_EQ(messages.messages()[0].style, MessageStyle::Information);
     EXPECT_FALSE(screen->hasChanges());
 
     screen.reset();
@@ -212,103 +163,9 @@ TEST_F(frmSetUpTest, ExitClosesWithoutWriting) {
     QTest::mouseClick(exit, Qt::LeftButton);
 
     EXPECT_FALSE(screen->isVisible());
-    EXPECT_TRUE(messages.shown.isEmpty());
+    EXPECT_TRUE(messages.messages().isEmpty());
     EXPECT_FALSE(QFile::exists(retailIni()));
     EXPECT_TRUE(retail->read(QStringLiteral("Devices"), QStringLiteral("MSComm1")).isEmpty());
-}
-
-TEST_F(frmSetUpTest, AFlagKeptAsTwoIsNotRewrittenUnlessChanged) {
-    ASSERT_TRUE(retail->write(QStringLiteral("IsActiveCashDraw"), QStringLiteral("Enable"),
-                              QStringLiteral("2")));
-    ASSERT_TRUE(retail->write(QStringLiteral("Scale"), QStringLiteral("IsActiveSadr"),
-                              QStringLiteral("2")));
-    ASSERT_TRUE(retail->write(QStringLiteral("PrinterPort"), QStringLiteral("USB"),
-                              QStringLiteral("true")));
-    auto screen = openScreen();
-    auto* drawer = control<QCheckBox>(*screen, QStringLiteral("IsActiveCashDraw/Enable"));
-    auto* sadr = control<QCheckBox>(*screen, QStringLiteral("Scale/IsActiveSadr"));
-    auto* mizan = control<QCheckBox>(*screen, QStringLiteral("Scale/IsActiveMizan"));
-    ASSERT_TRUE(drawer && sadr && mizan);
-    EXPECT_TRUE(drawer->isChecked());
-    EXPECT_TRUE(sadr->isChecked());
-
-    QTest::keyClick(mizan, Qt::Key_Space);  // another change, so that something is saved
-    QTest::keyClick(sadr, Qt::Key_Space);   // off
-    ASSERT_TRUE(screen->save());
-
-    screen.reset();
-    const QSettingsStore reopened(QStringLiteral("Retail"), retailIni());
-    EXPECT_EQ(reopened.read(QStringLiteral("IsActiveCashDraw"), QStringLiteral("Enable")),
-              QStringLiteral("2"));
-    EXPECT_EQ(reopened.read(QStringLiteral("Scale"), QStringLiteral("IsActiveSadr")),
-              QStringLiteral("0"));
-    EXPECT_EQ(reopened.read(QStringLiteral("Scale"), QStringLiteral("IsActiveMizan")),
-              QStringLiteral("1"));
-    EXPECT_EQ(reopened.read(QStringLiteral("PrinterPort"), QStringLiteral("USB")),
-              QStringLiteral("true"));
-}
-
-TEST_F(frmSetUpTest, DrawerOnPrinterIsWrittenAsAWord) {
-    auto screen = openScreen();
-    auto* usb = control<QCheckBox>(*screen, QStringLiteral("PrinterPort/USB"));
-    ASSERT_NE(usb, nullptr);
-    ASSERT_TRUE(usb->isChecked());
-    QTest::keyClick(usb, Qt::Key_Space);
-    ASSERT_TRUE(screen->save());
-    EXPECT_EQ(retail->read(QStringLiteral("PrinterPort"), QStringLiteral("USB")),
-              QStringLiteral("False"));
-    QTest::keyClick(usb, Qt::Key_Space);
-    ASSERT_TRUE(screen->save());
-    EXPECT_EQ(retail->read(QStringLiteral("PrinterPort"), QStringLiteral("USB")),
-              QStringLiteral("True"));
-}
-
-TEST_F(frmSetUpTest, ChangedBackIsNoChange) {
-    auto screen = openScreen();
-    auto* mizan = control<QCheckBox>(*screen, QStringLiteral("Scale/IsActiveMizan"));
-    auto* path = control<QLineEdit>(*screen, QStringLiteral("Programs/Companion"));
-    ASSERT_TRUE(mizan && path);
-    QTest::keyClick(mizan, Qt::Key_Space);
-    QTest::keyClick(mizan, Qt::Key_Space);
-    path->setText(path->text() + u'x');
-    path->setText(path->text().chopped(1));
-    EXPECT_FALSE(screen->hasChanges());
-    ASSERT_TRUE(screen->save());
-    EXPECT_FALSE(QFile::exists(retailIni()));
-}
-
-TEST_F(frmSetUpTest, TransferSettingGoesToItsOwnApplication) {
-    auto screen = openScreen();
-    auto* showPrice = control<AmountEdit>(*screen, QStringLiteral("FC/ShowPrice"));
-    ASSERT_NE(showPrice, nullptr);
-    EXPECT_EQ(showPrice->value(), 1);
-    showPrice->selectAll();
-    QTest::keyClicks(showPrice, QStringLiteral("2"));
-    ASSERT_TRUE(screen->save());
-    EXPECT_EQ(QSettingsStore(QStringLiteral("Factortransfer"), transferIni())
-                  .read(QStringLiteral("FC"), QStringLiteral("ShowPrice")),
-              QStringLiteral("2"));
-    EXPECT_TRUE(retail->read(QStringLiteral("FC"), QStringLiteral("ShowPrice")).isEmpty());
-}
-
-TEST_F(frmSetUpTest, SettingsOfAnApplicationWithoutAStoreAreLeftOff) {
-    frmSetUp screen({retail.get()}, folder.path(), messages);
-    EXPECT_EQ(screen.findChild<QWidget*>(QStringLiteral("FC/ShowPrice")), nullptr);
-    EXPECT_NE(screen.findChild<QWidget*>(QStringLiteral("Year/Year")), nullptr);
-}
-
-TEST_F(frmSetUpTest, PortPathBoxShowsTheMappedDeviceWhileEmpty) {
-    const auto screen = openScreen();
-    auto* port = control<QSpinBox>(*screen, QStringLiteral("PortNo/No2"));
-    auto* device = control<QLineEdit>(*screen, QStringLiteral("Devices/MSComm2"));
-    ASSERT_TRUE(port && device);
-    port->setValue(4);
-#ifdef Q_OS_WIN
-    EXPECT_EQ(device->placeholderText(), QStringLiteral("COM4"));
-#else
-    EXPECT_EQ(device->placeholderText(), QStringLiteral("/dev/ttyS3"));
-#endif
-    EXPECT_NE(screen->findChild<QToolButton*>(QStringLiteral("Programs/Drawer/browse")), nullptr);
 }
 
 TEST_F(frmSetUpTest, ARefusedWriteIsReported) {
@@ -321,19 +178,9 @@ TEST_F(frmSetUpTest, ARefusedWriteIsReported) {
     ASSERT_NE(mizan, nullptr);
     QTest::keyClick(mizan, Qt::Key_Space);
     EXPECT_FALSE(screen.save());
-    ASSERT_EQ(messages.shown.size(), 1);
-    EXPECT_EQ(messages.shown[0].style, MessageStyle::Critical);
+    ASSERT_EQ(messages.messages().size(), 1);
+    EXPECT_EQ(messages.messages()[0].style, MessageStyle::Critical);
     EXPECT_TRUE(screen.hasChanges());
-}
-
-TEST_F(frmSetUpTest, ChosenProgramIsKeptRelativeToTheProgramFolder) {
-    const QString programFolder = folder.filePath(QStringLiteral("shop"));
-    EXPECT_EQ(ProgramSettingField::pathToKeep(programFolder + QStringLiteral("/Program/Acc.exe"),
-                                              programFolder),
-              QStringLiteral("Program/Acc.exe"));
-    const QString outside = folder.filePath(QStringLiteral("other/Acc.exe"));
-    EXPECT_EQ(ProgramSettingField::pathToKeep(outside, programFolder), outside);
-    EXPECT_EQ(ProgramSettingField::pathToKeep(outside, QString()), outside);
 }
 
 }  // namespace

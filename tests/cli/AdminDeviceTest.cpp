@@ -131,34 +131,6 @@ INSTANTIATE_TEST_SUITE_P(
                     QStringList{"pec", "--amount", "1", "--invoice", "1", "--timeout", "0"},
                     QStringList{"drawer", "--now"}));
 
-TEST_F(AdminDevice, DisplaySendsToThePort) {
-    Pty pty;
-    ASSERT_TRUE(pty.ok());
-    const AdminProcess::Result r = AdminProcess::run(
-        {"device", "display", "--kind", "2", "--total", "12,500", "--port", pty.slave()});
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(pty.read(44), QByteArray("\r\n\r\n"
-                                       "    Price:12,500    "
-                                       "      Welcome       "));
-}
-
-TEST_F(AdminDevice, PriceDisplaySendsToItsPort) {
-    Pty pty;
-    ASSERT_TRUE(pty.ok());
-    const AdminProcess::Result r = AdminProcess::run(
-        {"device", "display", "--kind", "3", "--total", "12,500", "--port", pty.slave()});
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(pty.read(9), QByteArray("\x1b\x51\x41"
-                                      "12500\r"));
-}
-
-TEST_F(AdminDevice, DisplayOnAMissingPortFails) {
-    const AdminProcess::Result r = AdminProcess::run({"device", "display", "--kind", "3", "--total",
-                                                      "1", "--port", "/dev/sandogh-no-such-port"});
-    EXPECT_EQ(r.exitCode, 1);
-    EXPECT_TRUE(r.err.contains("cannot open /dev/sandogh-no-such-port"));
-}
-
 struct PecCase {
     QByteArray answer;
     QString line;
@@ -188,16 +160,6 @@ INSTANTIATE_TEST_SUITE_P(
                     PecCase{"RS00255", QString::fromUtf16(u"code 55: رمز کارت اشتباه است")},
                     PecCase{"RS00205", QStringLiteral("code 05: (no message)")}));
 
-TEST_F(AdminDevice, PecWithoutAnAnswerGivesUpAtTheTimeOut) {
-    Pty pty;
-    ASSERT_TRUE(pty.ok());
-    const AdminProcess::Result r =
-        AdminProcess::run({"device", "pec", "--amount", "1,000", "--invoice", "1", "--port",
-                           pty.slave(), "--timeout", "1"});
-    EXPECT_EQ(r.exitCode, 1);
-    EXPECT_TRUE(r.err.contains("no answer within 1 s"));
-}
-
 TEST_F(AdminDevice, PortsShowWhatEachPortMapsTo) {
     Pty pty;
     ASSERT_TRUE(pty.ok());
@@ -214,35 +176,6 @@ TEST_F(AdminDevice, PortsShowWhatEachPortMapsTo) {
         QStringLiteral("MSCommCustomerDisplay\tCOM7\t/dev/sandogh-no-such-port\tdoes not open")));
     EXPECT_EQ(lines[4],
               QStringLiteral("MSCommPec\tCOM5\t") + pty.slave() + QStringLiteral("\topens"));
-}
-
-TEST_F(AdminDevice, DrawerProgramIsStartedWhenNotOnThePrinter) {
-    const QString marker = dir.filePath(QStringLiteral("opened"));
-    const QString script = dir.filePath(QStringLiteral("drawer.sh"));
-    {
-        QFile f(script);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write("#!/bin/sh\necho \"$1\" > \"" + marker.toLocal8Bit() + "\"\n");
-        f.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-    settings("[PrinterPort]\nUSB=False\n[Programs]\nDrawer=" + script.toLocal8Bit() + "\n");
-    const AdminProcess::Result r = AdminProcess::run({"device", "drawer"});
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_TRUE(r.outText().startsWith(QStringLiteral("drawer: started ")));
-    QDeadlineTimer deadline(10000);
-    while (!QFile::exists(marker) && !deadline.hasExpired())
-        usleep(10000);
-    QFile f(marker);
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_EQ(f.readAll(), QByteArray("0\n"));
-}
-
-TEST_F(AdminDevice, DrawerWithoutAPrinterReportsIt) {
-    qputenv("CUPS_SERVER", "127.0.0.1:1");  // nothing listens there
-    const AdminProcess::Result r = AdminProcess::run({"device", "drawer"});
-    qunsetenv("CUPS_SERVER");
-    EXPECT_EQ(r.exitCode, 1);
-    EXPECT_TRUE(r.err.contains("The Printer Name you typed wasn't recognized."));
 }
 
 }  // namespace

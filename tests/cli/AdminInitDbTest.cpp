@@ -77,15 +77,6 @@ TEST_F(InitDbTest, CreatesTheSqliteFileThenFindsItUpToDate) {
         << again.outText().toStdString();
 }
 
-TEST_F(InitDbTest, TheFiscalYearOfTheMachineChoosesTheFile) {
-    writeProvider(sqliteProvider());
-    chooseFiscalYear(QStringLiteral("Shop1405"));
-    const AdminProcess::Result r = initDb();
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_TRUE(QFile::exists(path(QStringLiteral("Data/Shop1405.sqlite"))));
-    EXPECT_FALSE(QFile::exists(path(QStringLiteral("Data/Shop.sqlite"))));
-}
-
 TEST_F(InitDbTest, AMissingOrShortConnectionFileEndsWithTheStartUpMessage) {
     const struct {
         const char* name;
@@ -107,15 +98,6 @@ TEST_F(InitDbTest, AMissingOrShortConnectionFileEndsWithTheStartUpMessage) {
             log.readAll().contains("RoutineName : LoadPrimary\r\nModule : MainModule  \r\n"))
             << c.name;
     }
-}
-
-TEST_F(InitDbTest, AnUnknownProviderIsNamed) {
-    QStringList lines = sqliteProvider();
-    lines[0] = QStringLiteral("Provider=Jet.OLEDB.4.0;");
-    writeProvider(lines);
-    const AdminProcess::Result r = initDb();
-    EXPECT_EQ(r.exitCode, 1);
-    EXPECT_TRUE(r.err.contains("Jet.OLEDB.4.0")) << r.err.toStdString();
 }
 
 TEST_F(InitDbTest, CreatesThePostgresDatabase) {

@@ -86,14 +86,6 @@ TEST_P(AdminReportTest, DailyWithoutADateIsTodayAndBadWordsAreUsageErrors) {
     }
 }
 
-TEST_P(AdminReportTest, WithoutAConnectionFileNothingIsPrinted) {
-    QFile::remove(QDir(dir()).filePath(QStringLiteral("Provider.txt")));
-    const AdminProcess::Result r =
-        admin({QStringLiteral("report"), QStringLiteral("daily"), QStringLiteral("1404/01/05")});
-    EXPECT_EQ(r.exitCode, 1);
-    EXPECT_TRUE(r.out.isEmpty());
-}
-
 TEST_P(AdminReportTest, StockRepairRecomputesTheArticlesAskedOrAll) {
     exec(QStringLiteral(
         "INSERT INTO Goods (EAN_Code, Name) VALUES ('111', 'Tea'), ('222', 'Rice')"));

@@ -72,33 +72,6 @@ TEST_P(AdminSellSaveTest, SavingPrintsTheKeyNumberAndTotal) {
               2);
 }
 
-TEST_P(AdminSellSaveTest, ARefusedCheckPrintsItsMessageAndSavesNothing) {
-    struct Case {
-        QStringList rest;
-        QString message;
-    };
-    const QList<Case> cases{
-        {{QStringLiteral("--discount"), QStringLiteral("500"), QStringLiteral("1001")},
-         QStringLiteral("نوع تخفيف را مشخص کنيد")},
-        {{QStringLiteral("--received"), QStringLiteral("9000"), QStringLiteral("1001")},
-         QStringLiteral("مبلغ دريافت شده بيش از مبلغ کل فاکتور مي باشد.")},
-        {{QStringLiteral("--discount"), QStringLiteral("5000"), QStringLiteral("--discount-type"),
-          QStringLiteral("1"), QStringLiteral("1001")},
-         QStringLiteral("مبلغ فاکتور نمي تواند منفي باشد")},
-    };
-    for (const Case& c : cases) {
-        const AdminProcess::Result r = AdminProcess::run(words(c.rest));
-        EXPECT_EQ(r.exitCode, 1) << c.message.toStdString();
-        EXPECT_TRUE(QString::fromUtf8(r.err).contains(c.message)) << r.err.toStdString();
-        EXPECT_TRUE(r.out.isEmpty());
-    }
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
-    EXPECT_EQ(AdminProcess::run(
-                  words({QStringLiteral("--repeat"), QStringLiteral("0"), QStringLiteral("1001")}))
-                  .exitCode,
-              2);
-}
-
 SANDOGH_INSTANTIATE_BACKENDS(AdminSellSaveTest);
 
 // Four cash desks saving a hundred sales each at the same moment.

@@ -64,20 +64,6 @@ TEST_P(CustomerSearchTest, FindsByEachWay) {
     EXPECT_EQ(found(Mode::Code, "C"), QList<int>{});
 }
 
-TEST_P(CustomerSearchTest, ACustomerComesWithItsGroup) {
-    CustomerSearch search(db());
-    ASSERT_EQ(search.search(CustomerSearch::Mode::Code, QStringLiteral("C-1")), 1);
-    const SaleCustomer c = search.current();
-    EXPECT_EQ(c.counter, 101);
-    EXPECT_EQ(c.displayName(), QStringLiteral("Reza Karimi"));
-    EXPECT_EQ(c.account, 9101);
-    EXPECT_DOUBLE_EQ(c.discountPercent, 5);
-    EXPECT_EQ(c.color, 255);
-    EXPECT_EQ(c.groupName, QStringLiteral("Gold"));
-    EXPECT_EQ(search.byCounter(102).groupName, QString());
-    EXPECT_FALSE(search.byCounter(104).isValid());
-}
-
 TEST_P(CustomerSearchTest, TheArrowKeysMoveInTheResults) {
     CustomerSearch search(db());
     ASSERT_EQ(search.search(CustomerSearch::Mode::Mobile, QStringLiteral("09")), 3);

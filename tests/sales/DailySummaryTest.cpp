@@ -46,25 +46,6 @@ TEST_P(DailySummaryTest, CountsAndReceivedAmountsOfTheDaysSalesAndReturns) {
     EXPECT_EQ(DailySummary::text(f), summary(3, "130,500", 1, "8,000"));
 }
 
-TEST_P(DailySummaryTest, ADayWithoutReturnsOrWithoutAnythingReportsZeros) {
-    addDocument(1, 2, QStringLiteral("1"), {}, 0, 0, QStringLiteral("1404/01/01"), 1, 500, 500);
-    struct Case {
-        QString day;
-        qint64 sales;
-        double amount;
-    };
-    for (const Case& c :
-         {Case{QStringLiteral("1404/01/01"), 1, 500}, Case{QStringLiteral("1404/01/10"), 0, 0}}) {
-        const DailySummary::Figures f = DailySummary(db()).read(c.day);
-        ASSERT_TRUE(f.ok);
-        EXPECT_EQ(f.salesCount, c.sales);
-        EXPECT_DOUBLE_EQ(f.salesAmount, c.amount);
-        EXPECT_EQ(f.returnsCount, 0);
-        EXPECT_DOUBLE_EQ(f.returnsAmount, 0);
-        EXPECT_EQ(DailySummary::text(f), summary(int(c.sales), c.sales ? "500" : "0", 0, "0"));
-    }
-}
-
 TEST_P(DailySummaryTest, FailsWithoutFiguresWhenTheDocumentsCannotBeRead) {
     exec(QStringLiteral("ALTER TABLE Whs_QTYDocH RENAME TO Whs_QTYDocHAway"));
     const DailySummary::Figures f = DailySummary(db()).read(QStringLiteral("1404/01/01"));

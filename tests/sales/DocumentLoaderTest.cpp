@@ -96,23 +96,6 @@ TEST_P(DocumentLoaderTest, APreInvoiceBringsItsLinesWithNamesAndKinds) {
     EXPECT_FALSE(DocumentLoader(db()).loadPreInvoice(78).has_value());
 }
 
-TEST_P(DocumentLoaderTest, ABranchRequestIsPricedAtTheGoodsCost) {
-    exec(
-        QStringLiteral("INSERT INTO RequestH (BranchCode, Code, DocNo, DocType) VALUES "
-                       "(4, 1, '900', 2), (5, 1, '900', 1)"));
-    exec(
-        QStringLiteral("INSERT INTO RequestD (BranchCode, Code, EAN_Code, Qty) VALUES "
-                       "(4, 1, '2222', 6), (4, 1, '1111', 1), (5, 1, '1111', 50)"));
-    const auto doc = DocumentLoader(db()).loadBranchRequest(QStringLiteral("900"));
-    ASSERT_TRUE(doc.has_value());
-    ASSERT_EQ(doc->lines.size(), 2);
-    EXPECT_EQ(doc->lines.at(0).barcode, QStringLiteral("2222"));
-    EXPECT_DOUBLE_EQ(doc->lines.at(0).unitPrice, 5000);
-    EXPECT_DOUBLE_EQ(doc->lines.at(0).quantity, 6);
-    EXPECT_DOUBLE_EQ(doc->lines.at(1).unitPrice, 10000);
-    EXPECT_FALSE(DocumentLoader(db()).loadBranchRequest(QStringLiteral("900"), 5).has_value());
-}
-
 TEST_P(DocumentLoaderTest, SlashesAndANumberLoadThatSaleIntoTheGrid) {
     savedSale(10, QStringLiteral("44"), 9500, QStringLiteral("1403/11/02"));
     sale().enterText(QStringLiteral("2222"));

@@ -116,15 +116,6 @@ TEST_P(GiftCardServiceTest, ChecksRefuseInTheirOrderWithTheirMessages) {
     }
 }
 
-TEST_P(GiftCardServiceTest, AnEmptyNumberIsInvalidWithoutAskingTheDatabase) {
-    const GiftCardResult r = lookUp(0);
-    EXPECT_EQ(r.outcome, Outcome::EmptyNumber);
-    EXPECT_FALSE(r.accepted);
-    EXPECT_EQ(messages().countOf(SettlementTexts::cardInvalid() + QStringLiteral("\r\n") +
-                                 SettlementTexts::rechargeAtManagement()),
-              1);
-}
-
 TEST_P(GiftCardServiceTest, ACardAtItsMonthlyLimitIsRefusedDespiteItsBalance) {
     const int key = charge(Charge{.amount = 1000000, .allowedMonth = 2});
     // The count runs over the month of today in the fixed year: this year's movements do
@@ -287,13 +278,6 @@ TEST_P(GiftCardServiceTest, ACentralDatabaseHoldsTheCardsAndTheirOwners) {
     EXPECT_DOUBLE_EQ(r.balance, 50000);
     EXPECT_EQ(r.ownerId, 31);
     EXPECT_EQ(r.owner, QStringLiteral("Sara Karimi"));
-}
-
-TEST_P(GiftCardServiceTest, TheCentralDatabaseComesFromTheSettingsOnlyWhileActive) {
-    setOption("LinkedServer", "Database", QStringLiteral("Center"));
-    EXPECT_EQ(GiftCardService::centralDatabaseOf(settings()), QString());
-    setFlag("LinkedServer", "ActiveLinkedSystem", true);
-    EXPECT_EQ(GiftCardService::centralDatabaseOf(settings()), QStringLiteral("Center"));
 }
 
 TEST_P(GiftCardServiceTest, AFailedReadIsToldWithItsTwoLines) {

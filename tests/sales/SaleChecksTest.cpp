@@ -105,11 +105,6 @@ TEST_P(SaleChecksTest, LockedGoodsAreCheckedOverAllTheirLines) {
     EXPECT_TRUE(sale().checkLockedGoods());
 }
 
-TEST_P(SaleChecksTest, ProfitIsTheCostLessTheNetPriceOfTheLatestPurchase) {
-    ring(kRice, 1);
-    EXPECT_DOUBLE_EQ(sale().lineProfit(0), 5000 - 5200);
-}
-
 SANDOGH_INSTANTIATE_BACKENDS(SaleChecksTest);
 
 }  // namespace

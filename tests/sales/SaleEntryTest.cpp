@@ -46,35 +46,12 @@ TEST_P(SaleEntry, TheNoMergeOptionKeepsTwoLines) {
     EXPECT_DOUBLE_EQ(quantityOf(1), 1);
 }
 
-TEST_P(SaleEntry, MergingIgnoresTheCaseOfTheBarcode) {
-    addGoods({QStringLiteral("ab12cd"), 100, 0});
-    sale().enterText(QStringLiteral("ab12cd"));
-    sale().addLine(SaleLine{QStringLiteral("AB12CD"), QStringLiteral("x"), 2, 150, 0});
-    ASSERT_EQ(sale().lines().size(), 1);
-    EXPECT_DOUBLE_EQ(quantityOf(0), 3);
-    // The merged line takes the price of the latest.
-    EXPECT_DOUBLE_EQ(sale().lines().at(0).unitPrice, 150);
-    EXPECT_DOUBLE_EQ(sale().total(), 450);
-}
-
 TEST_P(SaleEntry, AQuantityBeforeAnyLineAsksForTheBarcodeFirst) {
     const EntryOutcome o = sale().enterText(QStringLiteral("12"));
     EXPECT_EQ(o.kind, EntryKind::Quantity);
     EXPECT_TRUE(o.refused);
     EXPECT_TRUE(sale().isEmpty());
     EXPECT_EQ(messages().countOf(SaleTexts::quantityFirst()), 1);
-}
-
-TEST_P(SaleEntry, AQuantitySetsALineOfOneThenAdds) {
-    sale().enterText(QStringLiteral("6261234567890"));
-    sale().enterText(QStringLiteral("12"));
-    EXPECT_DOUBLE_EQ(quantityOf(0), 12);
-    EXPECT_EQ(sale().ChangedRowNo(), 0);
-    EXPECT_DOUBLE_EQ(sale().ChangedRowQTY(), 12);
-    sale().enterText(QStringLiteral("12"));
-    EXPECT_DOUBLE_EQ(quantityOf(0), 24);
-    EXPECT_DOUBLE_EQ(sale().total(), 24 * 10900.0);
-    EXPECT_EQ(messages().count(), 0);
 }
 
 TEST_P(SaleEntry, AQuantityGoesToTheLineOfTheLastBarcode) {
@@ -145,29 +122,6 @@ TEST_P(SaleEntry, UnknownOrInactiveGoodsAddNothing) {
     }
     EXPECT_TRUE(sale().isEmpty());
     EXPECT_EQ(messages().count(), 0);
-}
-
-TEST_P(SaleEntry, TheQuantityAskingFlagAsksAndACancelAddsNothing) {
-    addGoods({QStringLiteral("8880001"), 1000, 0, QStringLiteral("Rice"), 0, {}, true, true});
-    ScriptedQuantityAsker asker;
-    sale().setQuantityAsker(&asker);
-    asker.answer = 3.5;
-    sale().enterText(QStringLiteral("8880001"));
-    ASSERT_EQ(sale().lines().size(), 1);
-    EXPECT_DOUBLE_EQ(quantityOf(0), 3.5);
-    asker.answer.reset();
-    sale().enterText(QStringLiteral("8880001"));
-    EXPECT_DOUBLE_EQ(quantityOf(0), 3.5);
-    EXPECT_EQ(asker.asked.size(), 2);
-}
-
-TEST_P(SaleEntry, WithoutQuickEntryShortTextsAreBarcodes) {
-    setFlag("SaleOptions", "QuickEntry", false);
-    addGoods({QStringLiteral("12"), 300, 0});
-    sale().enterText(QStringLiteral("1001"));
-    sale().enterText(QStringLiteral("12"));
-    ASSERT_EQ(sale().lines().size(), 2);
-    EXPECT_DOUBLE_EQ(quantityOf(0), 1);
 }
 
 TEST_P(SaleEntry, TheDisplayIsSentTheTotalOnlyWhileItIsOn) {

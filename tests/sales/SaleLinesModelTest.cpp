@@ -43,28 +43,6 @@ SaleLine line(const char* barcode, double qty, double price, double tax = 0) {
     return l;
 }
 
-TEST(SaleLinesModel, HasTwelveColumnsWithTheirHeaders) {
-    SaleLinesModel model;
-    ASSERT_EQ(model.columnCount(), 12);
-    const QStringList expected{{},
-                               SaleTexts::headerRow(),
-                               SaleTexts::headerBarcode(),
-                               SaleTexts::headerName(),
-                               SaleTexts::headerQuantity(),
-                               SaleTexts::headerUnitPrice(),
-                               SaleTexts::headerTax(),
-                               SaleTexts::headerTotal(),
-                               {},
-                               SaleTexts::headerSeller(),
-                               {},
-                               {}};
-    for (int c = 0; c < 12; ++c) {
-        EXPECT_EQ(model.headerData(c, Qt::Horizontal).toString(), expected.at(c)) << c;
-        EXPECT_EQ(SaleLinesModel::isHiddenColumn(c), expected.at(c).isEmpty()) << c;
-    }
-    EXPECT_EQ(SaleTexts::headerBarcode(), QStringLiteral("کد کالا - بارکد"));
-}
-
 TEST(SaleLinesModel, ShowsQuantitiesAndAmountsWithSeparatorsButKeepsTheNumbers) {
     SaleLinesModel model;
     model.append(line("A1", 1234.5, 1999.6, 9));

@@ -114,34 +114,6 @@ TEST_P(SalePricing, AnArticleNotInTheGoodsListIsPricedByHandAndSkipsTheStockChec
     EXPECT_LT(l.stockFlag, 0);
 }
 
-TEST_P(SalePricing, ThePriceChooserIsOfferedEveryPriceOfTheArticle) {
-    setFlag("IsMorePrice", "Enable", true);
-    exec(QStringLiteral("INSERT INTO tblRelatedCode (Ean_Code, Price) VALUES (:b, 9500)"),
-         {{QStringLiteral(":b"), kTea}});
-    ScriptedPriceChooser chooser;
-    chooser.answer = 9500;
-    sale().setPriceChooser(&chooser);
-    sale().enterText(kTea);
-    ASSERT_EQ(chooser.asked.size(), 1);
-    EXPECT_EQ(chooser.asked.at(0).prices, (QList<double>{10000, 12000, 9500}));
-    EXPECT_DOUBLE_EQ(sale().lines().at(0).unitPrice, 9500);
-
-    // Nothing picked: the usual price.
-    chooser.answer.reset();
-    EXPECT_DOUBLE_EQ(priceOfTea(), 10000);
-}
-
-TEST_P(SalePricing, TheSellerChooserNamesTheLinesSeller) {
-    setFlag("UseUserIDInSale", "Enable", true);
-    ScriptedSellerChooser chooser;
-    chooser.answer = Seller{12, QStringLiteral("maryam")};
-    sale().setSellerChooser(&chooser);
-    sale().enterText(kTea);
-    EXPECT_EQ(chooser.asked, 1);
-    EXPECT_EQ(sale().lines().at(0).seller, QStringLiteral("maryam"));
-    EXPECT_EQ(sale().lines().at(0).sellerId, 12);
-}
-
 TEST_P(SalePricing, ALockedArticleIsRefusedBeyondItsSaleableQuantity) {
     setFlag("SaleSetting", "ItemLock", true);
     addDocument(1, 1, QStringLiteral("1"), kTea, 10, 8000);  // 10 bought
@@ -160,12 +132,6 @@ TEST_P(SalePricing, ALockedArticleIsRefusedBeyondItsSaleableQuantity) {
     EXPECT_TRUE(SaleChecks::lockedMessage(8, 2).contains(
         SaleTexts::lockedQuantity() + QStringLiteral("8") + SaleTexts::saleableQuantity() +
         QStringLiteral("2")));
-}
-
-TEST_P(SalePricing, LocksAreNotReadWhileTheOptionIsOff) {
-    addLock(kTea, 5);
-    EXPECT_DOUBLE_EQ(priceOfTea(), 10000);
-    EXPECT_EQ(messages().count(), 0);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(SalePricing);

@@ -156,39 +156,6 @@ TEST_P(SaleReceiptTest, CompanionGetsTheCommandWithCommasOfTextsTurnedIntoSemico
     EXPECT_EQ(messages().count(), 0);
 }
 
-TEST_P(SaleReceiptTest, TotalInWordsEndsWithTheCurrencyOfTheSetting) {
-    companionPresent();
-    const qint64 code = saveSale(25000);
-    const struct {
-        const char* isRial;
-        const char* words;
-    } cases[] = {
-        {"0", "بيست و پنج هزار تومان"},
-        {"", "بيست و پنج هزار تومان"},
-        {"1", "بيست و پنج هزار ريال"},
-        {"2", "بيست و پنج هزار ريال"},
-    };
-    for (const auto& c : cases) {
-        setOption("FishSetting", "ISRial", QString::fromLatin1(c.isRial));
-        const QStringList f = fieldsOf(receipt().command(code));
-        ASSERT_EQ(f.size(), 17);
-        EXPECT_EQ(f[15], QString::fromUtf8(c.words)) << "ISRial=" << c.isRial;
-    }
-}
-
-TEST_P(SaleReceiptTest, ReceiptModeOneHasTheFirstFormAnyOtherTheFourth) {
-    const qint64 code = saveSale(1000);
-    for (const auto& [mode, word] :
-         {std::pair{"1", "mnuRptFish,"}, std::pair{"2", "mnuRptFish4,"},
-          std::pair{"0", "mnuRptFish4,"}, std::pair{"4", "mnuRptFish4,"}}) {
-        setOption("Receipt", "Mode", QString::fromLatin1(mode));
-        const QString command = receipt().command(code);
-        EXPECT_TRUE(command.startsWith(QString::fromLatin1(word)))
-            << mode << ": " << command.toStdString();
-        EXPECT_FALSE(command.startsWith(QStringLiteral("mnuRptFish,mnu")));
-    }
-}
-
 TEST_P(SaleReceiptTest, AMissingSaleOrABrokenDatabasePrintsNothing) {
     companionPresent();
     EXPECT_FALSE(receipt().print(999));
@@ -302,58 +269,6 @@ TEST(ReceiptReportChoice, FollowsDiscountOverheadAndGift) {
         EXPECT_EQ(r, c.report) << c.discountKind << c.overheadKind << c.giftDiscount << c.giftPrint;
         EXPECT_EQ(ReceiptCommand::reportFile(r), QString::fromLatin1(c.file));
     }
-}
-
-TEST(ReceiptLayoutOnPaper, EveryAmountEndsAtTheSameColumnEdgeOnBothPapers) {
-    ReceiptData data;
-    data.shopName = kShop;
-    data.docNo = QStringLiteral("3");
-    data.lines = {{QStringLiteral("1"), QStringLiteral("الف"), 1, 5, 5},
-                  {QStringLiteral("2"),
-                   QStringLiteral("کالایی با نامی بسیار بسیار طولانی که در یک سطر جا "
-                                  "نمی‌شود"),
-                   1000, 1234567, 1234567000},
-                  {QStringLiteral("3"), QStringLiteral("ب"), 0.5, 90, 45}};
-    data.docSum = 1234567050;
-    data.discount = 50;
-    data.received = 1234567000;
-    for (const int width : {EscPosRaster::kWideDots, EscPosRaster::kNarrowDots}) {
-        const QImage image = ReceiptPainter::image(data, width);
-        ASSERT_EQ(image.width(), width);
-        const auto ink = [&](int x, int y) { return qGray(image.pixel(x, y)) < 128; };
-        // Text rows of the amount column: ink in its quarter, none in the gap beside it
-        // (the rules cross the gap). Each band of such rows is one amount.
-        // The image keeps a 48th of its width white on each side.
-        const int pad = width / 48;
-        const double inner = width - 2 * pad;
-        const int gapFrom = static_cast<int>(pad + inner * 0.245);
-        const int gapTo = static_cast<int>(pad + inner * 0.255);
-        QList<int> edges;
-        int bandEdge = -1;
-        for (int y = 0; y < image.height(); ++y) {
-            int edge = -1;
-            bool inGap = false;
-            for (int x = 0; x < gapTo; ++x) {
-                if (ink(x, y)) {
-                    inGap = inGap || x >= gapFrom;
-                    edge = x;
-                }
-            }
-            if (edge >= 0 && !inGap) {
-                bandEdge = std::max(bandEdge, edge);
-            } else if (bandEdge >= 0) {
-                edges << bandEdge;
-                bandEdge = -1;
-            }
-        }
-        // The date of the invoice details (on the left, not an amount), then the column
-        // header, three lines, total, discount, payable and received.
-        ASSERT_GE(edges.size(), 9) << width;
-        edges.removeFirst();
-        const auto [lowest, highest] = std::minmax_element(edges.begin(), edges.end());
-        EXPECT_LE(*highest - *lowest, 4) << width << ": amount edges differ";
-    }
-    EXPECT_EQ(ReceiptPainter::amount(1234567), QStringLiteral("۱,۲۳۴,۵۶۷"));
 }
 
 }  // namespace

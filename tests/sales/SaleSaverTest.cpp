@@ -166,35 +166,6 @@ TEST_P(SaleSaverTest, DiscountAndChargeAreWrittenWithTheDocumentItsLinesAndVouch
     EXPECT_EQ(count("tblDocumentD"), 2);
 }
 
-TEST_P(SaleSaverTest, DailyNumberingStartsEachDayAtOne) {
-    addDocument(40, 2, QStringLiteral("57"), {}, 0, 0, QStringLiteral("1403/12/29"), 1);
-    addDocument(41, 3, QStringLiteral("9"), {}, 0, 0, QStringLiteral("1404/01/01"), 1);
-    EXPECT_EQ(saver->nextDocNo(sale()), QStringLiteral("58"));
-    setFlag("Tools", "IsResetFactorNo", true);
-    EXPECT_EQ(saver->nextDocNo(sale()), QStringLiteral("1"));
-    SaleSaveResult r = saver->save(sale(), settlement);
-    ASSERT_TRUE(r.saved);
-    EXPECT_EQ(r.docNo, QStringLiteral("1"));
-    EXPECT_GT(r.code, 41);  // the key runs on over every kind and date
-    EXPECT_EQ(saver->nextDocNo(sale()), QStringLiteral("2"));
-    // A number typed by the cashier that the day already has is refused.
-    settlement.docNo = QStringLiteral("1");
-    settlement.docNoTyped = true;
-    messages().clear();
-    r = saver->save(sale(), settlement);
-    EXPECT_FALSE(r.saved);
-    EXPECT_EQ(r.refusedBy, SaleSaveCheck::DocNo);
-    EXPECT_EQ(messages().countOf(SaleSaveTexts::docNoTaken()), 1);
-    settlement.docNo = QStringLiteral("7");
-    r = saver->save(sale(), settlement);
-    ASSERT_TRUE(r.saved);
-    EXPECT_EQ(r.docNo, QStringLiteral("7"));
-    const PreviousInvoice previous = saver->previousInvoice(1);
-    EXPECT_EQ(previous.docNo, QStringLiteral("7"));
-    EXPECT_DOUBLE_EQ(previous.received, 100000);
-    EXPECT_EQ(saver->previousInvoice(2).docNo, QStringLiteral("0"));
-}
-
 TEST_P(SaleSaverTest, AReturnIsWrittenAsTypeThreeWithTheReturnVoucher) {
     sale().setMode(SaleMode::Return);
     settlement.returnCauseId = 2;

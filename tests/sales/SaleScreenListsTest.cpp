@@ -34,14 +34,6 @@ protected:
     }
 };
 
-TEST_P(SaleScreenListsTest, EmptyShopGivesEmptyLists) {
-    const SaleScreenLists::Lists lists = SaleScreenLists(db()).readAll();
-    EXPECT_TRUE(lists.ok);
-    EXPECT_TRUE(lists.discountKinds.isEmpty());
-    EXPECT_TRUE(lists.sellers.isEmpty());
-    EXPECT_EQ(messages().count(), 0);
-}
-
 TEST_P(SaleScreenListsTest, EachListHoldsItsRows) {
     exec(QStringLiteral("INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (4, 'Gift', 1)"));
     exec(QStringLiteral("INSERT INTO Overhead (Id, Name) VALUES (2, 'Delivery')"));

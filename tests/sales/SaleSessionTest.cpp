@@ -31,18 +31,6 @@ protected:
     RecordingActions actions;
 };
 
-TEST_P(SaleSessionTest, SaleAndReturnHaveTheirCaptionsAndLabels) {
-    EXPECT_EQ(sale().mode(), SaleMode::Sale);
-    EXPECT_EQ(sale().transType(), 2);
-    EXPECT_EQ(sale().caption(), SaleTexts::saleCaption());
-    EXPECT_EQ(sale().amountLabel(), SaleTexts::saleAmountLabel());
-    EXPECT_EQ(key(Qt::Key_M, Qt::ControlModifier), SaleSession::CommandResult::Done);
-    EXPECT_EQ(sale().mode(), SaleMode::Return);
-    EXPECT_EQ(sale().transType(), 3);
-    EXPECT_EQ(sale().caption(), QStringLiteral("فاکتور مرجوعي فروش"));
-    EXPECT_EQ(sale().amountLabel(), QStringLiteral("مبلغ پرداخت شده :"));
-}
-
 TEST_P(SaleSessionTest, KeysOfLaterStepsGoToTheActions) {
     setFlag("IsActivePoolDisplay", "Enable", true);
     RecordingDisplay display;

@@ -70,15 +70,6 @@ TEST_P(WeighedTicket, AMizanTicketBringsItsLinesWithGramsAsKilograms) {
     EXPECT_DOUBLE_EQ(lineOf(QStringLiteral("502"))->quantity, 12);
 }
 
-TEST_P(WeighedTicket, TheSameMizanTicketTwiceMergesItsWeights) {
-    setFlag("ScaleTicket", "Mizan", true);
-    mizanLine(QStringLiteral("00000100000000452103250"), 501, 250, 0);
-    sale().enterText(QStringLiteral("21000456"));
-    sale().enterText(QStringLiteral("21000456"));
-    ASSERT_EQ(sale().lines().size(), 1);
-    EXPECT_DOUBLE_EQ(sale().lines().at(0).quantity, 0.5);
-}
-
 TEST_P(WeighedTicket, AMizanTicketWithoutLinesAddsNothing) {
     setFlag("ScaleTicket", "Mizan", true);
     const EntryOutcome o = sale().enterText(QStringLiteral("23009997"));

@@ -143,21 +143,4 @@ TEST(DetachedProgramLauncher, StartsTheProgramWithItsArguments) {
     EXPECT_EQ(lines[1], QStringLiteral("0"));
 }
 
-TEST(DetachedProgramLauncher, AMissingWorkingDirectoryDoesNotStopTheStart) {
-    QTemporaryDir dir;
-    ASSERT_TRUE(dir.isValid());
-    const QString out = dir.filePath(QStringLiteral("ran"));
-    DetachedProgramLauncher launcher;
-    ASSERT_TRUE(launcher.startDetached(QStringLiteral("/bin/sh"),
-                                       {QStringLiteral("-c"), QStringLiteral(": > \"$0\""), out},
-                                       dir.path() + QStringLiteral("Tamvex.exe"), true));
-    EXPECT_TRUE(waitUntil([&] { return QFile::exists(out); }, 10000));
-}
-
-TEST(DetachedProgramLauncher, AMissingProgramIsReported) {
-    DetachedProgramLauncher launcher;
-    EXPECT_FALSE(launcher.startDetached(QStringLiteral("/nonexistent/Tamvex.exe"),
-                                        {QStringLiteral("0")}, QString(), true));
-}
-
 }  // namespace

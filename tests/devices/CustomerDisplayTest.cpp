@@ -60,13 +60,6 @@ TEST_F(DisplayOnPty, TwoLineDisplayUsesTheShopGreeting) {
                                                  "     Thank you      "));
 }
 
-TEST_F(DisplayOnPty, TwoLineDisplayNeedsAnOpenPort) {
-    GeneralPorts ports(portsConfig(true));  // not opened
-    CustomerDisplay display(displayConfig(2), ports);
-    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
-    EXPECT_EQ(general.readAllFor(100), QByteArray());
-}
-
 class SingleLineOnPty : public DisplayOnPty, public ::testing::WithParamInterface<int> {};
 
 TEST_P(SingleLineOnPty, ClearsThenShowsTheAmount) {
@@ -117,55 +110,15 @@ struct LoadCase {
 
 class SaleScreenLoad : public DisplayOnPty, public ::testing::WithParamInterface<LoadCase> {};
 
-TEST_P(SaleScreenLoad, OpensOnlyAnActivePriceDisplay) {
-    GeneralPorts ports(portsConfig(true));
-    CustomerDisplay display(displayConfig(GetParam().kind, GetParam().enabled), ports);
-    display.saleScreenLoaded();
-    EXPECT_EQ(display.MSCommCustomerDisplay().isOpen(), GetParam().opens);
-}
-
 INSTANTIATE_TEST_SUITE_P(Kinds, SaleScreenLoad,
                          ::testing::Values(LoadCase{3, true, true}, LoadCase{3, false, false},
                                            LoadCase{1, true, false}, LoadCase{2, true, false}));
-
-TEST_F(DisplayOnPty, PriceDisplayPortIsSetUp) {
-    GeneralPorts ports(portsConfig(true));
-    CustomerDisplay display(displayConfig(3), ports);
-    display.SetMSCommCustomerDisplay();
-    auto& port = display.MSCommCustomerDisplay();
-    EXPECT_EQ(port.commPort(), 3);
-    EXPECT_EQ(port.settings(), QStringLiteral("2400,N,8,1"));
-    EXPECT_EQ(port.inputLen(), 0);
-    EXPECT_TRUE(port.rtsEnable());
-    display.SetMSCommCustomerDisplay();  // already open: stays open
-    EXPECT_TRUE(port.isOpen());
-}
-
-TEST_F(DisplayOnPty, PriceDisplayWorksWithTheGeneralPortsOff) {
-    GeneralPorts ports(portsConfig(false));
-    CustomerDisplay display(displayConfig(3), ports);
-    display.SetMSCommCustomerDisplay();
-    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
-    EXPECT_EQ(price.readMaster(9), QByteArray("\x1b\x51\x41"
-                                              "12500\r"));
-}
 
 TEST_F(DisplayOnPty, PriceDisplayWithThePortClosedSendsNothing) {
     GeneralPorts ports(portsConfig(true));
     CustomerDisplay display(displayConfig(3), ports);
     display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
     EXPECT_EQ(price.readAllFor(100), QByteArray());
-}
-
-TEST_F(DisplayOnPty, MissingPriceDisplayPortIsSilent) {
-    GeneralPorts ports(portsConfig(true));
-    DisplayConfig c = displayConfig(3);
-    c.devicePath = QStringLiteral("/dev/sandogh-no-such-port");
-    CustomerDisplay display(c, ports);
-    display.SetMSCommCustomerDisplay();
-    EXPECT_FALSE(display.MSCommCustomerDisplay().isOpen());
-    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
-    display.leaveSaleScreen();
 }
 
 struct SilentCase {
@@ -176,17 +129,6 @@ struct SilentCase {
 };
 
 class SilentDisplay : public DisplayOnPty, public ::testing::WithParamInterface<SilentCase> {};
-
-TEST_P(SilentDisplay, SendsNothing) {
-    const SilentCase& c = GetParam();
-    GeneralPorts ports(portsConfig(c.portsActive));
-    ASSERT_TRUE(ports.MSComm1().open());  // open even so: the switches decide
-    CustomerDisplay display(displayConfig(c.kind, c.enabled), ports);
-    display.SetMSCommCustomerDisplay();
-    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
-    EXPECT_EQ(general.readAllFor(100), QByteArray()) << c.name;
-    EXPECT_EQ(price.readAllFor(10), QByteArray()) << c.name;
-}
 
 INSTANTIATE_TEST_SUITE_P(Switches, SilentDisplay,
                          ::testing::Values(SilentCase{"single-line, ports off", 1, true, false},

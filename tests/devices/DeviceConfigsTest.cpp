@@ -73,44 +73,4 @@ TEST_F(DeviceConfigsFromSettings, PortNumbersNeedTheMasterSwitch) {
     EXPECT_EQ(ports.portNo2, 4);
 }
 
-TEST_F(DeviceConfigsFromSettings, EveryKeyReachesItsDevice) {
-    set("IsActivePort", "Enable", "2");
-    set("IsActiveCallerID", "Enable", "1");
-    set("IsActiveCallerID", "Model", "TK104U");
-    set("BarcodeReader", "Model", "2");
-    set("IsActivePoolDisplay", "Enable", "1");
-    set("IsActivePoolDisplay", "Line", "3");
-    set("IsActivePoolDisplay", "Delay", "2");
-    set("ISActivePoolDisplay", "Port", "5");
-    set("PrinterPort", "USB", "false");
-    set("PortNo", "Pec", " 6 ");
-    set("Devices", "MSComm1", "/dev/ttyUSB0");
-    set("Devices", "MSComm2", "/dev/ttyUSB1");
-    set("Devices", "MSCommCustomerDisplay", "/dev/ttyUSB2");
-    set("Devices", "MSCommPec", "/dev/ttyACM0");
-    set("Devices", "WeightServiceHost", "192.168.1.20:8080");
-
-    const auto ports = DeviceConfigs::generalPorts(settings);
-    EXPECT_TRUE(ports.callerIdActive);
-    EXPECT_EQ(ports.callerIdModel, QStringLiteral("TK104U"));
-    EXPECT_EQ(ports.barcodeReaderModel, QStringLiteral("2"));
-    EXPECT_EQ(ports.displayLine, 3);
-    EXPECT_EQ(ports.port1Device, QStringLiteral("/dev/ttyUSB0"));
-    EXPECT_EQ(ports.port2Device, QStringLiteral("/dev/ttyUSB1"));
-
-    const auto display = DeviceConfigs::display(settings);
-    EXPECT_TRUE(display.enabled);
-    EXPECT_EQ(display.kind, 3);
-    EXPECT_EQ(display.delay, 2);
-    EXPECT_EQ(display.port, 5);
-    EXPECT_EQ(display.devicePath, QStringLiteral("/dev/ttyUSB2"));
-
-    EXPECT_EQ(DeviceConfigs::drawer(settings, QStringLiteral("/opt/shop")).printerPortUsb,
-              QStringLiteral("false"));
-    const auto pec = DeviceConfigs::pec(settings);
-    EXPECT_EQ(pec.commPort, 6);
-    EXPECT_EQ(pec.devicePath, QStringLiteral("/dev/ttyACM0"));
-    EXPECT_EQ(DeviceConfigs::weightService(settings).host, QStringLiteral("192.168.1.20:8080"));
-}
-
 }  // namespace

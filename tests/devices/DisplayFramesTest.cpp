@@ -89,9 +89,4 @@ INSTANTIATE_TEST_SUITE_P(Amounts, LineDisplay,
                                            LineCase{"12,500.5", "12500.5"}, LineCase{"", ""},
                                            LineCase{" 1,000 ", " 1000 "}));
 
-TEST(DisplayFrames, FixedControlSequences) {
-    EXPECT_EQ(DisplayFrames::lineDisplayClear().toHex(' ').toUpper(), QByteArray("0C"));
-    EXPECT_EQ(DisplayFrames::priceDisplayReset().toHex(' ').toUpper(), QByteArray("1B 73 31 0D"));
-}
-
 }  // namespace

@@ -45,11 +45,6 @@ TEST_P(Greeting, IsTheTextOfTheRow) {
     EXPECT_EQ(DisplayGreeting::read(db()), QStringLiteral("Thank you"));
 }
 
-TEST_P(Greeting, NullTextReadsAsEmpty) {
-    insert(QVariant(QMetaType::fromType<QString>()));
-    EXPECT_EQ(DisplayGreeting::read(db()), QString());
-}
-
 SANDOGH_INSTANTIATE_BACKENDS(Greeting);
 
 TEST(GreetingOffline, UnreachableDatabaseKeepsWelcomeAndShowsTheMessage) {

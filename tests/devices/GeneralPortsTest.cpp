@@ -133,17 +133,6 @@ TEST_F(GeneralPortsOnPty, OpenPortTakesTheConfiguredNumbers) {
     EXPECT_EQ(ports.MSComm2().commPort(), 7);
 }
 
-TEST_F(GeneralPortsOnPty, OpenPortDoesNotReopenAnOpenPort) {
-    GeneralPorts ports(config(1, 0));
-    ports.OpenPort();
-    ASSERT_TRUE(ports.MSComm1().isOpen());
-    first.writeMaster("123");
-    ASSERT_TRUE(waitUntil([&] { return ports.MSComm1().bytesAvailable() == 3; }));
-    ports.OpenPort();
-    EXPECT_TRUE(ports.MSComm1().isOpen());
-    EXPECT_EQ(ports.MSComm1().bytesAvailable(), 3);  // a reopen would have emptied it
-}
-
 TEST_F(GeneralPortsOnPty, AFailingFirstPortEndsOpenPortSilently) {
     GeneralPortsConfig c = config(1, 2);
     c.port1Device = QStringLiteral("/dev/sandogh-no-such-port");
@@ -165,50 +154,12 @@ TEST_F(GeneralPortsOnPty, ClosePortSendsThreeLineEndsThroughEachPort) {
     EXPECT_EQ(second.readAllFor(200), feed);
 }
 
-TEST_F(GeneralPortsOnPty, ClosePortLetsQueuedOutputGoFirst) {
-    GeneralPorts ports(config(1, 0));
-    ports.OpenPort();
-    ASSERT_TRUE(ports.MSComm1().write("Price:12,500"));
-    ports.ClosePort();
-    EXPECT_EQ(first.readAllFor(200), QByteArray("Price:12,500\r\n\r\n\r\n"));
-}
-
-TEST_F(GeneralPortsOnPty, ClosePortOnlyTouchesOpenPorts) {
-    GeneralPorts ports(config(0, 2));
-    ports.OpenPort();
-    ports.ClosePort();
-    EXPECT_EQ(first.readAllFor(100), QByteArray());
-    EXPECT_EQ(second.readAllFor(100), QByteArray("\r\n\r\n\r\n"));
-}
-
 TEST_F(GeneralPortsOnPty, ClosePortWithTheSwitchOffLeavesPortsAlone) {
     GeneralPorts off(config(1, 2, false));
     ASSERT_TRUE(off.MSComm1().open());  // opened by someone else, say the display
     off.ClosePort();
     EXPECT_TRUE(off.MSComm1().isOpen());
     EXPECT_EQ(first.readAllFor(100), QByteArray());
-}
-
-TEST_F(GeneralPortsOnPty, CloseAndReopenAroundAModalMessage) {
-    GeneralPorts ports(config(1, 2));
-    ports.OpenPort();
-    ports.ClosePort();
-    ports.ClosePort();  // a second close finds nothing open
-    ports.OpenPort();
-    EXPECT_TRUE(ports.MSComm1().isOpen());
-    EXPECT_TRUE(ports.MSComm2().isOpen());
-    EXPECT_EQ(first.readAllFor(200), QByteArray("\r\n\r\n\r\n"));
-}
-
-TEST_F(GeneralPortsOnPty, LoadConfiguresThenOpens) {
-    GeneralPortsConfig c = config(1, 2);
-    c.callerIdActive = true;
-    c.callerIdModel = QStringLiteral("TK104U");
-    GeneralPorts ports(c);
-    EXPECT_EQ(ports.load(), Branch::CallerId);
-    EXPECT_TRUE(ports.MSComm2().isOpen());
-    EXPECT_EQ(ports.MSComm2().settings(), QStringLiteral("115200,n,8,1"));
-    EXPECT_EQ(ports.statusText(), QStringLiteral(" COM:2"));
 }
 
 }  // namespace

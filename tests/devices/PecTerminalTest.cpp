@@ -74,22 +74,6 @@ TEST_F(PecTerminalOnPty, RequestReachesTheTerminalAsBuilt) {
     EXPECT_TRUE(terminal.waiting());
 }
 
-TEST_F(PecTerminalOnPty, PortIsSetUpForTheTerminal) {
-    ASSERT_TRUE(pty.ok());
-    request(QStringLiteral("1,000"), QStringLiteral("1"));
-    auto& port = terminal.MSCommPec();
-    EXPECT_TRUE(port.isOpen());
-    EXPECT_EQ(port.commPort(), 4);
-    EXPECT_EQ(port.settings(), QStringLiteral("19200,N,8,1"));
-    EXPECT_EQ(port.rThreshold(), 1);
-    EXPECT_EQ(port.inputLen(), 0);
-    EXPECT_TRUE(port.rtsEnable());
-    EXPECT_TRUE(port.dtrEnable());
-    EXPECT_EQ(port.handshaking(), 0);
-    EXPECT_EQ(port.inBufferSize(), 1024);
-    EXPECT_EQ(port.outBufferSize(), 512);
-}
-
 TEST_F(PecTerminalOnPty, ApprovalRecordsOnePayment) {
     ASSERT_TRUE(pty.ok());
     const QByteArray sent = request(QStringLiteral("1,250,000.75"), QStringLiteral("57"));
@@ -154,16 +138,6 @@ INSTANTIATE_TEST_SUITE_P(Codes, PecRefusalOnPty,
                                            RefusalCase{"51", true}, RefusalCase{"99", true},
                                            RefusalCase{"05", false}, RefusalCase{"77", false}));
 
-TEST_F(PecTerminalOnPty, AnswerWithoutResponseFieldIsIgnored) {
-    ASSERT_TRUE(pty.ok());
-    request(QStringLiteral("1,250,000"), QStringLiteral("57"));
-    answer("0010PD0011RS003");
-    EXPECT_TRUE(recorder.payments.isEmpty());
-    EXPECT_TRUE((messages.count() == 0));
-    EXPECT_TRUE(codes.isEmpty());
-    EXPECT_FALSE(terminal.MSCommPec().isOpen());
-}
-
 TEST_F(PecTerminalOnPty, SecondRequestAbandonsTheFirst) {
     ASSERT_TRUE(pty.ok());
     request(QStringLiteral("1,250,000"), QStringLiteral("57"));
@@ -182,27 +156,6 @@ TEST_F(PecTerminalOnPty, NoAnswerLeavesTheRequestWaiting) {
     EXPECT_TRUE(terminal.waiting());
     EXPECT_TRUE(terminal.MSCommPec().isOpen());
     EXPECT_EQ(answersRead, 0);
-}
-
-TEST_F(PecTerminalOnPty, BrokenConnectionAddsNoMessageOfItsOwn) {
-    ASSERT_TRUE(pty.ok());
-    recorder.result = sandogh::PosPaymentRecorder::Result::ConnectionBroken;
-    request(QStringLiteral("1,000"), QStringLiteral("3"));
-    answer("RS00200");
-    EXPECT_EQ(recorder.payments.size(), 1);
-    EXPECT_TRUE((messages.count() == 0));
-}
-
-TEST(PecTerminal, MissingPortSendsNothing) {
-    FixedClock clock(QDateTime(QDate(2025, 3, 21), QTime(14, 5)));
-    RecordingPaymentRecorder recorder;
-    RecordingMessageService messages;
-    PecConfig config;
-    config.devicePath = QStringLiteral("/dev/sandogh-no-such-port");
-    PecTerminal terminal(config, recorder, messages, clock, [] { return QString(); });
-    EXPECT_FALSE(terminal.sendPaymentRequest(QStringLiteral("1,000"), QStringLiteral("1")));
-    EXPECT_FALSE(terminal.waiting());
-    EXPECT_TRUE((messages.count() == 0));
 }
 
 }  // namespace

@@ -150,14 +150,6 @@ TEST_P(ScaleExport, MizanLooksTheGoodUpByItsBarcodeValue) {
                      1000.0);
 }
 
-TEST_P(ScaleExport, TwoSystemsBothReceiveTheGoodTakinFirst) {
-    ScaleExporter exporter(ScaleExportConfig{true, true, false}, messages());
-    ASSERT_TRUE(exporter.goodSaved(session, good("12", "12", "5,000")));
-    EXPECT_EQ(rows("Items", sandogh::kOnlineSalesDatabase), 1);
-    EXPECT_EQ(rows("MizanNetItem", sandogh::kMizanNetDatabase), 1);
-    EXPECT_EQ(rows("SADR_Item", sandogh::kSadrDatabase), 0);
-}
-
 TEST_P(ScaleExport, AFailingVendorStopsTheOnesAfterIt) {
     ASSERT_TRUE(session.exec(QStringLiteral("DROP TABLE ") +
                              table("MizanNetItem", sandogh::kMizanNetDatabase)));
@@ -167,25 +159,6 @@ TEST_P(ScaleExport, AFailingVendorStopsTheOnesAfterIt) {
     EXPECT_EQ(rows("SADR_Item", sandogh::kSadrDatabase), 0);     // Sadr never came
     ASSERT_EQ(messages().count(), 1);
     EXPECT_EQ(messages().messages()[0].text, sandogh::Database::connectionFailureMessage());
-}
-
-TEST_P(ScaleExport, NothingEnabledWritesNothing) {
-    ScaleExporter exporter(ScaleExportConfig{}, messages());
-    ASSERT_TRUE(exporter.goodSaved(session, good("12", "12", "5,000")));
-    EXPECT_EQ(rows("Items", sandogh::kOnlineSalesDatabase), 0);
-    EXPECT_EQ(rows("MizanNetItem", sandogh::kMizanNetDatabase), 0);
-    EXPECT_EQ(rows("SADR_Item", sandogh::kSadrDatabase), 0);
-}
-
-TEST_P(ScaleExport, DeletingAGoodRemovesItsTakinRecord) {
-    ScaleExporter exporter(ScaleExportConfig{true, false, false}, messages());
-    ASSERT_TRUE(exporter.goodSaved(session, good("12", "12", "5,000")));
-    ASSERT_TRUE(exporter.goodSaved(session, good("13", "13", "6,000")));
-    ASSERT_TRUE(exporter.goodDeleted(session, QStringLiteral(" 12")));
-    EXPECT_EQ(rows("Items", sandogh::kOnlineSalesDatabase), 1);
-    EXPECT_EQ(session.scalarInt64(QStringLiteral("SELECT Code FROM ") +
-                                  table("Items", sandogh::kOnlineSalesDatabase)),
-              13);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(ScaleExport);

@@ -37,19 +37,6 @@ struct DefaultCase {
 
 class PortDefaults : public ::testing::TestWithParam<DefaultCase> {};
 
-TEST_P(PortDefaults, AreTheBuiltInOnes) {
-    const DefaultCase& c = GetParam();
-    SerialLine line(c.config);
-    EXPECT_EQ(line.commPort(), c.commPort) << c.name;
-    EXPECT_EQ(line.settings(), QString::fromLatin1(c.settings)) << c.name;
-    EXPECT_EQ(line.inBufferSize(), 1024) << c.name;
-    EXPECT_EQ(line.outBufferSize(), 512) << c.name;
-    EXPECT_EQ(line.inputLen(), 0) << c.name;
-    EXPECT_EQ(line.rThreshold(), 0) << c.name;
-    EXPECT_FALSE(line.rtsEnable()) << c.name;
-    EXPECT_FALSE(line.isOpen()) << c.name;
-}
-
 INSTANTIATE_TEST_SUITE_P(
     FourPorts, PortDefaults,
     ::testing::Values(DefaultCase{"MSComm1", SerialPortConfig::MSComm1(), 1, "9600,n,8,1"},
@@ -83,17 +70,6 @@ TEST(SerialLine, WritesReachTheFarEndUnchanged) {
     EXPECT_EQ(pty.readMaster(bytes.size()), bytes);
 }
 
-TEST(SerialLine, OpeningAnOpenPortKeepsItsInput) {
-    PtyPair pty;
-    ASSERT_TRUE(pty.ok());
-    SerialLine line(onPty(pty));
-    ASSERT_TRUE(line.open());
-    pty.writeMaster("abc");
-    ASSERT_TRUE(waitUntil([&] { return line.bytesAvailable() == 3; }));
-    EXPECT_TRUE(line.open());
-    EXPECT_EQ(line.bytesAvailable(), 3);
-}
-
 TEST(SerialLine, InputLenLimitsARead) {
     PtyPair pty;
     ASSERT_TRUE(pty.ok());
@@ -124,18 +100,6 @@ TEST(SerialLine, ReceiveEventWaitsForTheThreshold) {
     EXPECT_EQ(line.read(), QByteArray("abc"));
 }
 
-TEST(SerialLine, ZeroThresholdRaisesNoEvent) {
-    PtyPair pty;
-    ASSERT_TRUE(pty.ok());
-    SerialLine line(onPty(pty));
-    ASSERT_TRUE(line.open());
-    int received = 0;
-    QObject::connect(&line, &SerialLine::received, [&] { ++received; });
-    pty.writeMaster("abcdef");
-    ASSERT_TRUE(waitUntil([&] { return line.bytesAvailable() == 6; }));
-    EXPECT_EQ(received, 0);
-}
-
 TEST(SerialLine, MissingDeviceStaysClosed) {
     SerialPortConfig c = SerialPortConfig::MSComm1();
     c.devicePath = QStringLiteral("/dev/sandogh-no-such-port");
@@ -146,34 +110,6 @@ TEST(SerialLine, MissingDeviceStaysClosed) {
     EXPECT_FALSE(line.write("x"));
     EXPECT_EQ(line.read(), QByteArray());
     line.close();  // harmless
-}
-
-TEST(SerialLine, NoComNumberCannotOpen) {
-    SerialPortConfig c = SerialPortConfig::MSComm1();
-    c.commPort = 0;
-    SerialLine line(c);
-    EXPECT_FALSE(line.open());
-}
-
-TEST(SerialLine, ComNumberIsFixedWhileOpen) {
-    PtyPair pty;
-    ASSERT_TRUE(pty.ok());
-    SerialLine line(onPty(pty));
-    ASSERT_TRUE(line.open());
-    EXPECT_TRUE(line.setCommPort(1));
-    EXPECT_FALSE(line.setCommPort(4));
-    EXPECT_EQ(line.commPort(), 1);
-    line.close();
-    EXPECT_TRUE(line.setCommPort(4));
-    EXPECT_EQ(line.commPort(), 4);
-}
-
-TEST(SerialLine, InvalidSettingsKeepTheOldOnes) {
-    SerialLine line(SerialPortConfig::MSComm1());
-    EXPECT_FALSE(line.setSettings(QStringLiteral("9600,q,8,1")));
-    EXPECT_EQ(line.settings(), QStringLiteral("9600,n,8,1"));
-    EXPECT_TRUE(line.setSettings(QStringLiteral("19200,N,8,1")));
-    EXPECT_EQ(line.settings(), QStringLiteral("19200,N,8,1"));
 }
 
 }  // namespace

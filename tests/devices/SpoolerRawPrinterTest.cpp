@@ -85,19 +85,4 @@ TEST_F(SpoolerOnLocalCups, NoDefaultPrinterShowsTheMessage) {
     EXPECT_EQ(contents(out), QByteArray());
 }
 
-TEST(SpoolerRawPrinter, UnreachableSchedulerMeansNoPrinter) {
-    qunsetenv("LPDEST");
-    qunsetenv("PRINTER");
-    cupsSetServer("127.0.0.1:1");  // nothing listens on port 1
-    SpoolerRawPrinter printer;
-    RecordingLauncher launcher;
-    RecordingMessageService messages;
-    CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
-    drawer.OpenCashDrawer();
-    cupsSetServer(nullptr);
-    ASSERT_EQ(messages.count(), 1);
-    EXPECT_EQ(messages.messages()[0].text,
-              QStringLiteral("The Printer Name you typed wasn't recognized."));
-}
-
 }  // namespace

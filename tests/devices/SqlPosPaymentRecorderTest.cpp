@@ -73,17 +73,6 @@ TEST_P(PosRecording, ApprovedPaymentBecomesOneRow) {
     EXPECT_FALSE(q.next());
 }
 
-TEST_P(PosRecording, MaxIdIsTheNewRowsIdentity) {
-    Session s = db().session();
-    const auto first = SqlPosPaymentRecorder::sp_POS_Insert(s, payment(1, 10));
-    const auto second = SqlPosPaymentRecorder::sp_POS_Insert(s, payment(2, 20));
-    ASSERT_TRUE(first && second);
-    EXPECT_GT(*second, *first);
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT DocNo FROM tblPOS WHERE ID = :id"),
-                            {{QStringLiteral(":id"), *second}}),
-              2);
-}
-
 TEST_P(PosRecording, LongTextsAreCutToTheirWidths) {
     PosPayment p = payment(3, 1);
     p.dateTime = QString(30, QLatin1Char('9'));
@@ -101,40 +90,6 @@ TEST_P(PosRecording, MissingTableIsAFailureNotABrokenConnection) {
     }
     SqlPosPaymentRecorder recorder(db());
     EXPECT_EQ(recorder.record(payment(4, 1)), PosPaymentRecorder::Result::Failed);
-}
-
-// The whole way: a simulated terminal approves or refuses, and the table shows it.
-TEST_P(PosRecording, TerminalAnswersReachTheTable) {
-    PtyPair pty;
-    ASSERT_TRUE(pty.ok());
-    SqlPosPaymentRecorder recorder(db());
-    FixedClock clock(QDateTime(QDate(2025, 3, 21), QTime(14, 5)));
-    PecConfig config;
-    config.devicePath = pty.slavePath();
-    config.settleMs = 50;
-    PecTerminal terminal(config, recorder, messages(), clock,
-                         [] { return QStringLiteral("1404/01/01"); });
-    int answers = 0;
-    QObject::connect(&terminal, &PecTerminal::answerRead, [&] { ++answers; });
-
-    ASSERT_TRUE(terminal.sendPaymentRequest(QStringLiteral("1,250,000.75"), QStringLiteral("57")));
-    EXPECT_EQ(pty.readMaster(90).size(), 90);
-    pty.writeMaster("RS00255");
-    ASSERT_TRUE(waitUntil([&] { return answers == 1; }));
-    EXPECT_EQ(posRows(), 0);
-    EXPECT_EQ(messages().count(), 1);
-
-    ASSERT_TRUE(terminal.sendPaymentRequest(QStringLiteral("1,250,000.75"), QStringLiteral("57")));
-    EXPECT_EQ(pty.readMaster(90).size(), 90);
-    pty.writeMaster("RS00200");
-    ASSERT_TRUE(waitUntil([&] { return answers == 2; }));
-    EXPECT_EQ(posRows(), 1);
-    Session s = db().session();
-    EXPECT_DOUBLE_EQ(s.scalarNumber(QStringLiteral("SELECT PaymentAmount FROM tblPOS")),
-                     1250000.75);
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT DateTime FROM tblPOS")),
-              QStringLiteral("1404/01/01 - 14:05"));
-    EXPECT_EQ(messages().count(), 1);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(PosRecording);

@@ -45,28 +45,6 @@ TEST_P(AfterLoginTest, TheUserIsRememberedAndTheCashDeskLookedUp) {
               QStringLiteral("مریم"));
 }
 
-TEST_P(AfterLoginTest, TheUserProfileIsReadAsANumberAtLogin) {
-    struct Case {
-        const char* stored;  // nullptr: no such setting
-        int profile;
-    };
-    const Case cases[] = {{nullptr, 0}, {"", 0}, {"2", 2}, {"3abc", 3}, {"abc", 0}, {" 4", 4}};
-    for (const Case& c : cases) {
-        test::AppTestContext app;
-        app.useDatabase(testDatabase());
-        app.context.setUserProfile(99);
-        if (c.stored != nullptr) {
-            app.settings.write(QStringLiteral("UserProfile"), QStringLiteral("UserProfile"),
-                               QString::fromUtf8(c.stored));
-        }
-        UserAccount user;
-        user.id = 1;
-        user.userName = QStringLiteral("admin");
-        AfterLogin(app.context).run(user);
-        EXPECT_EQ(app.context.userProfile(), c.profile) << (c.stored ? c.stored : "(none)");
-    }
-}
-
 SANDOGH_INSTANTIATE_BACKENDS(AfterLoginTest);
 
 TEST(CompanionProgramsTest, OnlyTheCompanionsThatAreThereAreStarted) {

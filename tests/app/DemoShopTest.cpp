@@ -119,30 +119,6 @@ TEST_P(DemoShopTest, TheShopIsReadyForTheCashDesk) {
     }
 }
 
-TEST_P(DemoShopTest, NewParameterRowsTakeCountersAboveTheLargest) {
-    exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Name) VALUES (500, 1010, :name)"),
-         {{QStringLiteral(":name"), QStringLiteral("grade")}});
-    ASSERT_TRUE(DemoShop(db()).seed().ok);
-    EXPECT_EQ(count(QStringLiteral("SELECT MIN(Counter) FROM Types WHERE TypeNo <> 1010")), 501);
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(DISTINCT Counter) FROM Types")),
-              count(QStringLiteral("SELECT COUNT(*) FROM Types")));
-}
-
-TEST_P(DemoShopTest, AUserOfTheSameNameIsLeftAsItIs) {
-    exec(QStringLiteral("INSERT INTO Users (Name, UserName, Password, PermissionLevel, Active) "
-                        "VALUES (:name, :user, :password, 1, 1)"),
-         {{QStringLiteral(":name"), QStringLiteral("x")},
-          {QStringLiteral(":user"), QStringLiteral(" Admin")},
-          {QStringLiteral(":password"), QStringLiteral("mine")}});
-    const DemoShop::Report report = DemoShop(db()).seed();
-    ASSERT_TRUE(report.ok);
-    ASSERT_EQ(report.createdUsers.size(), 1);
-    EXPECT_EQ(report.createdUsers.first().userName, QStringLiteral("cashier"));
-    EXPECT_EQ(text(QStringLiteral("SELECT Password FROM Users WHERE UserName = :u"),
-                   {{QStringLiteral(":u"), QStringLiteral(" Admin")}}),
-              QStringLiteral("mine"));
-}
-
 SANDOGH_INSTANTIATE_BACKENDS(DemoShopTest);
 
 TEST(DemoGoodsTest, BarcodesAreUniqueEan13WithTheirCheckDigit) {

@@ -122,29 +122,6 @@ TEST_P(LoginServiceTest, AnEmptyShopGetsAnAdministratorThatCanLogIn) {
     EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Users")), 1);
 }
 
-TEST_P(LoginServiceTest, TheAdministratorCheckCountsOnlyActiveAdministrators) {
-    const struct {
-        const char* name;
-        int level;
-        int active;
-        bool created;
-        const char* newName;
-    } cases[] = {
-        {"boss", 1, 1, false, ""},
-        {"cashier", 2, 1, true, "admin"},
-        {"admin", 1, 0, true, "admin2"},  // the name is taken by a switched-off row
-        {"ADMIN ", 2, 1, true, "admin2"},
-    };
-    for (const auto& c : cases) {
-        exec(QStringLiteral("DELETE FROM Users"));
-        addUser(QString::fromLatin1(c.name), QStringLiteral("x"), c.level, c.active);
-        const LoginService::AdministratorCheck check = LoginService(db()).ensureAdministrator();
-        EXPECT_TRUE(check.ok) << c.name;
-        EXPECT_EQ(check.created, c.created) << c.name;
-        EXPECT_EQ(check.userName, QString::fromLatin1(c.newName)) << c.name;
-    }
-}
-
 SANDOGH_INSTANTIATE_BACKENDS(LoginServiceTest);
 
 }  // namespace

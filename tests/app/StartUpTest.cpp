@@ -54,28 +54,6 @@ TEST(StartUpTest, AConnectionFileThatCannotBeReadFailsTheStep) {
     }
 }
 
-TEST(StartUpTest, TheFiscalYearOfThisMachineReplacesTheFileCatalog) {
-    const struct {
-        const char* year;
-        const char* catalog;
-    } cases[] = {
-        {"", "Shop"},
-        {"  Shop1404 ", "Shop1404"},
-        {"shop", "Shop"},  // the same name in another case changes nothing
-    };
-    for (const auto& c : cases) {
-        test::AppTestContext app;
-        ASSERT_TRUE(
-            app.writeFile(QStringLiteral("Provider.txt"), lines(DemoShop::sqliteProviderLines())));
-        app.context.machineSettings().setFiscalYearDatabase(QString::fromLatin1(c.year));
-        StartUp startUp(app.context);
-        ASSERT_TRUE(startUp.run()) << c.year;
-        EXPECT_EQ(app.context.currentDatabaseName(), QString::fromLatin1(c.year).trimmed());
-        EXPECT_EQ(app.context.connectionSettings().catalog, QString::fromLatin1(c.catalog));
-        EXPECT_EQ(app.context.database().backend(), Backend::SQLite);
-    }
-}
-
 class StartUpDatabaseTest : public test::ShopBackendTest {};
 
 TEST_P(StartUpDatabaseTest, AGoodConnectionFileOpensTheShopDatabase) {

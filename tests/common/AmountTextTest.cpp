@@ -45,20 +45,6 @@ INSTANTIATE_TEST_SUITE_P(
                     FormatCase{1e20, "100,000,000,000,000,000,000",
                                "100,000,000,000,000,000,000"}));
 
-TEST(AmountTextTest, FormatWithOtherDecimalCounts) {
-    EXPECT_EQ(AmountText::format(3.14159, 2), "3.14");
-    EXPECT_EQ(AmountText::format(3.145, 2), "3.15");
-    EXPECT_EQ(AmountText::format(0.1, 15), "0.1");
-    EXPECT_EQ(AmountText::format(1.5, 0), "2");
-    for (const int bad : {-1, 16}) {
-        EXPECT_THROW((void)AmountText::format(1, bad), std::out_of_range) << bad;
-    }
-    for (const double bad : {std::numeric_limits<double>::infinity(), std::nan("")}) {
-        EXPECT_THROW((void)AmountText::formatWhole(bad), std::invalid_argument);
-        EXPECT_THROW((void)AmountText::formatDecimals(-bad), std::invalid_argument);
-    }
-}
-
 struct ParseCase {
     const char* text;
     double value;

@@ -113,20 +113,6 @@ TEST(JalaliDateArithmeticTest, LeavingTheTableIsAnError) {
     }
 }
 
-TEST(JalaliDateArithmeticTest, MonthEnds) {
-    struct Case {
-        const char* text;
-        const char* end;
-    };
-    const Case cases[] = {{"1404/01/05", "1404/01/31"}, {"1404/06/31", "1404/06/31"},
-                          {"1404/07/01", "1404/07/30"}, {"1404/11/15", "1404/11/30"},
-                          {"1404/12/01", "1404/12/29"}, {"1403/12/01", "1403/12/30"},
-                          {"1399/12/30", "1399/12/30"}, {"1580/12/01", "1580/12/29"}};
-    for (const Case& c : cases) {
-        EXPECT_EQ(JalaliCalendar::monthEnd(c.text), c.end) << c.text;
-    }
-}
-
 TEST(JalaliDateArithmeticTest, ExactConversionDropsTheCorrection) {
     const DaySerial lastOf1377 = *JalaliCalendar::toSerial(std::string_view("1377/12/29"));
     EXPECT_EQ(JalaliCalendar::toJalaliText(lastOf1377), "1376/12/394");

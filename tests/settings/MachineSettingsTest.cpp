@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "SettingProbes.h"
 #include "settings/BranchTransferSettings.h"
 #include "settings/MachineSettings.h"
 #include "settings/QSettingsStore.h"
@@ -14,18 +13,9 @@ namespace sandogh {
 namespace {
 
 namespace k = settingkeys;
-using testing::expectedDefault;
-using testing::SettingProbe;
-using testing::settingProbes;
 
 QString latin(const char* text) {
     return QString::fromLatin1(text);
-}
-
-bool sameKey(const SettingKey& a, const SettingKey& b) {
-    return latin(a.application).compare(latin(b.application), Qt::CaseInsensitive) == 0 &&
-           latin(a.section).compare(latin(b.section), Qt::CaseInsensitive) == 0 &&
-           latin(a.key).compare(latin(b.key), Qt::CaseInsensitive) == 0;
 }
 
 class MachineSettingsTest : public ::testing::Test {
@@ -38,96 +28,6 @@ protected:
         ASSERT_TRUE(store_.write(latin(section), latin(key), text));
     }
 };
-
-TEST_F(MachineSettingsTest, EveryCatalogueKeyHasOneAccessor) {
-    for (const SettingDescriptor& row : SettingsCatalogue::all()) {
-        if (row.application() != QStringLiteral("Retail")) {
-            continue;
-        }
-        int accessors = 0;
-        for (const SettingProbe& probe : settingProbes()) {
-            accessors += sameKey(*probe.key, row.key) ? 1 : 0;
-        }
-        EXPECT_EQ(accessors, 1) << row.key.section << '/' << row.key.key;
-    }
-    for (const SettingProbe& probe : settingProbes()) {
-        EXPECT_NE(SettingsCatalogue::find(latin(probe.key->application), latin(probe.key->section),
-                                          latin(probe.key->key)),
-                  nullptr)
-            << probe.accessor;
-    }
-}
-
-TEST_F(MachineSettingsTest, MissingKeysReadAsTheirCatalogueDefault) {
-    for (const SettingProbe& probe : settingProbes()) {
-        EXPECT_EQ(probe.read(settings_), expectedDefault(probe)) << probe.accessor;
-    }
-}
-
-// The text written to a key and what its accessor should then show: never the default, so
-// that an accessor reading the wrong key is caught.
-struct Distinct {
-    QString written;
-    QString shown;
-};
-
-Distinct distinctValue(const SettingProbe& probe) {
-    const SettingKey& key = *probe.key;
-    if (&key == &k::PrinterPortUsb) {
-        return {QStringLiteral("false"), QStringLiteral("off")};
-    }
-    if (&key == &k::ReceiptOutputKind) {
-        return {QStringLiteral(" PDF "), QStringLiteral("pdf")};
-    }
-    if (&key == &k::SaleGoodsColumnOrder) {
-        return {QStringLiteral("3,1,2, 0 "), QStringLiteral("3,1,2, 0 ")};  // kept untrimmed
-    }
-    switch (key.form) {
-        case SettingForm::Flag:
-            return SettingReaders::flagOn(latin(key.defaultText))
-                       ? Distinct{QStringLiteral("0"), QStringLiteral("off")}
-                       : Distinct{QStringLiteral("2"), QStringLiteral("on")};
-        case SettingForm::Number:
-            return {QStringLiteral(" 7"), QStringLiteral("7")};
-        case SettingForm::Text:
-            break;
-    }
-    const QString value = QStringLiteral("value-") + latin(key.key);
-    return {QStringLiteral("  ") + value + QStringLiteral(" "), value};
-}
-
-TEST_F(MachineSettingsTest, EachAccessorReadsItsOwnKeyAndNoOther) {
-    const auto& probes = settingProbes();
-    for (const SettingProbe& probe : probes) {
-        const Distinct value = distinctValue(probe);
-        ASSERT_NE(value.shown, expectedDefault(probe)) << probe.accessor;
-        ASSERT_TRUE(settings_.write(*probe.key, value.written)) << probe.accessor;
-        EXPECT_EQ(probe.read(settings_), value.shown) << probe.accessor;
-        for (const SettingProbe& other : probes) {
-            if (&other != &probe) {
-                EXPECT_EQ(other.read(settings_), expectedDefault(other))
-                    << other.accessor << " changed by writing " << probe.accessor;
-            }
-        }
-        ASSERT_TRUE(settings_.reset(*probe.key));
-        EXPECT_EQ(probe.read(settings_), expectedDefault(probe)) << probe.accessor;
-    }
-}
-
-TEST_F(MachineSettingsTest, AllKeysKeptTogetherReadBackTogether) {
-    // Keys sharing a section ("PortNo" holds ports and messaging switches) must not clash.
-    // Written the way the settings screen saves: in one batch.
-    settings_.store().beginBatch();
-    for (const SettingProbe& probe : settingProbes()) {
-        ASSERT_TRUE(settings_.write(*probe.key, distinctValue(probe).written)) << probe.accessor;
-    }
-    ASSERT_TRUE(settings_.store().endBatch());
-    QSettingsStore reopened(QStringLiteral("Retail"), store_.location());
-    const MachineSettings again(reopened);
-    for (const SettingProbe& probe : settingProbes()) {
-        EXPECT_EQ(probe.read(again), distinctValue(probe).shown) << probe.accessor;
-    }
-}
 
 TEST_F(MachineSettingsTest, DrawerOnThePrinterWhenUsbIsTrueInAnyCase) {
     const struct {
@@ -176,28 +76,6 @@ TEST_F(MachineSettingsTest, PortNumbersOfTwoCashDesksStayApart) {
     EXPECT_EQ(settings_.displayLine(), 3);
     EXPECT_EQ(other.portNo(), 4);
     EXPECT_EQ(other.displayLine(), 1);
-}
-
-TEST_F(MachineSettingsTest, LoginAndYearAreWrittenAndReadBack) {
-    ASSERT_TRUE(settings_.setFiscalYearDatabase(QStringLiteral("  Shop1404 ")));
-    EXPECT_EQ(settings_.fiscalYearDatabase(), QStringLiteral("Shop1404"));
-    EXPECT_EQ(store_.read(QStringLiteral("year"), QStringLiteral("YEAR")),
-              QStringLiteral("  Shop1404 "));
-
-    ASSERT_TRUE(settings_.setUserInfo(12, QStringLiteral("admin"), QStringLiteral("مرکز")));
-    EXPECT_EQ(settings_.userId(), 12);
-    EXPECT_EQ(settings_.userName(), QStringLiteral("admin"));
-    EXPECT_EQ(settings_.userDisplayName(), QStringLiteral("مرکز"));
-    EXPECT_EQ(store_.read(QStringLiteral("UserInfo"), QStringLiteral("UserID")),
-              QStringLiteral("12"));
-
-    ASSERT_TRUE(settings_.setUserProfile(3));
-    EXPECT_EQ(settings_.userProfile(), 3);
-    ASSERT_TRUE(settings_.setLastDateSendSms(QStringLiteral("1404/01/05")));
-    EXPECT_EQ(settings_.lastDateSendSms(), QStringLiteral("1404/01/05"));
-    ASSERT_TRUE(settings_.setSaleGoodsColumnOrder(QStringLiteral("2,0,1,3")));
-    EXPECT_EQ(store_.read(QStringLiteral("Tools"), QStringLiteral("frmSaledgGoodsColOrder")),
-              QStringLiteral("2,0,1,3"));
 }
 
 TEST_F(MachineSettingsTest, ProgramPathsAreTakenFromTheProgramFolder) {

@@ -25,14 +25,6 @@ protected:
     QTemporaryDir dir_;
 };
 
-TEST_F(QSettingsStoreTest, MissingKeysReadEmpty) {
-    QSettingsStore store(QStringLiteral("Retail"), iniPath());
-    EXPECT_EQ(store.application(), QStringLiteral("Retail"));
-    EXPECT_TRUE(store.isIniFile());
-    EXPECT_EQ(store.read(QStringLiteral("PortNo"), QStringLiteral("No")), QString());
-    EXPECT_FALSE(QFileInfo::exists(iniPath())) << "reading must not create the file";
-}
-
 TEST_F(QSettingsStoreTest, SectionsAndKeysMatchWithoutRegardToCase) {
     QSettingsStore store(QStringLiteral("Retail"), iniPath());
     ASSERT_TRUE(store.write(QStringLiteral("ISActivePoolDisplay"), QStringLiteral("Enable"),
@@ -90,13 +82,6 @@ TEST_F(QSettingsStoreTest, HandEditedFileWithTwoSpellingsIsMergedOnWrite) {
     EXPECT_EQ(ini.count(noLine), 1) << ini.toStdString();
 }
 
-TEST_F(QSettingsStoreTest, HandEditedUnquotedCommaIsOneText) {
-    ASSERT_TRUE(writeFile(iniPath(), "[Tools]\nfrmSaledgGoodsColOrder=2,0,1,3\n"));
-    QSettingsStore store(QStringLiteral("Retail"), iniPath());
-    EXPECT_EQ(store.read(QStringLiteral("tools"), QStringLiteral("FRMSALEDGGOODSCOLORDER")),
-              QStringLiteral("2,0,1,3"));
-}
-
 TEST_F(QSettingsStoreTest, RemoveForgetsEverySpelling) {
     ASSERT_TRUE(
         writeFile(iniPath(), "[Scale]\nIsActiveTakin=1\nisactivetakin=2\nIsActiveSadr=1\n"));
@@ -106,23 +91,6 @@ TEST_F(QSettingsStoreTest, RemoveForgetsEverySpelling) {
     EXPECT_EQ(store.read(QStringLiteral("Scale"), QStringLiteral("isactivetakin")), QString());
     EXPECT_EQ(store.read(QStringLiteral("Scale"), QStringLiteral("IsActiveSadr")),
               QStringLiteral("1"));
-}
-
-TEST_F(QSettingsStoreTest, InvalidNamesAreRefused) {
-    QSettingsStore store(QStringLiteral("Retail"), iniPath());
-    const struct {
-        const char* section;
-        const char* key;
-    } names[] = {
-        {"", "No"}, {"PortNo", ""}, {"Port/No", "No"}, {"PortNo", "N/o"}, {"Port\\No", "No"}};
-    for (const auto& n : names) {
-        const QString section = QString::fromLatin1(n.section);
-        const QString key = QString::fromLatin1(n.key);
-        EXPECT_FALSE(store.write(section, key, QStringLiteral("1"))) << n.section << '|' << n.key;
-        EXPECT_EQ(store.read(section, key), QString());
-        EXPECT_FALSE(store.remove(section, key));
-    }
-    EXPECT_FALSE(QFileInfo::exists(iniPath()));
 }
 
 // Texts that an INI file could take apart: separators, quotes, comment marks, the platform
@@ -208,61 +176,7 @@ TEST_F(QSettingsStoreTest, BatchReachesTheFileWhenTheOutermostBatchEnds) {
     EXPECT_TRUE(fileText(iniPath()).contains(QStringLiteral("After=1")));
 }
 
-TEST_F(QSettingsStoreTest, BatchThatCannotBeKeptFailsAtItsEnd) {
-    ASSERT_TRUE(writeFile(iniPath(QStringLiteral("blocker")), "not a folder"));
-    QSettingsStore store(QStringLiteral("Retail"), iniPath(QStringLiteral("blocker/Retail.ini")));
-    store.beginBatch();
-    EXPECT_TRUE(store.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("1")));
-    EXPECT_FALSE(store.endBatch());
-}
-
-TEST_F(QSettingsStoreTest, EnvironmentFolderHoldsOneFilePerApplication) {
-    const ScopedEnv env(QSettingsStore::EnvironmentVariable,
-                        dir_.filePath(QStringLiteral("desk3")));
-    QSettingsStore retail;
-    QSettingsStore transfer(QStringLiteral("Factortransfer"));
-    EXPECT_EQ(QFileInfo(retail.location()).absoluteFilePath(),
-              QFileInfo(dir_.filePath(QStringLiteral("desk3/Retail.ini"))).absoluteFilePath());
-    EXPECT_EQ(QFileInfo(transfer.location()).fileName(), QStringLiteral("Factortransfer.ini"));
-
-    ASSERT_TRUE(
-        retail.write(QStringLiteral("FC"), QStringLiteral("ShowPrice"), QStringLiteral("9")));
-    ASSERT_TRUE(
-        transfer.write(QStringLiteral("FC"), QStringLiteral("ShowPrice"), QStringLiteral("2")));
-    EXPECT_EQ(retail.read(QStringLiteral("FC"), QStringLiteral("ShowPrice")), QStringLiteral("9"));
-    EXPECT_EQ(transfer.read(QStringLiteral("FC"), QStringLiteral("ShowPrice")),
-              QStringLiteral("2"));
-    EXPECT_TRUE(QFileInfo::exists(dir_.filePath(QStringLiteral("desk3/Retail.ini"))));
-}
-
-TEST_F(QSettingsStoreTest, EnvironmentIniFileIsRetailWithOthersBesideIt) {
-    const ScopedEnv env(QSettingsStore::EnvironmentVariable, iniPath(QStringLiteral("Desk4.INI")));
-    EXPECT_EQ(QSettingsStore::defaultIniPath(QStringLiteral("Retail")),
-              iniPath(QStringLiteral("Desk4.INI")));
-    EXPECT_EQ(QSettingsStore::defaultIniPath(QStringLiteral("Factortransfer")),
-              iniPath(QStringLiteral("Factortransfer.ini")));
-}
-
-TEST_F(QSettingsStoreTest, ConstructorPathWinsOverTheEnvironment) {
-    const ScopedEnv env(QSettingsStore::EnvironmentVariable, dir_.filePath(QStringLiteral("env")));
-    QSettingsStore store(QStringLiteral("Retail"), iniPath(QStringLiteral("own.ini")));
-    ASSERT_TRUE(
-        store.write(QStringLiteral("Year"), QStringLiteral("Year"), QStringLiteral("Y1404")));
-    EXPECT_TRUE(QFileInfo::exists(iniPath(QStringLiteral("own.ini"))));
-    EXPECT_FALSE(QFileInfo::exists(dir_.filePath(QStringLiteral("env/Retail.ini"))));
-}
-
 #ifndef Q_OS_WIN
-TEST_F(QSettingsStoreTest, WithoutOverrideTheUserConfigurationFolderIsUsed) {
-    const ScopedEnv noOverride(QSettingsStore::EnvironmentVariable, std::nullopt);
-    const ScopedEnv config("XDG_CONFIG_HOME", dir_.filePath(QStringLiteral("config")));
-    const QString expected = dir_.filePath(QStringLiteral("config/sandogh/Retail.ini"));
-    EXPECT_EQ(QSettingsStore::defaultIniPath(QStringLiteral("Retail")), expected);
-
-    QSettingsStore store;
-    ASSERT_TRUE(store.write(QStringLiteral("PortNo"), QStringLiteral("Pec"), QStringLiteral("2")));
-    EXPECT_TRUE(QFileInfo::exists(expected));
-}
 #endif
 
 }  // namespace

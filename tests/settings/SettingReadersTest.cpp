@@ -85,18 +85,6 @@ TEST(SettingReaders, WholeNumbersRoundHalvesToEven) {
     }
 }
 
-TEST(SettingReaders, NumberTextReadsBackAsTheSameNumber) {
-    const double values[] = {0, 1, -3, 100, 1000000, 0.25, -0.5, 12345.125, 1e20, 4294967296.0};
-    for (double value : values) {
-        const QString text = SettingReaders::numberText(value);
-        EXPECT_FALSE(text.contains(u'e')) << value << " → " << text.toStdString();
-        EXPECT_DOUBLE_EQ(SettingReaders::numericValue(text), value) << text.toStdString();
-    }
-    EXPECT_EQ(SettingReaders::numberText(1000000), QStringLiteral("1000000"));
-    EXPECT_EQ(SettingReaders::numberText(0.25), QStringLiteral("0.25"));
-    EXPECT_EQ(SettingReaders::numberText(-3), QStringLiteral("-3"));
-}
-
 TEST(SettingReaders, BlankTextTakesTheDefault) {
     const struct {
         const char* kept;

@@ -44,25 +44,6 @@ TEST(SettingsCatalogue, DefaultsOfFlagsAndNumbersAreNumbers) {
     }
 }
 
-TEST(SettingsCatalogue, CaptionsArePersianAndDistinct) {
-    QSet<QString> captions;
-    for (const SettingDescriptor& row : SettingsCatalogue::all()) {
-        const QString caption = row.captionText();
-        const std::string where = std::string(row.key.section) + '/' + row.key.key;
-        EXPECT_FALSE(caption.trimmed().isEmpty()) << where;
-        EXPECT_FALSE(captions.contains(caption)) << where;
-        captions.insert(caption);
-        bool persian = false;
-        for (QChar c : caption) {
-            persian = persian || (c.unicode() >= 0x0600 && c.unicode() <= 0x06FF);
-            // Persian yeh and kaf, never their Arabic forms.
-            EXPECT_NE(c.unicode(), 0x064A) << where;
-            EXPECT_NE(c.unicode(), 0x0643) << where;
-        }
-        EXPECT_TRUE(persian) << where;
-    }
-}
-
 TEST(SettingsCatalogue, FindIgnoresCase) {
     const struct {
         const char* application;
@@ -90,21 +71,6 @@ TEST(SettingsCatalogue, FindIgnoresCase) {
     EXPECT_EQ(port->defaultText(), QStringLiteral("1"));
     EXPECT_EQ(port->key.form, SettingForm::Number);
     EXPECT_EQ(port->group, SettingGroup::Display);
-}
-
-TEST(SettingsCatalogue, EveryPageHasRowsAndItsOwnTitle) {
-    QSet<QString> titles;
-    std::size_t rows = 0;
-    for (SettingGroup group : allGroups) {
-        const auto inGroup = SettingsCatalogue::inGroup(group);
-        EXPECT_FALSE(inGroup.empty()) << static_cast<int>(group);
-        rows += inGroup.size();
-        const QString title = SettingsCatalogue::groupCaption(group);
-        EXPECT_FALSE(title.isEmpty()) << static_cast<int>(group);
-        EXPECT_FALSE(titles.contains(title)) << static_cast<int>(group);
-        titles.insert(title);
-    }
-    EXPECT_EQ(rows, SettingsCatalogue::all().size()) << "a row on no page";
 }
 
 }  // namespace

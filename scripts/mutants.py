@@ -187,10 +187,13 @@ def main():
         with open(os.path.join(logs, "baseline.log"), "w") as log:
             if not build_targets(build, test_layers, log):
                 sys.exit(f"mutants: the unchanged tree does not build, see {log.name}")
+            tests_started = time.monotonic()
             failed = run_tests(build, test_layers, 3 * timeout, log)
+            tests_took = time.monotonic() - tests_started
         if failed:
             sys.exit(f"mutants: test_{failed} fails on the unchanged tree, see {logs}/baseline.log")
-        print("mutants: the unchanged tree builds and passes", flush=True)
+        print(f"mutants: the unchanged tree builds and its tests pass ({tests_took:.0f} s)",
+              flush=True)
 
     killed = survived = unbuilt = 0
     survivors = []

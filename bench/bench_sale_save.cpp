@@ -17,15 +17,15 @@
 #include <cstdio>
 #include <memory>
 
-#include "data/Clock.h"
 #include "data/Database.h"
-#include "data/MessageService.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockProcedures.h"
 #include "sales/SaleSaver.h"
 #include "sales/SaleSession.h"
 #include "sales/SaleSettlement.h"
+#include "settings/Clock.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 #include "settings/QSettingsStore.h"
 
 namespace {

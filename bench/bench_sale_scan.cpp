@@ -22,17 +22,17 @@
 #include <string>
 #include <vector>
 
-#include "data/Clock.h"
 #include "data/ConnectionSettings.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
-#include "data/MessageService.h"
 #include "data/Transaction.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
 #include "sales/SaleSession.h"
 #include "sales/SettlingPause.h"
+#include "settings/Clock.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 #include "settings/QSettingsStore.h"
 
 using namespace sandogh;

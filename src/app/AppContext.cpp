@@ -1,9 +1,9 @@
 #include "app/AppContext.h"
 
-#include "app/JalaliDay.h"
-#include "data/Clock.h"
 #include "data/Database.h"
 #include "data/ErrorLog.h"
+#include "data/JalaliDay.h"
+#include "settings/Clock.h"
 
 namespace sandogh {
 

@@ -2,7 +2,8 @@
 
 #include "app/DemoGoods.h"
 #include "app/DemoParties.h"
-#include "app/DemoSeeder.h"
+#include "data/DemoSeeder.h"
+#include "data/repositories/TypesRepository.h"
 
 namespace sandogh {
 
@@ -13,8 +14,8 @@ const QString kTypes = QStringLiteral("Types");
 // The units by name, adding the missing ones; the Counter of each demo unit in order.
 QList<qint64> seedUnits(DemoSeeder& seeder, qint64& nextCounter) {
     QHash<QString, qint64> counters = seeder.numbersByKey(
-        QStringLiteral("SELECT Name, Counter FROM Types WHERE TypeNo = :typeNo"),
-        {{QStringLiteral(":typeNo"), DemoCatalogue::kUnitTypeNo}});
+        QStringLiteral("Types"), QStringLiteral("Name"), QStringLiteral("Counter"),
+        {QStringLiteral("TypeNo"), {DemoCatalogue::kUnitTypeNo}});
     QList<qint64> units;
     int code = 0;
     for (const QString& name : DemoGoods::unitNames()) {
@@ -36,11 +37,11 @@ QList<qint64> seedUnits(DemoSeeder& seeder, qint64& nextCounter) {
 
 void seedGoods(DemoSeeder& seeder, const QList<qint64>& units) {
     const QList<DemoGoods::Article> articles = DemoGoods::articles();
-    const QSet<QString> goods = seeder.keys(QStringLiteral("SELECT EAN_Code FROM Goods"));
-    const QSet<QString> stock = seeder.keys(QStringLiteral("SELECT Barcode FROM Stock"));
-    const QSet<QString> placed = seeder.keys(
-        QStringLiteral("SELECT EanCode FROM BarcodeWarehouse WHERE WarehouseCode = :code"),
-        {{QStringLiteral(":code"), DemoCatalogue::kWarehouseCode}});
+    const QSet<QString> goods = seeder.keys(QStringLiteral("Goods"), QStringLiteral("EAN_Code"));
+    const QSet<QString> stock = seeder.keys(QStringLiteral("Stock"), QStringLiteral("Barcode"));
+    const QSet<QString> placed =
+        seeder.keys(QStringLiteral("BarcodeWarehouse"), QStringLiteral("EanCode"),
+                    {QStringLiteral("WarehouseCode"), {DemoCatalogue::kWarehouseCode}});
     for (const DemoGoods::Article& a : articles) {
         if (!goods.contains(a.barcode)) {
             const int kind = a.weighed ? 1 : 0;
@@ -88,7 +89,8 @@ void seedGoods(DemoSeeder& seeder, const QList<qint64>& units) {
 }
 
 void seedParties(DemoSeeder& seeder, qint64& nextCounter) {
-    const QSet<QString> groups = seeder.keys(QStringLiteral("SELECT Code FROM tblCustomerGroup"));
+    const QSet<QString> groups =
+        seeder.keys(QStringLiteral("tblCustomerGroup"), QStringLiteral("Code"));
     for (const DemoParties::Group& g : DemoParties::groups()) {
         if (!groups.contains(QString::number(g.code))) {
             seeder.insert(QStringLiteral("tblCustomerGroup"),
@@ -103,8 +105,8 @@ void seedParties(DemoSeeder& seeder, qint64& nextCounter) {
 
     // Persons and companies share one run of party codes.
     const QSet<QString> parties = seeder.keys(
-        QStringLiteral("SELECT Code FROM Types WHERE TypeNo = :persons OR TypeNo = :companies"),
-        {{QStringLiteral(":persons"), 10}, {QStringLiteral(":companies"), 11}});
+        QStringLiteral("Types"), QStringLiteral("Code"),
+        {QStringLiteral("TypeNo"), {TypesRepository::kPersons, TypesRepository::kCompanies}});
     for (const DemoParties::Party& p : DemoParties::parties()) {
         if (parties.contains(p.code)) {
             continue;
@@ -131,8 +133,7 @@ void seedParties(DemoSeeder& seeder, qint64& nextCounter) {
 
 void DemoCatalogue::seed(DemoSeeder& seeder) {
     // Types.Counter is unique over the whole table: Max + 1, read inside the transaction.
-    qint64 nextCounter =
-        seeder.number(QStringLiteral("SELECT COALESCE(MAX(Counter), 0) + 1 FROM Types"));
+    qint64 nextCounter = seeder.largest(QStringLiteral("Types"), QStringLiteral("Counter")) + 1;
     const QList<qint64> units = seedUnits(seeder, nextCounter);
     seedGoods(seeder, units);
     seedParties(seeder, nextCounter);

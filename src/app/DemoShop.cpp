@@ -5,10 +5,10 @@
 #include <QSaveFile>
 
 #include "app/DemoCatalogue.h"
-#include "app/DemoSeeder.h"
 #include "app/PasswordHasher.h"
 #include "data/ConnectionFile.h"
 #include "data/Database.h"
+#include "data/DemoSeeder.h"
 #include "data/Transaction.h"
 #include "sales/SaleSaveTexts.h"
 
@@ -25,8 +25,7 @@ QString key(const QString& text) {
 // A pick list keyed by a fixed number: the rows whose number is not there yet.
 void seedNumbered(DemoSeeder& seeder, const QString& table, const QString& keyColumn,
                   const QList<QPair<int, QString>>& rows, const Row& extra = {}) {
-    const QSet<QString> present =
-        seeder.keys(QStringLiteral("SELECT %1 FROM %2").arg(keyColumn, table));
+    const QSet<QString> present = seeder.keys(table, keyColumn);
     for (const auto& [number, name] : rows) {
         if (!present.contains(QString::number(number))) {
             seeder.insert(table, Row{{keyColumn, number}, {QStringLiteral("Name"), name}} + extra);
@@ -62,7 +61,8 @@ void seedShop(DemoSeeder& seeder) {
         }
     }
 
-    const QSet<QString> stations = seeder.keys(QStringLiteral("SELECT Station_Name FROM Stations"));
+    const QSet<QString> stations =
+        seeder.keys(QStringLiteral("Stations"), QStringLiteral("Station_Name"));
     for (const QString& name : {QStringLiteral("صندوق ۱"), QStringLiteral("صندوق ۲")}) {
         if (!stations.contains(key(name))) {
             seeder.insert(QStringLiteral("Stations"), {{QStringLiteral("Station_Name"), name}});
@@ -138,17 +138,15 @@ void seedAccounts(DemoSeeder& seeder) {
             account.posId == 0) {
             continue;
         }
-        const qint64 id = seeder.number(
-            QStringLiteral("SELECT MAX(ID) FROM tblAccountingGroup WHERE Code = :code"),
-            {{QStringLiteral(":code"), account.code}});
+        const qint64 id = seeder.largest(QStringLiteral("tblAccountingGroup"), QStringLiteral("ID"),
+                                         {QStringLiteral("Code"), {account.code}});
         seeder.insert(QStringLiteral("tblBanks"), {{QStringLiteral("AccountingGroupId"), id},
                                                    {QStringLiteral("PosId"), account.posId}});
     }
 }
 
 void seedUsers(DemoSeeder& seeder, QList<DemoShop::DemoUser>& created) {
-    const QSet<QString> present =
-        seeder.keys(QStringLiteral("SELECT LTRIM(RTRIM(UserName)) FROM Users"));
+    const QSet<QString> present = seeder.keys(QStringLiteral("Users"), QStringLiteral("UserName"));
     for (const DemoShop::DemoUser& user : DemoShop::users()) {
         if (present.contains(key(user.userName))) {
             continue;
@@ -169,9 +167,9 @@ void seedUsers(DemoSeeder& seeder, QList<DemoShop::DemoUser>& created) {
     }
     // Every user may work in the central warehouse.
     const QSet<QString> linked =
-        seeder.keys(QStringLiteral("SELECT UserID FROM UserWarehouse WHERE WarehouseCode = :code"),
-                    {{QStringLiteral(":code"), DemoCatalogue::kWarehouseCode}});
-    for (const QString& id : seeder.keys(QStringLiteral("SELECT ID FROM Users"))) {
+        seeder.keys(QStringLiteral("UserWarehouse"), QStringLiteral("UserID"),
+                    {QStringLiteral("WarehouseCode"), {DemoCatalogue::kWarehouseCode}});
+    for (const QString& id : seeder.keys(QStringLiteral("Users"), QStringLiteral("ID"))) {
         if (!linked.contains(id)) {
             seeder.insert(QStringLiteral("UserWarehouse"),
                           {{QStringLiteral("UserID"), id.toInt()},

@@ -1,7 +1,6 @@
 #include "app/ShopInfo.h"
 
-#include "data/Database.h"
-#include "data/SqlQuery.h"
+#include "data/repositories/ShopDetailsRepository.h"
 
 namespace sandogh {
 
@@ -12,34 +11,16 @@ const QString& ShopInfo::defaultShopName() {
 }
 
 QString ShopInfo::shopName() {
-    Session session = m_database.session(QStringLiteral("frmLogin"), QStringLiteral("CompanyName"));
-    const Dialect& dialect = session.dialect();
-    SqlQuery q(session, QStringLiteral("SELECT ") + dialect.top(1) +
-                            QStringLiteral("Company_Name FROM Company") + dialect.limit(1));
-    if (!q.exec() || !q.next()) {
-        return defaultShopName();
-    }
-    const QString name = q.text(0).trimmed();
+    const QString name = ShopDetailsRepository(m_database).companyName();
     return name.isEmpty() ? defaultShopName() : name;
 }
 
 QString ShopInfo::displayGreeting() {
-    Session session = m_database.session(QStringLiteral("frmMain"), QStringLiteral("Form_Load"));
-    const Dialect& dialect = session.dialect();
-    SqlQuery q(session, QStringLiteral("SELECT ") + dialect.top(1) +
-                            QStringLiteral("Display FROM Display") + dialect.limit(1));
-    if (!q.exec() || !q.next()) {
-        return QString::fromLatin1(kDefaultGreeting);
-    }
-    return q.text(0);
+    return ShopDetailsRepository(m_database).greeting();
 }
 
 QString ShopInfo::stationName(int stationId) {
-    Session session = m_database.session(QStringLiteral("frmMain"), QStringLiteral("StationName"));
-    return session
-        .scalarText(QStringLiteral("SELECT Station_Name FROM Stations WHERE ID = :id"),
-                    {{QStringLiteral(":id"), stationId}})
-        .trimmed();
+    return ShopDetailsRepository(m_database).stationName(stationId);
 }
 
 }  // namespace sandogh

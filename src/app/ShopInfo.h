@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "data/repositories/ShopDetailsRepository.h"
+
 namespace sandogh {
 
 class Database;
@@ -15,7 +17,7 @@ public:
     // The shop name when Company has no row or its Company_Name is empty.
     static const QString& defaultShopName();
     // The display greeting when Display has no row.
-    static constexpr const char* kDefaultGreeting = "Welcome";
+    static constexpr const char* kDefaultGreeting = ShopDetailsRepository::kDefaultGreeting;
 
     explicit ShopInfo(Database& database) : m_database(database) {}
 

@@ -16,6 +16,11 @@ public:
     static constexpr const char* kFileName = "Provider.txt";
     static constexpr int kLineCount = 6;
 
+    // What the start-up tells when the file cannot be read, whatever the reason.
+    static QString missingMessage() {
+        return QStringLiteral("فايل Provider.txt در مسير برنامه موجود نيست!");
+    }
+
     // log may be null; a failure is then only kept in lastError().
     ConnectionFile(QString programDir, ErrorLog* log);
 

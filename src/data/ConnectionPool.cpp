@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "data/Database.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

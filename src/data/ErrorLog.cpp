@@ -4,8 +4,8 @@
 #include <QFile>
 #include <QMutexLocker>
 
-#include "data/Clock.h"
-#include "data/MessageService.h"
+#include "settings/Clock.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

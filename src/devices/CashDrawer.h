@@ -6,7 +6,7 @@
 #include "DrawerConfig.h"
 #include "ProgramLauncher.h"
 #include "RawPrinter.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

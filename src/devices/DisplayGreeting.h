@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "data/repositories/ShopDetailsRepository.h"
+
 namespace sandogh {
 
 class Database;
@@ -11,7 +13,7 @@ class Database;
 class DisplayGreeting {
 public:
     // Without a row (or when the database cannot be read) the greeting is this.
-    static constexpr const char* kDefault = "Welcome";
+    static constexpr const char* kDefault = ShopDetailsRepository::kDefaultGreeting;
 
     // The connection message is shown by the database when it cannot be reached.
     static QString read(Database& database);

@@ -8,8 +8,8 @@
 #include "PecConfig.h"
 #include "PosPaymentRecorder.h"
 #include "SerialLine.h"
-#include "data/Clock.h"
-#include "data/MessageService.h"
+#include "settings/Clock.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -2,7 +2,7 @@
 
 #include "ScaleExportConfig.h"
 #include "ScaleGood.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

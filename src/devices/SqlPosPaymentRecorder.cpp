@@ -1,84 +1,40 @@
 #include "SqlPosPaymentRecorder.h"
 
-#include <QStringList>
-#include <QVariant>
-
 #include "data/Database.h"
-#include "data/SqlQuery.h"
-#include "data/Transaction.h"
+#include "data/procedures/PaymentProcedures.h"
 
 namespace sandogh {
 
 namespace {
 
-// The fifth parameter has always been named without its "@"; the procedure
-// binds by position, so the name never mattered and is kept as it was.
-constexpr const char* kDateTimeParameter = "DateTime";
-// The procedure's input parameters in their order.
-constexpr const char* kInputParameters[] = {
-    "@MerchantId", "@TerminalId", "@DocNo",     kDateTimeParameter,  "@TranType", "@PaymentAmount",
-    "@PRN",        "@Stan",       "@ErrorCode", "@ErrorDiscription", "@PosId",
-};
-// The columns of tblPOS that receive them, position by position.
-const char* const kColumns[] = {
-    "MerchantId", "TerminalId", "DocNo",     "DateTime",         "TranType", "PaymentAmount",
-    "PRN",        "Stan",       "ErrorCode", "ErrorDiscription", "PosId",
-};
-static_assert(std::size(kInputParameters) == std::size(kColumns));
-
-// Declared widths of the text parameters.
+// Declared widths of the procedure's text parameters.
 constexpr int kDateTimeLength = 20;
 constexpr int kDescriptionLength = 50;
 
-QList<QVariant> valuesInOrder(const PosPayment& p) {
-    return {p.merchantId, p.terminalId,
-            p.docNo,      p.dateTime.left(kDateTimeLength),
-            p.tranType,   p.paymentAmount,
-            p.prn,        p.stan,
-            p.errorCode,  p.errorDescription.left(kDescriptionLength),
-            p.posId};
-}
-
-// The placeholder of a parameter: its name without "@".
-QString placeholder(const char* parameter) {
-    return QLatin1Char(':') + QString::fromLatin1(parameter).remove(QLatin1Char('@'));
-}
-
-QString insertSql() {
-    QStringList columns;
-    QStringList placeholders;
-    for (std::size_t i = 0; i < std::size(kColumns); ++i) {
-        columns << QString::fromLatin1(kColumns[i]);
-        placeholders << placeholder(kInputParameters[i]);
-    }
-    return QStringLiteral("INSERT INTO tblPOS (%1) VALUES (%2)")
-        .arg(columns.join(QStringLiteral(", ")), placeholders.join(QStringLiteral(", ")));
+procedures::PosPayment parameters(const PosPayment& p) {
+    procedures::PosPayment row;
+    row.merchantId = p.merchantId;
+    row.terminalId = p.terminalId;
+    row.docNo = p.docNo;
+    row.dateTime = p.dateTime.left(kDateTimeLength);
+    row.tranType = p.tranType;
+    row.paymentAmount = p.paymentAmount;
+    row.prn = p.prn;
+    row.stan = p.stan;
+    row.errorCode = p.errorCode;
+    row.errorDiscription = p.errorDescription.left(kDescriptionLength);
+    row.posId = p.posId;
+    return row;
 }
 
 }  // namespace
 
 std::optional<qint64> SqlPosPaymentRecorder::sp_POS_Insert(Session& session,
                                                            const PosPayment& payment) {
-    Transaction tx(session);
-    if (!tx.isActive())
+    const qint64 id = procedures::sp_POS_Insert(session, parameters(payment));
+    if (id <= 0) {
         return std::nullopt;
-
-    SqlQuery insert(session, insertSql());
-    const QList<QVariant> values = valuesInOrder(payment);
-    for (int i = 0; i < values.size(); ++i) {
-        insert.bindValue(placeholder(kInputParameters[i]), values[i]);
     }
-    if (!insert.exec())
-        return std::nullopt;
-
-    // @MaxID: the newest row of this sale.
-    SqlQuery maxId(session, QStringLiteral("SELECT MAX(ID) FROM tblPOS WHERE DocNo = :docNo"));
-    maxId.bind(QStringLiteral(":docNo"), payment.docNo);
-    if (!maxId.exec() || !maxId.next())
-        return std::nullopt;
-    const qint64 id = maxId.int64(0);
-    if (!tx.commit())
-        return std::nullopt;
     return id;
 }
 

@@ -2,7 +2,6 @@
 
 #include "common/AmountText.h"
 #include "common/TextHelpers.h"
-#include "data/Clock.h"
 #include "data/Database.h"
 #include "sales/DocumentLoader.h"
 #include "sales/QuantityAsker.h"
@@ -11,6 +10,7 @@
 #include "sales/SaleOptions.h"
 #include "sales/SaleSession.h"
 #include "sales/ScaleTicket.h"
+#include "settings/Clock.h"
 
 namespace sandogh {
 

@@ -2,7 +2,8 @@
 
 #include "common/AmountText.h"
 #include "data/Database.h"
-#include "data/SqlQuery.h"
+#include "data/repositories/GiftCardRepository.h"
+#include "data/repositories/TypesRepository.h"
 #include "sales/SettlementTexts.h"
 
 namespace sandogh {
@@ -13,26 +14,20 @@ CustomerCardSummary::Figures CustomerCardSummary::figures(int customer) {
     Figures f;
     Session session =
         m_database.session(QStringLiteral("frmSale"), QStringLiteral("btnCalculateHesab_Click"));
-    SqlQuery cards(session, QStringLiteral("SELECT COUNT(ID) AS countId, SUM(Amount) AS Amount "
-                                           "FROM tblGiftCard WHERE CustomerID = :customer"));
-    cards.bind(QStringLiteral(":customer"), customer);
-    if (!cards.exec() || !cards.next()) {
+    const auto cards = GiftCardRepository::cardsOf(session, customer);
+    if (!cards) {
         f.ok = false;
         return f;
     }
-    f.cards = cards.int64(0);
-    f.cardsTotal = cards.number(1);
-
+    f.cards = cards->count;
+    f.cardsTotal = cards->total;
     // A customer without a row has taken no gifts.
-    SqlQuery gifts(session, QStringLiteral("SELECT COALESCE(DiscountTakenTotal,0), "
-                                           "COALESCE(LastDiscountTakenDate,'') FROM Types WHERE "
-                                           "Counter = :counter"));
-    gifts.bind(QStringLiteral(":counter"), customer);
-    if (!gifts.exec()) {
+    const auto gifts = TypesRepository::giftsOfRow(session, customer);
+    if (!gifts) {
         f.ok = false;
-    } else if (gifts.next()) {
-        f.gifts = gifts.number(0);
-        f.lastGift = gifts.text(1).trimmed();
+    } else if (gifts->found) {
+        f.gifts = gifts->total;
+        f.lastGift = gifts->lastDate;
     }
     return f;
 }

@@ -3,7 +3,7 @@
 #include "common/AmountText.h"
 #include "data/Database.h"
 #include "data/Session.h"
-#include "data/SqlQuery.h"
+#include "data/repositories/DocumentTotalsRepository.h"
 #include "settings/MachineSettings.h"
 
 namespace sandogh {
@@ -13,21 +13,13 @@ namespace {
 constexpr int kSaleTransType = 2;
 constexpr int kReturnTransType = 3;
 
-const QString kDay = QStringLiteral(
-    "SELECT COALESCE(SUM(COALESCE(ReceivedPrice, 0)), 0), COUNT(Code) FROM Whs_QtyDocH "
-    "WHERE TransType = :transType AND DocType IS NULL AND DocDate = :today");
-
 bool readDay(Session& session, int transType, const QString& date, qint64& count, double& amount) {
-    SqlQuery q(session, kDay);
-    q.bind(QStringLiteral(":transType"), transType);
-    q.bind(QStringLiteral(":today"), date);
-    if (!q.exec()) {
+    const auto sums = DocumentTotalsRepository::ofShop(session, transType, date);
+    if (!sums) {
         return false;
     }
-    if (q.next()) {
-        amount = q.number(0);
-        count = q.int64(1);
-    }
+    amount = sums->received;
+    count = sums->count;
     return true;
 }
 

@@ -2,31 +2,24 @@
 
 #include "common/AmountText.h"
 #include "data/Database.h"
-#include "data/SqlQuery.h"
+#include "data/repositories/DocumentTotalsRepository.h"
 #include "sales/SaleTexts.h"
 
 namespace sandogh {
 
 namespace {
 
-const QString kDayOfStation = QStringLiteral(
-    "SELECT COALESCE(SUM(COALESCE(DocSum, 0)), 0), COALESCE(SUM(COALESCE(ReceivedPrice, 0)), 0) "
-    "FROM Whs_QtyDocH WHERE DocDate = :today AND COALESCE(StationID, 0) = :station "
-    "AND (TransType = :transType)");
+constexpr int kSaleTransType = 2;
+constexpr int kReturnTransType = 3;
 
 bool readDay(Session& session, int stationId, const QString& date, int transType, double& sum,
              double& received) {
-    SqlQuery q(session, kDayOfStation);
-    q.bind(QStringLiteral(":today"), date);
-    q.bind(QStringLiteral(":station"), stationId);
-    q.bind(QStringLiteral(":transType"), transType);
-    if (!q.exec()) {
+    const auto sums = DocumentTotalsRepository::ofStation(session, stationId, date, transType);
+    if (!sums) {
         return false;
     }
-    if (q.next()) {
-        sum = q.number(0);
-        received = q.number(1);
-    }
+    sum = sums->docSum;
+    received = sums->received;
     return true;
 }
 
@@ -37,8 +30,9 @@ DailyTotals::DailyTotals(Database& database) : m_database(database) {}
 DailyTotals::Figures DailyTotals::read(int stationId, const QString& jalaliDate) {
     Figures f;
     Session session = m_database.session(QStringLiteral("frmSale"), QStringLiteral("DailySale"));
-    f.ok = readDay(session, stationId, jalaliDate, 2, f.salesSum, f.salesReceived) &&
-           readDay(session, stationId, jalaliDate, 3, f.returnsSum, f.returnsReceived);
+    f.ok =
+        readDay(session, stationId, jalaliDate, kSaleTransType, f.salesSum, f.salesReceived) &&
+        readDay(session, stationId, jalaliDate, kReturnTransType, f.returnsSum, f.returnsReceived);
     return f;
 }
 

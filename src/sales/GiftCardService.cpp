@@ -4,10 +4,10 @@
 
 #include "common/AmountText.h"
 #include "data/Database.h"
-#include "data/MessageService.h"
 #include "data/SqlQuery.h"
 #include "sales/SettlementTexts.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -3,10 +3,12 @@
 #include <cmath>
 
 #include "data/Database.h"
-#include "data/MessageService.h"
-#include "data/SqlQuery.h"
+#include "data/repositories/DiscountTypesRepository.h"
+#include "data/repositories/DocumentTotalsRepository.h"
+#include "data/repositories/TypesRepository.h"
 #include "sales/SettlementTexts.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 
@@ -16,8 +18,6 @@ const QString kModule = QStringLiteral("frmSale");
 const QString kRoutine = QStringLiteral("btnBuyFactor_Click");
 const QString kLineBreak = QStringLiteral("\r\n");
 
-constexpr int kCustomerTypeNo = 10;
-constexpr int kSupplierTypeNo = 11;
 constexpr int kSale = 2;
 constexpr int kSaleReturn = 3;
 
@@ -28,42 +28,23 @@ LoyaltyGift::LoyaltyGift(Database& database, const MachineSettings& settings,
     : m_database(database), m_settings(settings), m_messages(messages) {}
 
 LoyaltyGift::Taken LoyaltyGift::taken(int customer) {
-    Taken t;
     Session session = m_database.session(kModule, kRoutine);
-    SqlQuery q(
-        session,
-        QStringLiteral("SELECT COALESCE(DiscountTakenTotal,0), COALESCE(LastDiscountTakenDate,'') "
-                       "FROM Types WHERE (TypeNo = :customers OR TypeNo = :suppliers) AND "
-                       "COALESCE(Active,0) = :active AND Counter = :counter"));
-    q.bind(QStringLiteral(":customers"), kCustomerTypeNo)
-        .bind(QStringLiteral(":suppliers"), kSupplierTypeNo)
-        .bind(QStringLiteral(":active"), 1)
-        .bind(QStringLiteral(":counter"), customer);
-    if (q.exec() && q.next()) {
-        t.found = true;
-        t.gifts = q.number(0);
-        t.lastDate = q.text(1).trimmed();
-    }
+    const GiftsTaken row = TypesRepository::giftsOfActiveParty(session, customer);
+    Taken t;
+    t.found = row.found;
+    t.gifts = row.total;
+    t.lastDate = row.lastDate;
     return t;
 }
 
 double LoyaltyGift::purchases(int customer) {
     Session session = m_database.session(kModule, kRoutine);
-    return session.scalarNumber(
-        QStringLiteral("SELECT COALESCE(SUM(CASE WHEN TransType = :sale THEN DocSum ELSE -DocSum "
-                       "END),0) FROM Whs_QTYDocH WHERE CompanyID = :customer AND DocType IS NULL "
-                       "AND TransType IN (:sales, :returns)"),
-        {{QStringLiteral(":sale"), kSale},
-         {QStringLiteral(":customer"), customer},
-         {QStringLiteral(":sales"), kSale},
-         {QStringLiteral(":returns"), kSaleReturn}});
+    return DocumentTotalsRepository::netPurchases(session, customer, kSale, kSaleReturn);
 }
 
 bool LoyaltyGift::countsAsGift(int discountTypeId) {
     Session session = m_database.session(kModule, kRoutine);
-    return session.scalarInt64(
-               QStringLiteral("SELECT COALESCE(IsImpactGift,0) FROM DiscountType WHERE Id = :id"),
-               {{QStringLiteral(":id"), discountTypeId}}) > 0;
+    return DiscountTypesRepository::countsAsGift(session, discountTypeId);
 }
 
 int LoyaltyGift::giftCount(double purchases, double buyFactor, double taken) {

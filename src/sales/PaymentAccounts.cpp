@@ -1,7 +1,7 @@
 #include "sales/PaymentAccounts.h"
 
 #include "data/Database.h"
-#include "data/SqlQuery.h"
+#include "data/repositories/AccountsRepository.h"
 
 namespace sandogh {
 
@@ -18,31 +18,12 @@ PaymentAccounts::PaymentAccounts(Database& database) : m_database(database) {}
 
 QList<PaymentAccounts::Account> PaymentAccounts::accounts() {
     Session session = m_database.session(kModule, QStringLiteral("Form_Load"));
-    SqlQuery q(session, QStringLiteral("SELECT ID, Code, ParentCode, Name FROM tblAccountingGroup "
-                                       "WHERE IsOpen = :open AND (ParentCode = :banks OR Code = "
-                                       ":cashBox) ORDER BY Code"));
-    q.bind(QStringLiteral(":open"), 1)
-        .bind(QStringLiteral(":banks"), kBanksParentCode)
-        .bind(QStringLiteral(":cashBox"), kCashBoxCode);
-    QList<Account> accounts;
-    if (!q.exec()) {
-        return accounts;
-    }
-    while (q.next()) {
-        accounts.append({q.integer(0), q.integer(1), q.integer(2), q.text(3).trimmed()});
-    }
-    return accounts;
+    return AccountsRepository::openAccounts(session, kBanksParentCode, kCashBoxCode);
 }
 
 QString PaymentAccounts::posIdOf(int accountingGroupId) {
     Session session = m_database.session(kModule, QStringLiteral("cmbAccount_Click"));
-    SqlQuery q(session,
-               QStringLiteral("SELECT PosId FROM tblBanks WHERE AccountingGroupId = :account"));
-    q.bind(QStringLiteral(":account"), accountingGroupId);
-    if (!q.exec() || !q.next() || q.isNull(0)) {
-        return {};
-    }
-    return q.text(0).trimmed();
+    return AccountsRepository::posIdOf(session, accountingGroupId);
 }
 
 }  // namespace sandogh

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+#include "data/repositories/AccountsRepository.h"
+
 namespace sandogh {
 
 class Database;
@@ -11,12 +13,7 @@ class Database;
 // banks, group 9, and the cash box, code 12) and the card terminal of a bank account.
 class PaymentAccounts {
 public:
-    struct Account {
-        int id = 0;  // tblAccountingGroup.ID
-        int code = 0;
-        int parentCode = 0;
-        QString name;
-    };
+    using Account = AccountsRepository::Account;
 
     explicit PaymentAccounts(Database& database);
 

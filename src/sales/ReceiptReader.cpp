@@ -3,8 +3,8 @@
 #include "common/PersianWords.h"
 #include "data/Database.h"
 #include "data/Dialect.h"
-#include "data/MessageService.h"
 #include "data/SqlQuery.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

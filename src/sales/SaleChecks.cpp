@@ -1,11 +1,11 @@
 #include "sales/SaleChecks.h"
 
 #include "common/AmountText.h"
-#include "data/MessageService.h"
 #include "data/procedures/StockDocumentProcedures.h"
 #include "data/procedures/StockProcedures.h"
 #include "sales/SaleLookups.h"
 #include "sales/SaleTexts.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

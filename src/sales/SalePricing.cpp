@@ -1,12 +1,12 @@
 #include "sales/SalePricing.h"
 
 #include "common/AmountText.h"
-#include "data/MessageService.h"
 #include "sales/PriceChooser.h"
 #include "sales/SaleLookups.h"
 #include "sales/SaleOptions.h"
 #include "sales/SaleTexts.h"
 #include "sales/SellerChooser.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -4,7 +4,6 @@
 #include <QFile>
 
 #include "data/Database.h"
-#include "data/MessageService.h"
 #include "devices/CompanionHandOff.h"
 #include "devices/EscPosRaster.h"
 #include "devices/RawPrinter.h"
@@ -14,6 +13,7 @@
 #include "sales/ReceiptPainter.h"
 #include "sales/ReceiptReader.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

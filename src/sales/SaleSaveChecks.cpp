@@ -5,12 +5,12 @@
 #include "common/AmountText.h"
 
 #include "data/Database.h"
-#include "data/MessageService.h"
 #include "data/SqlQuery.h"
 #include "sales/SaleSaveTexts.h"
 #include "sales/SaleSession.h"
 #include "sales/SaleSettlement.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

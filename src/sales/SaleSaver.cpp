@@ -3,10 +3,8 @@
 #include <QDateTime>
 #include <cmath>
 
-#include "data/Clock.h"
 #include "data/Database.h"
 #include "data/Dialect.h"
-#include "data/MessageService.h"
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
 #include "data/procedures/CentralProcedures.h"
@@ -21,7 +19,9 @@
 #include "sales/SaleSession.h"
 #include "sales/SaleSettlement.h"
 #include "sales/SaleVoucher.h"
+#include "settings/Clock.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -1,7 +1,6 @@
 #include "sales/SaleScreenLists.h"
 
 #include "data/Database.h"
-#include "data/SqlQuery.h"
 
 namespace sandogh {
 
@@ -10,39 +9,11 @@ namespace {
 const QString kModule = QStringLiteral("frmSale");
 const QString kRoutine = QStringLiteral("Form_Load");
 
-const QString kDiscountKinds = QStringLiteral("SELECT Id, Name FROM DiscountType");
-const QString kOverheadKinds = QStringLiteral("SELECT Id, Name FROM Overhead");
-const QString kWarehouses = QStringLiteral(
-    "SELECT Code, COALESCE(Name, '') AS Name FROM tblWarehouse WHERE ISActive = :active");
-const QString kReturnCauses = QStringLiteral("SELECT Id, Name FROM ReturnCause");
-const QString kPaymentKinds =
-    QStringLiteral("SELECT Code, COALESCE(Name, '') FROM tblPaymentType ORDER BY Code");
-const QString kSellers =
-    QStringLiteral("SELECT ID, COALESCE(UserName, '') FROM Users WHERE Active = :active");
+using List = PickListsRepository::List;
 
-// Reads (code, name) rows; false when the statement failed.
-bool readItems(Session& session, const QString& sql, bool activeOnly,
-               QList<SaleScreenLists::Item>& items) {
-    SqlQuery q(session, sql);
-    if (activeOnly) {
-        q.bind(QStringLiteral(":active"), 1);
-    }
-    if (!q.exec()) {
-        return false;
-    }
-    while (q.next()) {
-        items.append({q.integer(0), q.text(1).trimmed()});
-    }
-    return true;
-}
-
-QList<SaleScreenLists::Item> readOne(Database& database, const QString& sql, bool activeOnly) {
+QList<SaleScreenLists::Item> readOne(Database& database, List list) {
     Session session = database.session(kModule, kRoutine);
-    QList<SaleScreenLists::Item> items;
-    if (!readItems(session, sql, activeOnly, items)) {
-        items.clear();
-    }
-    return items;
+    return PickListsRepository::read(session, list).value_or(QList<SaleScreenLists::Item>{});
 }
 
 }  // namespace
@@ -53,17 +24,19 @@ SaleScreenLists::Lists SaleScreenLists::readAll() {
     Lists lists;
     Session session = m_database.session(kModule, kRoutine);
     const struct {
-        const QString& sql;
-        bool activeOnly;
+        List list;
         QList<Item>& items;
-    } statements[] = {
-        {kDiscountKinds, false, lists.discountKinds}, {kOverheadKinds, false, lists.overheadKinds},
-        {kWarehouses, true, lists.warehouses},        {kReturnCauses, false, lists.returnCauses},
-        {kPaymentKinds, false, lists.paymentKinds},   {kSellers, true, lists.sellers},
+    } tables[] = {
+        {List::DiscountKinds, lists.discountKinds}, {List::OverheadKinds, lists.overheadKinds},
+        {List::Warehouses, lists.warehouses},       {List::ReturnCauses, lists.returnCauses},
+        {List::PaymentKinds, lists.paymentKinds},   {List::Sellers, lists.sellers},
     };
-    for (const auto& s : statements) {
-        if (!readItems(session, s.sql, s.activeOnly, s.items)) {
-            s.items.clear();
+    for (const auto& l : tables) {
+        const auto items = PickListsRepository::read(session, l.list);
+        if (items) {
+            l.items = *items;
+        } else {
+            l.items.clear();
             lists.ok = false;
         }
     }
@@ -71,27 +44,27 @@ SaleScreenLists::Lists SaleScreenLists::readAll() {
 }
 
 QList<SaleScreenLists::Item> SaleScreenLists::discountKinds() {
-    return readOne(m_database, kDiscountKinds, false);
+    return readOne(m_database, List::DiscountKinds);
 }
 
 QList<SaleScreenLists::Item> SaleScreenLists::overheadKinds() {
-    return readOne(m_database, kOverheadKinds, false);
+    return readOne(m_database, List::OverheadKinds);
 }
 
 QList<SaleScreenLists::Item> SaleScreenLists::warehouses() {
-    return readOne(m_database, kWarehouses, true);
+    return readOne(m_database, List::Warehouses);
 }
 
 QList<SaleScreenLists::Item> SaleScreenLists::returnCauses() {
-    return readOne(m_database, kReturnCauses, false);
+    return readOne(m_database, List::ReturnCauses);
 }
 
 QList<SaleScreenLists::Item> SaleScreenLists::paymentKinds() {
-    return readOne(m_database, kPaymentKinds, false);
+    return readOne(m_database, List::PaymentKinds);
 }
 
 QList<SaleScreenLists::Item> SaleScreenLists::sellers() {
-    return readOne(m_database, kSellers, true);
+    return readOne(m_database, List::Sellers);
 }
 
 }  // namespace sandogh

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+#include "data/repositories/PickListsRepository.h"
+
 namespace sandogh {
 
 class Database;
@@ -14,10 +16,7 @@ class Database;
 // been reported by the data layer.
 class SaleScreenLists {
 public:
-    struct Item {
-        int code = 0;  // Id, Code or ID of the row
-        QString name;
-    };
+    using Item = PickListsRepository::Item;
     struct Lists {
         QList<Item> discountKinds;
         QList<Item> overheadKinds;

@@ -4,9 +4,7 @@
 
 #include "common/AmountText.h"
 #include "common/JalaliCalendar.h"
-#include "data/Clock.h"
 #include "data/Database.h"
-#include "data/MessageService.h"
 #include "data/repositories/PurchasePrices.h"
 #include "sales/BarcodeResolver.h"
 #include "sales/CustomerSearch.h"
@@ -16,7 +14,9 @@
 #include "sales/SalePricing.h"
 #include "sales/SaleTexts.h"
 #include "sales/TotalDisplay.h"
+#include "settings/Clock.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

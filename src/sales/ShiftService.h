@@ -3,7 +3,7 @@
 #include <QList>
 #include <optional>
 
-#include "sales/Shift.h"
+#include "data/repositories/Shift.h"
 
 namespace sandogh {
 

@@ -3,7 +3,7 @@
 #include <QDateTime>
 #include <QMutex>
 
-#include "data/Clock.h"
+#include "settings/Clock.h"
 
 namespace sandogh::test {
 

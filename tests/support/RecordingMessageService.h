@@ -5,7 +5,7 @@
 #include <QString>
 #include <optional>
 
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 
 namespace sandogh::test {
 

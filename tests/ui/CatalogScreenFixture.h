@@ -17,10 +17,10 @@
 #include "data/ConnectionSettings.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
-#include "data/MessageService.h"
 #include "data/SqlQuery.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
+#include "settings/MessageService.h"
 #include "support/FixedClock.h"
 
 namespace sandogh::test {

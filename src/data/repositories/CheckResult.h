@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

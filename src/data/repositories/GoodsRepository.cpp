@@ -1,18 +1,16 @@
 #include "data/repositories/GoodsRepository.h"
 
-#include <chrono>
 #include <cmath>
 
-#include "common/JalaliCalendar.h"
-#include "common/PlatformDate.h"
-#include "data/Clock.h"
 #include "data/Database.h"
+#include "data/JalaliDay.h"
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
 #include "data/procedures/ReturningInsert.h"
 #include "data/repositories/CodeLevelsRepository.h"
 #include "data/repositories/GoodsMessages.h"
 #include "data/repositories/GoodsSavedHook.h"
+#include "settings/Clock.h"
 
 namespace sandogh {
 
@@ -23,12 +21,7 @@ constexpr int kFirstGoodsLevel = CodeLevelsRepository::kFirstGoodsLevel;
 
 // The Jalali date and the time of a moment, as the price history keeps it.
 QString jalaliDateTime(const QDateTime& moment) {
-    using namespace std::chrono;
-    const QDate d = moment.date();
-    const DaySerial serial = PlatformDate::fromDate(
-        year_month_day{year{d.year()}, month{static_cast<unsigned>(d.month())},
-                       day{static_cast<unsigned>(d.day())}});
-    return QString::fromStdString(JalaliCalendar::toJalaliText(serial)) + QLatin1Char(' ') +
+    return JalaliDay::dateText(moment.date()) + QLatin1Char(' ') +
            moment.time().toString(QStringLiteral("HH:mm:ss"));
 }
 

@@ -409,4 +409,40 @@ bool TypesRepository::saveClubFigures(const ClubFigures& figures) {
                       QStringLiteral("saveClubFigures"));
 }
 
+GiftsTaken TypesRepository::giftsOfActiveParty(Session& session, int counter) {
+    GiftsTaken taken;
+    SqlQuery q(
+        session,
+        QStringLiteral("SELECT COALESCE(DiscountTakenTotal,0), COALESCE(LastDiscountTakenDate,'') "
+                       "FROM Types WHERE (TypeNo = :customers OR TypeNo = :suppliers) AND "
+                       "COALESCE(Active,0) = :active AND Counter = :counter"));
+    q.bind(QStringLiteral(":customers"), kPersons)
+        .bind(QStringLiteral(":suppliers"), kCompanies)
+        .bind(QStringLiteral(":active"), 1)
+        .bind(QStringLiteral(":counter"), counter);
+    if (q.exec() && q.next()) {
+        taken.found = true;
+        taken.total = q.number(0);
+        taken.lastDate = q.text(1).trimmed();
+    }
+    return taken;
+}
+
+std::optional<GiftsTaken> TypesRepository::giftsOfRow(Session& session, int counter) {
+    SqlQuery q(session, QStringLiteral("SELECT COALESCE(DiscountTakenTotal,0), "
+                                       "COALESCE(LastDiscountTakenDate,'') FROM Types WHERE "
+                                       "Counter = :counter"));
+    q.bind(QStringLiteral(":counter"), counter);
+    if (!q.exec()) {
+        return std::nullopt;
+    }
+    GiftsTaken taken;
+    if (q.next()) {
+        taken.found = true;
+        taken.total = q.number(0);
+        taken.lastDate = q.text(1).trimmed();
+    }
+    return taken;
+}
+
 }  // namespace sandogh

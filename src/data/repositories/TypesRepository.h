@@ -2,9 +2,11 @@
 
 #include <QList>
 #include <QString>
+#include <optional>
 
 #include "data/Session.h"
 #include "data/repositories/CheckResult.h"
+#include "data/repositories/GiftsTaken.h"
 
 namespace sandogh {
 
@@ -102,6 +104,13 @@ public:
     bool saveSingleCode(const QString& code, int typeNo = kSingleCodeSetting);
     QString singleName(int typeNo = kSingleNameSetting);
     bool saveSingleName(const QString& name, int typeNo = kSingleNameSetting);
+    // The loyalty gifts of an active person or company row with this counter; not found
+    // otherwise.
+    static GiftsTaken giftsOfActiveParty(Session& session, int counter);
+    // The loyalty gifts of the row with this counter, whatever its kind; nothing when the
+    // statement failed.
+    static std::optional<GiftsTaken> giftsOfRow(Session& session, int counter);
+
     ClubFigures clubFigures();
     bool saveClubFigures(const ClubFigures& figures);
 

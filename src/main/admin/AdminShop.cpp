@@ -3,27 +3,13 @@
 #include <QCoreApplication>
 #include <QDate>
 
-#include "app/JalaliDay.h"
 #include "data/ConnectionFile.h"
 #include "data/ConnectionSettings.h"
+#include "data/JalaliDay.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
 
 namespace sandogh {
-
-namespace {
-
-// The start-up's message for a connection file that cannot be read, whatever the reason.
-const QString kMissingConnectionFile =
-    QStringLiteral("فايل Provider.txt در مسير برنامه موجود نيست!");
-
-}  // namespace
-
-bool AdminShop::PrintedMessages::show(const QString& text, MessageStyle, const QString& title) {
-    m_err << title << ' ' << text.trimmed() << '\n';
-    m_err.flush();
-    return true;
-}
 
 AdminShop::AdminShop(const QString& programDir, QTextStream& err)
     : m_programDir(programDir), m_err(err), m_messages(err), m_settings(m_store) {}
@@ -34,7 +20,7 @@ bool AdminShop::open(const QString& commandName) {
         QStringLiteral("sandogh-admin ") + QCoreApplication::applicationVersion());
     ConnectionFile file(m_programDir, m_log.get());
     if (!file.LoadPrimary(m_settings.fiscalYearDatabase().trimmed())) {
-        m_err << kMissingConnectionFile << '\n';
+        m_err << ConnectionFile::missingMessage() << '\n';
         return false;
     }
     ConnectionSettings connection;

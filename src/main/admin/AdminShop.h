@@ -3,10 +3,10 @@
 #include <QTextStream>
 #include <memory>
 
-#include "data/Clock.h"
+#include "ConsoleMessageService.h"
 #include "data/Database.h"
 #include "data/ErrorLog.h"
-#include "data/MessageService.h"
+#include "settings/Clock.h"
 #include "settings/MachineSettings.h"
 #include "settings/QSettingsStore.h"
 
@@ -28,19 +28,9 @@ public:
     MessageService& messages() { return m_messages; }
 
 private:
-    class PrintedMessages final : public MessageService {
-    public:
-        explicit PrintedMessages(QTextStream& err) : m_err(err) {}
-        bool show(const QString& text, MessageStyle, const QString& title) override;
-        bool prompt(const QString&, QString&, bool) override { return false; }
-
-    private:
-        QTextStream& m_err;
-    };
-
     QString m_programDir;
     QTextStream& m_err;
-    PrintedMessages m_messages;
+    ConsoleMessageService m_messages;
     SystemClock m_clock;
     QSettingsStore m_store;
     MachineSettings m_settings;

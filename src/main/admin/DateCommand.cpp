@@ -1,23 +1,12 @@
 #include <QDate>
 #include <QRegularExpression>
-#include <chrono>
 
 #include "AdminArgs.h"
 #include "AdminCommand.h"
 #include "common/JalaliCalendar.h"
+#include "data/JalaliDay.h"
 
 namespace sandogh {
-
-namespace {
-
-DaySerial serialOf(const QDate& date) {
-    using namespace std::chrono;
-    return PlatformDate::fromDate(year_month_day{year{date.year()},
-                                                 month{static_cast<unsigned>(date.month())},
-                                                 day{static_cast<unsigned>(date.day())}});
-}
-
-}  // namespace
 
 // sandogh-admin date [YYYY-MM-DD]: the Jalali date text and weekday of a
 // Gregorian day, today without an argument.
@@ -43,16 +32,14 @@ int runDate(AdminCall& call) {
             return ExitUsage;
         }
     }
-    const DaySerial serial = serialOf(date);
-    if (!JalaliCalendar::toJalaliDate(serial)) {
+    const QString jalali = JalaliDay::dateText(date);
+    if (jalali.isEmpty()) {
         call.err << "sandogh-admin date: " << date.toString(Qt::ISODate)
                  << " lies outside the Jalali years " << JalaliCalendar::kFirstYear << " to "
                  << JalaliCalendar::kLastYear << '\n';
         return ExitUsage;
     }
-    const std::string_view weekday = JalaliCalendar::weekdayName(serial);
-    call.out << QString::fromStdString(JalaliCalendar::toJalaliText(serial)) << '\t'
-             << QString::fromUtf8(weekday.data(), static_cast<qsizetype>(weekday.size())) << '\n';
+    call.out << jalali << '\t' << JalaliDay::weekdayName(date) << '\n';
     return ExitOk;
 }
 

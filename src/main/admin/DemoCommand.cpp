@@ -2,34 +2,20 @@
 
 #include "AdminArgs.h"
 #include "AdminCommand.h"
+#include "ConsoleMessageService.h"
 #include "app/DemoShop.h"
-#include "app/JalaliDay.h"
 #include "app/ShopDatabaseSetup.h"
-#include "data/Clock.h"
 #include "data/Database.h"
 #include "data/ErrorLog.h"
-#include "data/MessageService.h"
+#include "data/JalaliDay.h"
+#include "settings/Clock.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 #include "settings/QSettingsStore.h"
 
 namespace sandogh {
 
 namespace {
-
-// Messages of the data layer, printed as lines of the error stream.
-class DemoMessages final : public MessageService {
-public:
-    explicit DemoMessages(QTextStream& err) : m_err(err) {}
-    bool show(const QString& text, MessageStyle, const QString& title) override {
-        m_err << title << ' ' << text.trimmed() << '\n';
-        m_err.flush();
-        return true;
-    }
-    bool prompt(const QString&, QString&, bool) override { return false; }
-
-private:
-    QTextStream& m_err;
-};
 
 QString levelName(PermissionLevel level) {
     return level == PermissionLevel::Administrator ? QStringLiteral("administrator")
@@ -64,7 +50,7 @@ int runDemo(AdminCall& call) {
             break;
     }
 
-    DemoMessages messages(call.err);
+    ConsoleMessageService messages(call.err);
     SystemClock clock;
     ErrorLog log(call.programDir, &messages, clock, JalaliDay::dateText(clock.now().date()),
                  QStringLiteral("sandogh-admin ") + QCoreApplication::applicationVersion());

@@ -1,52 +1,28 @@
 #include <QCoreApplication>
 #include <QDate>
-#include <chrono>
 
 #include "AdminArgs.h"
 #include "AdminCommand.h"
-#include "common/JalaliCalendar.h"
-#include "data/Clock.h"
+#include "ConsoleMessageService.h"
 #include "data/ConnectionFile.h"
 #include "data/ConnectionSettings.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
 #include "data/ErrorLog.h"
-#include "data/MessageService.h"
+#include "data/JalaliDay.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
+#include "settings/Clock.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 #include "settings/QSettingsStore.h"
 
 namespace sandogh {
 
 namespace {
 
-// The start-up's message for a connection file that cannot be read, whatever the reason.
-const QString kMissingConnectionFile =
-    QStringLiteral("فايل Provider.txt در مسير برنامه موجود نيست!");
-
-// Messages of the data layer, printed as lines of the error stream.
-class PrintedMessages final : public MessageService {
-public:
-    explicit PrintedMessages(QTextStream& err) : m_err(err) {}
-    bool show(const QString& text, MessageStyle, const QString& title) override {
-        m_err << title << ' ' << text.trimmed() << '\n';
-        m_err.flush();
-        return true;
-    }
-    bool prompt(const QString&, QString&, bool) override { return false; }
-
-private:
-    QTextStream& m_err;
-};
-
 QString todayJalali() {
-    using namespace std::chrono;
-    const QDate today = QDate::currentDate();
-    const DaySerial serial = PlatformDate::fromDate(
-        year_month_day{year{today.year()}, month{static_cast<unsigned>(today.month())},
-                       day{static_cast<unsigned>(today.day())}});
-    return QString::fromStdString(JalaliCalendar::toJalaliText(serial));
+    return JalaliDay::dateText(QDate::currentDate());
 }
 
 // The fiscal year chosen on this machine: "Year"/"Year" of the settings, trimmed.
@@ -80,14 +56,14 @@ int runInitDb(AdminCall& call) {
                  << (args.ok() ? QStringLiteral("takes no arguments") : args.error()) << '\n';
         return ExitUsage;
     }
-    PrintedMessages messages(call.err);
+    ConsoleMessageService messages(call.err);
     SystemClock clock;
     ErrorLog log(call.programDir, &messages, clock, todayJalali(),
                  QStringLiteral("sandogh-admin ") + QCoreApplication::applicationVersion());
 
     ConnectionFile file(call.programDir, &log);
     if (!file.LoadPrimary(fiscalYearDatabase())) {
-        call.err << kMissingConnectionFile << '\n';
+        call.err << ConnectionFile::missingMessage() << '\n';
         return ExitFailed;
     }
     ConnectionSettings settings;

@@ -3,8 +3,8 @@
 #include "AdminArgs.h"
 #include "AdminCommand.h"
 #include "AdminShop.h"
-#include "app/JalaliDay.h"
 #include "common/JalaliCalendar.h"
+#include "data/JalaliDay.h"
 #include "sales/DailySummary.h"
 
 namespace sandogh {

@@ -5,12 +5,10 @@
 #include "AdminArgs.h"
 #include "AdminCommand.h"
 #include "common/JalaliCalendar.h"
-#include "data/Clock.h"
 #include "data/ConnectionFile.h"
 #include "data/ConnectionSettings.h"
 #include "data/Database.h"
 #include "data/ErrorLog.h"
-#include "data/MessageService.h"
 #include "data/SqlQuery.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
@@ -18,7 +16,9 @@
 #include "sales/SaleSession.h"
 #include "sales/SaleSettlement.h"
 #include "sales/SaleTexts.h"
+#include "settings/Clock.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 #include "settings/QSettingsStore.h"
 
 namespace sandogh {

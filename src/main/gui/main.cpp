@@ -3,9 +3,9 @@
 #include <QDir>
 
 #include "app/AppContext.h"
-#include "data/Clock.h"
 #include "devices/DetachedProgramLauncher.h"
 #include "devices/SpoolerRawPrinter.h"
+#include "settings/Clock.h"
 #include "settings/QSettingsStore.h"
 #include "ui/app/StartUpFlow.h"
 #include "ui/widgets/AppStyle.h"

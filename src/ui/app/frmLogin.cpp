@@ -12,8 +12,8 @@
 #include "app/AppContext.h"
 #include "app/LoginService.h"
 #include "app/ShopInfo.h"
-#include "data/MessageService.h"
 #include "devices/ProgramLauncher.h"
+#include "settings/MessageService.h"
 #include "ui/widgets/ButtonCaptions.h"
 
 namespace sandogh {

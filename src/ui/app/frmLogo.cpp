@@ -8,7 +8,8 @@
 #include <QRegion>
 #include <QScreen>
 
-#include "data/MessageService.h"
+#include "data/ConnectionFile.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 
@@ -47,7 +48,7 @@ QString frmLogo::imagePath(const QString& programFolder) {
 }
 
 QString frmLogo::missingConnectionFileMessage() {
-    return QStringLiteral("فايل Provider.txt در مسير برنامه موجود نيست!");
+    return ConnectionFile::missingMessage();
 }
 
 QString frmLogo::productName() {

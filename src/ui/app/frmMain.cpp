@@ -16,10 +16,10 @@
 #include "app/AppContext.h"
 #include "app/CompanionPrograms.h"
 #include "app/ShopInfo.h"
-#include "data/MessageService.h"
 #include "devices/CashDrawer.h"
 #include "devices/DeviceConfigs.h"
 #include "devices/GeneralPorts.h"
+#include "settings/MessageService.h"
 #include "ui/app/MainMenuCommands.h"
 
 namespace sandogh {

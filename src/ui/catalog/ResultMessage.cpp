@@ -1,7 +1,7 @@
 #include "ui/catalog/ResultMessage.h"
 
-#include "data/MessageService.h"
 #include "data/repositories/CheckResult.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -9,7 +9,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "ui/catalog/CatalogCaptions.h"
 #include "ui/catalog/GridSetup.h"
 #include "ui/catalog/ResultMessage.h"

@@ -15,10 +15,10 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "data/MessageService.h"
 #include "data/repositories/CodeLevelsRepository.h"
 #include "data/repositories/GoodsMessages.h"
 #include "data/repositories/TypesRepository.h"
+#include "settings/MessageService.h"
 #include "ui/catalog/CatalogCaptions.h"
 #include "ui/catalog/ResultMessage.h"
 #include "ui/catalog/frmParametersList.h"

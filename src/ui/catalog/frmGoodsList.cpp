@@ -9,8 +9,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include "data/MessageService.h"
 #include "data/repositories/GoodsMessages.h"
+#include "settings/MessageService.h"
 #include "ui/catalog/CatalogCaptions.h"
 #include "ui/catalog/GoodsListModel.h"
 #include "ui/catalog/GridSetup.h"

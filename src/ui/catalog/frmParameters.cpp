@@ -10,7 +10,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "ui/catalog/CatalogCaptions.h"
 #include "ui/catalog/GridSetup.h"
 #include "ui/catalog/ParameterLists.h"

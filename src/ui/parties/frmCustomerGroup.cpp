@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 
 #include "common/AmountText.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "ui/catalog/GridSetup.h"
 #include "ui/catalog/ResultMessage.h"
 #include "ui/parties/PartyCaptions.h"

@@ -9,10 +9,10 @@
 #include <QPushButton>
 
 #include "common/AmountText.h"
-#include "data/MessageService.h"
 #include "sales/CustomerSummary.h"
 #include "sales/SaleSession.h"
 #include "sales/SaleTexts.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

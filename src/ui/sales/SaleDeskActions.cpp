@@ -6,7 +6,6 @@
 #include <algorithm>
 
 #include "common/AmountText.h"
-#include "data/MessageService.h"
 #include "devices/PecTerminal.h"
 #include "sales/GiftCardService.h"
 #include "sales/LoyaltyGift.h"
@@ -15,6 +14,7 @@
 #include "sales/SaleSession.h"
 #include "sales/SettlementCalculator.h"
 #include "sales/TerminalHandOffs.h"
+#include "settings/MessageService.h"
 #include "ui/sales/SaleDetailPanel.h"
 #include "ui/sales/SaleTotalsPanel.h"
 #include "ui/sales/frmSale.h"

@@ -13,7 +13,6 @@
 #include <utility>
 
 #include "common/AmountText.h"
-#include "data/MessageService.h"
 #include "devices/CustomerDisplay.h"
 #include "devices/WeightService.h"
 #include "sales/DailyTotals.h"
@@ -24,6 +23,7 @@
 #include "sales/SaleSession.h"
 #include "sales/SettlingPause.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 #include "ui/sales/SaleCustomerPanel.h"
 #include "ui/sales/SaleDetailPanel.h"
 #include "ui/sales/SaleFavouritesPanel.h"

@@ -10,8 +10,8 @@
 #include <QVBoxLayout>
 
 #include "common/AmountText.h"
-#include "data/MessageService.h"
 #include "sales/PaymentSplit.h"
+#include "settings/MessageService.h"
 #include "ui/sales/SaleDialogLook.h"
 #include "ui/widgets/AmountEdit.h"
 

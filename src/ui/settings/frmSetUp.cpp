@@ -10,7 +10,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "settings/SettingKeys.h"
 #include "settings/SettingsCatalogue.h"
 #include "settings/SettingsStore.h"

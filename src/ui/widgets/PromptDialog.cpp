@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "ui/widgets/ButtonCaptions.h"
 
 namespace sandogh {

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QWidget>
 
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -1,4 +1,4 @@
-#include "app/JalaliDay.h"
+#include "data/JalaliDay.h"
 
 #include <chrono>
 

@@ -93,6 +93,23 @@ TEST_P(GoodsRepositoryTest, ANewArticleGetsItsStockRowOnBranchOneAndItsFirstPric
     EXPECT_FALSE(price.next());
 }
 
+// The weighed kind goes into both Type and GType, and comes back, either way.
+TEST_P(GoodsRepositoryTest, TheWeighedKindIsWrittenAndReadBackEitherWay) {
+    GoodsRepository goods = repository();
+    for (const bool weighed : {false, true}) {
+        const QString barcode = weighed ? QStringLiteral("2002") : QStringLiteral("2001");
+        GoodsArticle a = article(barcode, QStringLiteral("Cheese"), 1000);
+        a.weighed = weighed;
+        ASSERT_TRUE(goods.save(a).ok);
+        EXPECT_EQ(number(QStringLiteral("SELECT Type * 10 + GType FROM Goods WHERE EAN_Code = :b"),
+                         {{QStringLiteral(":b"), barcode}}),
+                  weighed ? 11 : 0);
+        const std::optional<GoodsArticle> read = goods.find(barcode);
+        ASSERT_TRUE(read.has_value());
+        EXPECT_EQ(read->weighed, weighed);
+    }
+}
+
 TEST_P(GoodsRepositoryTest, APriceRowIsWrittenOnlyWhenTheSalePriceChanges) {
     GoodsRepository goods = repository();
     GoodsArticle a = article(QStringLiteral("1001"), QStringLiteral("Tea"), 1000);

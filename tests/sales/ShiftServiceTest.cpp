@@ -120,6 +120,25 @@ TEST_P(ShiftServiceTest, AFailedStatementKeepsTheActiveShift) {
     EXPECT_EQ(activeCodes(), QList<int>{1});
 }
 
+// A failed clearing of the active shift fails the switch and leaves the active shift as it was.
+TEST_P(ShiftServiceTest, AFailedClearingIsAFailedSwitch) {
+    addShifts({1});
+    if (backend() == Backend::PostgreSQL) {
+        exec(
+            QStringLiteral("CREATE FUNCTION refuse_clear() RETURNS trigger AS $$ BEGIN RAISE "
+                           "EXCEPTION 'refused'; END $$ LANGUAGE plpgsql"));
+        exec(
+            QStringLiteral("CREATE TRIGGER refuse BEFORE UPDATE ON tblShift FOR EACH ROW WHEN "
+                           "(NEW.LastActiveShift = 0) EXECUTE FUNCTION refuse_clear()"));
+    } else {
+        exec(
+            QStringLiteral("CREATE TRIGGER refuse BEFORE UPDATE ON tblShift WHEN "
+                           "NEW.LastActiveShift = 0 BEGIN SELECT RAISE(ABORT, 'refused'); END"));
+    }
+    EXPECT_FALSE(ShiftService(db()).switchTo(2));
+    EXPECT_EQ(activeCodes(), QList<int>{1});
+}
+
 SANDOGH_INSTANTIATE_BACKENDS(ShiftServiceTest);
 
 }  // namespace

@@ -1,8 +1,7 @@
 #include "sales/DocumentLoader.h"
 
 #include "data/Database.h"
-#include "data/Dialect.h"
-#include "data/SqlQuery.h"
+#include "data/repositories/DocumentReader.h"
 
 namespace sandogh {
 
@@ -10,33 +9,39 @@ namespace {
 
 const QString kModule = QStringLiteral("frmSale");
 
-// Lines read as: barcode, name, quantity, unit price, tax, kind, whether the article is
-// in Goods, then optionally the line discount, the seller's ID and name.
-bool readLines(SqlQuery& q, QList<SaleLine>& lines, bool withSeller) {
-    if (!q.exec()) {
-        return false;
+// The document as the sale screen takes it: lines priced and totalled, an article that is
+// not in Goods marked as such (its stock is not checked).
+std::optional<LoadedDocument> taken(const std::optional<DocumentReader::Document>& read,
+                                    LoadedDocument::Source source) {
+    if (!read) {
+        return std::nullopt;
     }
-    while (q.next()) {
+    LoadedDocument doc;
+    doc.source = source;
+    doc.documentCode = read->code;
+    doc.discount = read->discount;
+    doc.base = read->base;
+    doc.note = read->note;
+    doc.companyId = read->companyId;
+    for (const DocumentReader::Line& r : read->lines) {
         SaleLine l;
-        l.barcode = q.text(0);
-        l.name = q.text(1).trimmed();
-        l.quantity = q.number(2);
-        l.unitPrice = q.number(3);
-        l.taxPercent = q.number(4);
-        l.goodsKind = q.integer(5);
-        if (q.integer(6) == 0) {
+        l.barcode = r.barcode;
+        l.name = r.name;
+        l.quantity = r.quantity;
+        l.unitPrice = r.unitPrice;
+        l.taxPercent = r.taxPercent;
+        l.goodsKind = r.goodsKind;
+        if (!r.inGoods) {
             l.goodsKind = SaleLine::kNotFoundKind;
             l.stockFlag = -1;
         }
-        if (withSeller) {
-            l.lineDiscount = q.number(7);
-            l.sellerId = q.integer(8);
-            l.seller = q.text(9);
-        }
+        l.lineDiscount = r.lineDiscount;
+        l.sellerId = r.sellerId;
+        l.seller = r.seller;
         l.recompute();
-        lines << l;
+        doc.lines << l;
     }
-    return true;
+    return doc;
 }
 
 }  // namespace
@@ -47,83 +52,17 @@ std::optional<LoadedDocument> DocumentLoader::loadSavedDocument(int transType, c
                                                                 const QString& docDate,
                                                                 std::optional<int> docType) {
     Session session = m_database.session(kModule, QStringLiteral("LoadSavedDocument"));
-    const Dialect& d = session.dialect();
-    QString sql = QStringLiteral("SELECT ") + d.top(1) +
-                  QStringLiteral(
-                      "Code, COALESCE(Discount, 0), COALESCE(Base, ''), "
-                      "COALESCE(Note, ''), COALESCE(CompanyID, 0) FROM Whs_QTYDocH "
-                      "WHERE TransType = :transType AND DocNo = :docNo");
-    sql += docType ? QStringLiteral(" AND DocType = :docType")
-                   : QStringLiteral(" AND DocType IS NULL");
-    if (!docDate.isEmpty()) {
-        sql += QStringLiteral(" AND DocDate = :docDate");
-    }
-    sql += QStringLiteral(" ORDER BY Code DESC") + d.limit(1);
-    SqlQuery header(session, sql);
-    header.bind(QStringLiteral(":transType"), transType);
-    header.bind(QStringLiteral(":docNo"), docNo);
-    if (docType) {
-        header.bind(QStringLiteral(":docType"), *docType);
-    }
-    if (!docDate.isEmpty()) {
-        header.bind(QStringLiteral(":docDate"), docDate);
-    }
-    if (!header.exec() || !header.next()) {
-        return std::nullopt;
-    }
-    LoadedDocument doc;
-    doc.source = LoadedDocument::Source::SavedDocument;
-    doc.documentCode = header.int64(0);
-    doc.discount = header.number(1);
-    doc.base = header.text(2);
-    doc.note = header.text(3);
-    doc.companyId = header.integer(4);
-
-    SqlQuery lines(session,
-                   QStringLiteral("SELECT D.EAN_Code, COALESCE(G.Name, ''), COALESCE(D.Qty, 0), "
-                                  "COALESCE(D.Fee, 0), COALESCE(D.TaxValue, 0), "
-                                  "COALESCE(G.GType, 0), CASE WHEN G.ID IS NULL THEN 0 ELSE 1 END, "
-                                  "COALESCE(D.Discount, 0), COALESCE(D.UserID, 0), "
-                                  "COALESCE(U.UserName, '') FROM Whs_QTYDocD D "
-                                  "LEFT JOIN Goods G ON G.EAN_Code = D.EAN_Code "
-                                  "LEFT JOIN Users U ON U.ID = D.UserID WHERE D.Code = :code "
-                                  "ORDER BY D.ID"));
-    lines.bind(QStringLiteral(":code"), doc.documentCode);
-    if (!readLines(lines, doc.lines, true) || doc.lines.isEmpty()) {
-        return std::nullopt;
-    }
-    return doc;
+    return taken(DocumentReader::savedDocument(session, transType, docNo, docDate, docType),
+                 LoadedDocument::Source::SavedDocument);
 }
 
 std::optional<LoadedDocument> DocumentLoader::loadPreInvoice(qint64 code) {
     Session session = m_database.session(kModule, QStringLiteral("LoadPreInvoice"));
-    const Dialect& d = session.dialect();
-    SqlQuery header(session, QStringLiteral("SELECT ") + d.top(1) +
-                                 QStringLiteral("ID, COALESCE(Discount, 0), COALESCE(Note, ''), "
-                                                "COALESCE(CompanyID, 0) FROM tblPreFactorH "
-                                                "WHERE Code = :code ORDER BY ID DESC") +
-                                 d.limit(1));
-    header.bind(QStringLiteral(":code"), code);
-    if (!header.exec() || !header.next()) {
-        return std::nullopt;
-    }
-    LoadedDocument doc;
-    doc.source = LoadedDocument::Source::PreInvoice;
-    doc.preInvoiceCode = code;
-    const qint64 id = header.int64(0);
-    doc.discount = header.number(1);
-    doc.note = header.text(2);
-    doc.companyId = header.integer(3);
-
-    SqlQuery lines(
-        session, QStringLiteral("SELECT D.EAN_Code, COALESCE(G.Name, ''), COALESCE(D.Qty, 0), "
-                                "COALESCE(D.Price, 0), COALESCE(G.TaxValue, 0), "
-                                "COALESCE(G.GType, 0), CASE WHEN G.ID IS NULL THEN 0 ELSE 1 END "
-                                "FROM tblPreFactorD D LEFT JOIN Goods G ON G.EAN_Code = D.EAN_Code "
-                                "WHERE D.PreFactorHID = :id"));
-    lines.bind(QStringLiteral(":id"), id);
-    if (!readLines(lines, doc.lines, false) || doc.lines.isEmpty()) {
-        return std::nullopt;
+    std::optional<LoadedDocument> doc =
+        taken(DocumentReader::preInvoice(session, code), LoadedDocument::Source::PreInvoice);
+    if (doc) {
+        doc->documentCode = 0;
+        doc->preInvoiceCode = code;
     }
     return doc;
 }
@@ -132,44 +71,9 @@ std::optional<LoadedDocument> DocumentLoader::loadBranchRequest(const QString& d
                                                                 int branchCode,
                                                                 const QString& linkedDatabase) {
     Session session = m_database.session(kModule, QStringLiteral("LoadBranchRequest"));
-    const Dialect& d = session.dialect();
-    QString sql = QStringLiteral("SELECT ") + d.top(1) +
-                  QStringLiteral("H.BranchCode, H.Code FROM ") +
-                  d.table(QStringLiteral("RequestH"), linkedDatabase) +
-                  QStringLiteral(" H WHERE H.DocType = :docType AND H.DocNo = :docNo");
-    if (branchCode != 0) {
-        sql += QStringLiteral(" AND H.BranchCode = :branch");
-    }
-    sql += QStringLiteral(" ORDER BY H.Code DESC") + d.limit(1);
-    SqlQuery header(session, sql);
-    header.bind(QStringLiteral(":docType"), kRequestDocType);
-    header.bind(QStringLiteral(":docNo"), docNo);
-    if (branchCode != 0) {
-        header.bind(QStringLiteral(":branch"), branchCode);
-    }
-    if (!header.exec() || !header.next()) {
-        return std::nullopt;
-    }
-    LoadedDocument doc;
-    doc.source = LoadedDocument::Source::BranchRequest;
-    const int branch = header.integer(0);
-    doc.documentCode = header.int64(1);
-
-    SqlQuery lines(session,
-                   QStringLiteral("SELECT D.EAN_Code, COALESCE(G.Name, ''), COALESCE(D.Qty, 0), "
-                                  "COALESCE(G.Cost, 0), COALESCE(G.TaxValue, 0), "
-                                  "COALESCE(G.GType, 0), CASE WHEN G.ID IS NULL THEN 0 ELSE 1 END "
-                                  "FROM ") +
-                       d.table(QStringLiteral("RequestD"), linkedDatabase) +
-                       QStringLiteral(" D LEFT JOIN Goods G ON G.EAN_Code = D.EAN_Code "
-                                      "WHERE D.BranchCode = :branch AND D.Code = :code "
-                                      "ORDER BY D.ID"));
-    lines.bind(QStringLiteral(":branch"), branch);
-    lines.bind(QStringLiteral(":code"), doc.documentCode);
-    if (!readLines(lines, doc.lines, false) || doc.lines.isEmpty()) {
-        return std::nullopt;
-    }
-    return doc;
+    return taken(
+        DocumentReader::branchRequest(session, docNo, branchCode, kRequestDocType, linkedDatabase),
+        LoadedDocument::Source::BranchRequest);
 }
 
 }  // namespace sandogh

@@ -5,6 +5,8 @@
 #include "common/AmountText.h"
 #include "data/Database.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/DiscountsRepository.h"
+#include "data/repositories/GiftCardRepository.h"
 #include "sales/SettlementTexts.h"
 #include "settings/MachineSettings.h"
 #include "settings/MessageService.h"
@@ -16,16 +18,6 @@ namespace {
 const QString kModule = QStringLiteral("frmSale");
 const QString kRoutine = QStringLiteral("GiftCard");
 const QString kLineBreak = QStringLiteral("\r\n");
-
-// A charge row: the card key and owner of the newest row (by its creation date) and the
-// limits it carries.
-struct NewestRow {
-    bool found = false;
-    int key = 0;
-    int customer = 0;
-    QString expireDate;
-    int allowedMonth = 0;
-};
 
 QString amount(double value) {
     return QString::fromStdString(AmountText::formatWhole(value));
@@ -61,110 +53,23 @@ QString GiftCardService::centralDatabaseOf(const MachineSettings& settings) {
     return settings.linkedSystemActive() ? settings.linkedDatabase() : QString();
 }
 
-QString GiftCardService::table(const char* shopName, const char* centralName) const {
-    const Dialect& d = m_database.dialect();
-    return m_central.isEmpty() ? d.table(QString::fromLatin1(shopName))
-                               : d.table(QString::fromLatin1(centralName), m_central);
-}
-
 QString GiftCardService::password(qint64 cardNumber) {
     Session session = m_database.session(kModule, kRoutine);
-    const Dialect& d = session.dialect();
-    SqlQuery q(session, QStringLiteral("SELECT ") + d.top(1) + QStringLiteral(" Password FROM ") +
-                            table("tblGiftCard", "GiftCard") +
-                            QStringLiteral(" WHERE CardID = :card ORDER BY ID DESC") + d.limit(1));
-    q.bind(QStringLiteral(":card"), cardNumber);
-    if (!q.exec() || !q.next()) {
-        return {};
-    }
-    return q.text(0).trimmed();
+    return GiftCardRepository::password(session, m_central, cardNumber);
 }
 
 qint64 GiftCardService::movementsInMonth(int cardKey, int month) {
     Session session = m_database.session(kModule, kRoutine);
     const QString mm = QStringLiteral("%1").arg(month, 2, 10, QLatin1Char('0'));
     const QString year = QString::fromLatin1(kMonthlyCountYear);
-    return session.scalarInt64(
-        QStringLiteral("SELECT COUNT(ID) AS CountID FROM ") +
-            table("tblGiftCardItem", "GiftCardItem") +
-            QStringLiteral(" WHERE GiftCardID = :key AND Date BETWEEN :first AND :last"),
-        {{QStringLiteral(":key"), cardKey},
-         {QStringLiteral(":first"), year + QLatin1Char('/') + mm + QStringLiteral("/01")},
-         {QStringLiteral(":last"), year + QLatin1Char('/') + mm + QStringLiteral("/31")}},
-        -1);
+    return GiftCardRepository::movementsBetween(
+        session, m_central, cardKey, year + QLatin1Char('/') + mm + QStringLiteral("/01"),
+        year + QLatin1Char('/') + mm + QStringLiteral("/31"));
 }
 
 double GiftCardService::priceBreakDiscount(double amount, const QString& today) {
     Session session = m_database.session(kModule, kRoutine);
-    const Dialect& d = session.dialect();
-    SqlQuery q(session, QStringLiteral("SELECT ") + d.top(1) +
-                            QStringLiteral(" DiscountPercent FROM DiscountFactor WHERE IsActive = "
-                                           ":active AND StartDate <= :startDay AND EndDate >= "
-                                           ":endDay AND FactorAmount <= :amount ORDER BY "
-                                           "FactorAmount DESC") +
-                            d.limit(1));
-    q.bind(QStringLiteral(":active"), 1)
-        .bind(QStringLiteral(":startDay"), today)
-        .bind(QStringLiteral(":endDay"), today)
-        .bind(QStringLiteral(":amount"), amount);
-    if (!q.exec() || !q.next()) {
-        return 0;
-    }
-    return q.number(0);
-}
-
-bool GiftCardService::readFigures(Session& session, qint64 cardNumber, GiftCardResult& card) {
-    const QString cards = table("tblGiftCard", "GiftCard");
-    const QString items = table("tblGiftCardItem", "GiftCardItem");
-    SqlQuery charged(session, QStringLiteral("SELECT COALESCE(SUM(Amount),0) AS Amount, "
-                                             "COUNT(ID) FROM ") +
-                                  cards + QStringLiteral(" WHERE CardID = :card"));
-    charged.bind(QStringLiteral(":card"), cardNumber);
-    if (!charged.exec() || !charged.next()) {
-        return false;
-    }
-    card.charged = charged.number(0);
-    card.cardsDelivered = charged.integer(1);
-
-    SqlQuery used(session, QStringLiteral("SELECT COALESCE(SUM(I.Amount),0) AS Amount FROM ") +
-                               items + QStringLiteral(" AS I LEFT OUTER JOIN ") + cards +
-                               QStringLiteral(" G ON G.ID = I.GiftCardID WHERE G.CardID = :card "
-                                              "OR I.GiftCardID = :key"));
-    used.bind(QStringLiteral(":card"), cardNumber).bind(QStringLiteral(":key"), card.cardKey);
-    if (!used.exec() || !used.next()) {
-        return false;
-    }
-    card.used = used.number(0);
-    card.balance = card.charged - card.used;
-
-    const Dialect& d = session.dialect();
-    SqlQuery discount(session, QStringLiteral("SELECT ") + d.top(1) +
-                                   QStringLiteral(" Discount FROM ") + cards +
-                                   QStringLiteral(" WHERE CardID = :card AND Discount <> :none "
-                                                  "ORDER BY ID DESC") +
-                                   d.limit(1));
-    discount.bind(QStringLiteral(":card"), cardNumber).bind(QStringLiteral(":none"), 0);
-    if (!discount.exec()) {
-        return false;
-    }
-    card.discountPercent = discount.next() ? discount.number(0) : 0;
-
-    if (card.ownerId != 0) {
-        const QString owners = m_central.isEmpty()
-                                   ? d.table(QStringLiteral("Types"))
-                                   : d.table(QStringLiteral("CenterTypes"), m_central);
-        SqlQuery owner(session, QStringLiteral("SELECT Name, Value1 FROM ") + owners +
-                                    QStringLiteral(" WHERE Counter = :owner"));
-        owner.bind(QStringLiteral(":owner"), card.ownerId);
-        if (!owner.exec()) {
-            return false;
-        }
-        if (owner.next()) {
-            card.owner =
-                (owner.text(0).trimmed() + QLatin1Char(' ') + owner.text(1).trimmed()).trimmed();
-        }
-    }
-    return true;
+    return DiscountsRepository::priceBreakPercent(session, amount, today);
 }
 
 GiftCardResult GiftCardService::evaluate(qint64 cardNumber, double invoiceTotal,
@@ -177,29 +82,18 @@ GiftCardResult GiftCardService::evaluate(qint64 cardNumber, double invoiceTotal,
         return card;
     }
     Session session = m_database.session(kModule, kRoutine);
-    const Dialect& d = session.dialect();
-    const QString cards = table("tblGiftCard", "GiftCard");
-
-    // The newest charge row by its creation date, compared without its slashes.
-    SqlQuery newest(session, QStringLiteral("SELECT ") + d.top(1) +
-                                 QStringLiteral(" ID, CustomerID, ExpireDate, AllowedMonth FROM ") +
-                                 cards +
-                                 QStringLiteral(" WHERE CardID = :card ORDER BY "
-                                                "REPLACE(COALESCE(DateCreation, ''), '/', '') "
-                                                "DESC, ID DESC") +
-                                 d.limit(1));
-    newest.bind(QStringLiteral(":card"), cardNumber);
-    if (!newest.exec()) {
+    std::optional<GiftCardRepository::Newest> newest;
+    if (!GiftCardRepository::newest(session, m_central, cardNumber, newest)) {
         return card;  // Failed
     }
-    if (!newest.next()) {
+    if (!newest) {
         card.outcome = GiftCardResult::Outcome::NotFound;
         return card;
     }
-    card.cardKey = newest.integer(0);
-    card.ownerId = newest.integer(1);
-    card.expireDate = newest.date(2);
-    const int allowedMonth = newest.integer(3);
+    card.cardKey = newest->key;
+    card.ownerId = newest->customer;
+    card.expireDate = newest->expireDate;
+    const int allowedMonth = newest->allowedMonth;
 
     if (interactive) {
         const QString expected = password(cardNumber);
@@ -212,9 +106,17 @@ GiftCardResult GiftCardService::evaluate(qint64 cardNumber, double invoiceTotal,
         }
     }
 
-    if (!readFigures(session, cardNumber, card)) {
+    GiftCardRepository::Figures figures;
+    if (!GiftCardRepository::figures(session, m_central, cardNumber, card.cardKey, card.ownerId,
+                                     figures)) {
         return card;  // Failed
     }
+    card.charged = figures.charged;
+    card.cardsDelivered = figures.cardsDelivered;
+    card.used = figures.used;
+    card.balance = card.charged - card.used;
+    card.discountPercent = figures.discountPercent;
+    card.owner = figures.owner;
     card.summary = summaryLines(card);
 
     const qint64 expiry = dateValue(card.expireDate);

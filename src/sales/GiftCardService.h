@@ -63,8 +63,6 @@ public:
     static void showReadFailure(MessageService& messages);
 
 private:
-    QString table(const char* shopName, const char* centralName) const;
-    bool readFigures(Session& session, qint64 cardNumber, GiftCardResult& card);
     // Up to kPasswordTries prompts: Accepted, NoPassword (cancelled) or WrongPassword.
     GiftCardResult::Outcome askPassword(const QString& expected);
     GiftCardResult evaluate(qint64 cardNumber, double invoiceTotal, const QString& today,

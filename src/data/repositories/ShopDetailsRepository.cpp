@@ -7,7 +7,7 @@ namespace sandogh {
 
 QString ShopDetailsRepository::companyName() {
     Session session = m_database.session(QStringLiteral("frmLogin"), QStringLiteral("CompanyName"));
-    const Dialect& dialect = session.dialect();
+    const Dialect& dialect = m_database.dialect();
     SqlQuery q(session, QStringLiteral("SELECT ") + dialect.top(1) +
                             QStringLiteral("Company_Name FROM Company") + dialect.limit(1));
     if (!q.exec() || !q.next()) {
@@ -18,7 +18,7 @@ QString ShopDetailsRepository::companyName() {
 
 QString ShopDetailsRepository::greeting() {
     Session session = m_database.session(QStringLiteral("frmMain"), QStringLiteral("Form_Load"));
-    const Dialect& dialect = session.dialect();
+    const Dialect& dialect = m_database.dialect();
     SqlQuery q(session, QStringLiteral("SELECT ") + dialect.top(1) +
                             QStringLiteral("Display FROM Display") + dialect.limit(1));
     if (!q.exec() || !q.next()) {

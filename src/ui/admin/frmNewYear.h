@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+class QLineEdit;
+class QPushButton;
+
+namespace sandogh {
+
+class AppContext;
+
+// Opening the next fiscal year from the back office: the new database's name, then the
+// transfer (NewFiscalYear); the present year stays open until the administrator chooses
+// the new one at the login.
+class frmNewYear : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit frmNewYear(AppContext& context, QWidget* parent = nullptr);
+
+    bool openYear();
+
+private:
+    AppContext& m_context;
+    QLineEdit* txtName;
+    QPushButton* cmdOpen;
+    QPushButton* cmdExit;
+};
+
+}  // namespace sandogh

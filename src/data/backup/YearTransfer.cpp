@@ -18,6 +18,20 @@ bool fail(QString* error, const QString& text) {
     return false;
 }
 
+// The table's columns as the migration steps leave them: those it was made with and those
+// later steps added.
+QList<ColumnDef> columnsOf(const TableDef& table) {
+    QList<ColumnDef> columns = table.columns;
+    for (const MigrationStep& step : shopMigrations()) {
+        for (const AddColumnDef& add : step.addColumns) {
+            if (add.database.isEmpty() && add.table.compare(table.name, Qt::CaseInsensitive) == 0) {
+                columns << add.column;
+            }
+        }
+    }
+    return columns;
+}
+
 }  // namespace
 
 const QStringList& YearTransfer::carriedTables() {
@@ -66,7 +80,8 @@ bool YearTransfer::copyTable(Session& from, Session& to, const QString& table, Q
     QStringList columns;
     QStringList binds;
     QString identity;
-    for (const ColumnDef& column : def->columns) {
+    const QList<ColumnDef> defs = columnsOf(*def);
+    for (const ColumnDef& column : defs) {
         columns << column.name;
         binds << QLatin1Char(':') + column.name;
         if (column.identity) {
@@ -86,7 +101,7 @@ bool YearTransfer::copyTable(Session& from, Session& to, const QString& table, Q
     while (read.next()) {
         for (int i = 0; i < columns.size(); ++i) {
             if (read.isNull(i)) {
-                write.bindNull(binds.at(i), def->columns.at(i).type);
+                write.bindNull(binds.at(i), defs.at(i).type);
             } else {
                 write.bindValue(binds.at(i), read.value(i));
             }

@@ -19,6 +19,7 @@
 #include "ScreenTestContext.h"
 #include "TypeText.h"
 #include "app/LoginService.h"
+#include "app/NewFiscalYear.h"
 #include "app/UsersService.h"
 #include "data/Session.h"
 #include "sales/SaleTexts.h"
@@ -165,6 +166,38 @@ TEST_F(frmUsersTest, SwitchingUserWithASaleOpenAsksFirst) {
     ASSERT_NE(flow.mainWindow(), nullptr);
     EXPECT_EQ(app.context.user().userName, QStringLiteral("admin"));
     EXPECT_TRUE(flow.mainWindow()->command(QStringLiteral("mnuUsers"))->isVisible());
+}
+
+TEST_F(frmUsersTest, AnAdministratorChoosesAnotherYearAtTheLogin) {
+    ASSERT_TRUE(NewFiscalYear::open(app.context.database(), QStringLiteral("Shop1405"),
+                                    QStringLiteral("1405/01/01"))
+                    .ok);
+    StartUpFlow flow(app.context);
+    flow.showLogin();
+    auto* year = child<QComboBox>(*flow.login(), "cmbYear");
+    ASSERT_TRUE(year->isVisible());
+    ASSERT_GE(year->findText(QStringLiteral("Shop1405")), 0);
+    year->setCurrentIndex(year->findText(QStringLiteral("Shop1405")));
+
+    // A cashier may not; the login screen stays.
+    test::typeText(child<QLineEdit>(*flow.login(), "txtUserName"), QStringLiteral("cashier"));
+    test::typeText(child<QLineEdit>(*flow.login(), "txtPassword"), QStringLiteral("1111"));
+    click(*flow.login(), "cmdOK");
+    ASSERT_FALSE(app.messages.messages().isEmpty());
+    EXPECT_EQ(app.messages.messages().last().text, frmLogin::yearForAdministratorsMessage());
+    EXPECT_EQ(flow.mainWindow(), nullptr);
+
+    child<QLineEdit>(*flow.login(), "txtUserName")->clear();
+    child<QLineEdit>(*flow.login(), "txtPassword")->clear();
+    test::typeText(child<QLineEdit>(*flow.login(), "txtUserName"), QStringLiteral("admin"));
+    test::typeText(child<QLineEdit>(*flow.login(), "txtPassword"), QStringLiteral("1234"));
+    click(*flow.login(), "cmdOK");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_NE(flow.mainWindow(), nullptr);
+    EXPECT_EQ(app.settings.read(QStringLiteral("Year"), QStringLiteral("Year")),
+              QStringLiteral("Shop1405"));
+    EXPECT_EQ(app.context.connectionSettings().catalog, QStringLiteral("Shop1405"));
+    EXPECT_EQ(app.context.user().userName, QStringLiteral("admin"));
 }
 
 }  // namespace

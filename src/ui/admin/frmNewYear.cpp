@@ -4,10 +4,13 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QThread>
 #include <QVBoxLayout>
+#include <memory>
 
 #include "app/AppContext.h"
 #include "app/NewFiscalYear.h"
+#include "data/Database.h"
 #include "data/MessageService.h"
 
 namespace sandogh {
@@ -39,21 +42,37 @@ frmNewYear::frmNewYear(AppContext& context, QWidget* parent)
     connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
 }
 
-bool frmNewYear::openYear() {
-    const NewFiscalYear::Result result = NewFiscalYear::open(
-        m_context.database(), txtName->text().trimmed(), m_context.todayJalali());
-    if (!result.ok) {
-        m_context.messages().show(QStringLiteral("سال مالی جدید گشوده نشد:\n") + result.error,
-                                  MessageStyle::Critical);
-        return false;
+void frmNewYear::openYear() {
+    if (m_busy) {
+        return;
     }
-    m_context.messages().show(
-        QStringLiteral("سال مالی %1 گشوده شد (%2 کالا با موجودی). برای کار در آن، هنگام ورود "
-                       "آن را برگزینید.")
-            .arg(result.database)
-            .arg(result.articles),
-        MessageStyle::Information);
-    return true;
+    m_busy = true;
+    cmdOpen->setEnabled(false);
+    auto result = std::make_shared<NewFiscalYear::Result>();
+    Database* present = &m_context.database();
+    const QString name = txtName->text().trimmed();
+    const QString today = m_context.todayJalali();
+    // The transfer reads and writes the whole shop: on a thread of its own, the screen live.
+    QThread* worker = QThread::create(
+        [result, present, name, today] { *result = NewFiscalYear::open(*present, name, today); });
+    connect(worker, &QThread::finished, this, [this, result, worker] {
+        worker->deleteLater();
+        m_busy = false;
+        cmdOpen->setEnabled(true);
+        if (!result->ok) {
+            m_context.messages().show(QStringLiteral("سال مالی جدید گشوده نشد:\n") + result->error,
+                                      MessageStyle::Critical);
+        } else {
+            m_context.messages().show(
+                QStringLiteral("سال مالی %1 گشوده شد (%2 کالا با موجودی). برای کار در آن، "
+                               "هنگام ورود آن را برگزینید.")
+                    .arg(result->database)
+                    .arg(result->articles),
+                MessageStyle::Information);
+        }
+        emit finished(result->ok);
+    });
+    worker->start();
 }
 
 }  // namespace sandogh

@@ -19,9 +19,15 @@ class frmNewYear : public QWidget {
 public:
     explicit frmNewYear(AppContext& context, QWidget* parent = nullptr);
 
-    bool openYear();
+    // Starts the transfer into the name box's database; finished() and a message follow.
+    void openYear();
+    bool isBusy() const { return m_busy; }
+
+signals:
+    void finished(bool ok);
 
 private:
+    bool m_busy = false;
     AppContext& m_context;
     QLineEdit* txtName;
     QPushButton* cmdOpen;

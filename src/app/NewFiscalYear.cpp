@@ -1,11 +1,14 @@
 #include "app/NewFiscalYear.h"
 
 #include <QDir>
+#include <QFile>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
 #include "data/Transaction.h"
+#include "data/backup/SqliteFileCopy.h"
 #include "data/backup/YearTransfer.h"
 #include "data/procedures/StockDocumentWriter.h"
 #include "data/procedures/StockProcedures.h"
@@ -91,6 +94,39 @@ QString carry(Database& present, Database& next, const QString& jalaliToday,
     return {};
 }
 
+// Brings the new database to the program's schema. A SQLite year is made in a work folder
+// and then moved beside the present one: the scale vendors' files of the data folder are
+// shared by every year and already hold their tables, which the migration would make again.
+QString migrate(const ConnectionSettings& nextSettings, const DatabaseOptions& options) {
+    if (nextSettings.backend != Backend::SQLite) {
+        Database next(nextSettings, nullptr, nullptr, options);
+        const Migrator::Result migrated = Migrator(next).apply(shopMigrations());
+        return migrated.ok ? QString() : migrated.message;
+    }
+    QTemporaryDir work(nextSettings.sqliteFolder + QStringLiteral("/.sandogh-year-XXXXXX"));
+    if (!work.isValid()) {
+        return QStringLiteral("cannot make a work folder in %1").arg(nextSettings.sqliteFolder);
+    }
+    ConnectionSettings staged = nextSettings;
+    staged.sqliteFolder = work.path();
+    {
+        Database next(staged, nullptr, nullptr, options);
+        const Migrator::Result migrated = Migrator(next).apply(shopMigrations());
+        if (!migrated.ok) {
+            return migrated.message;
+        }
+    }
+    QString error;
+    if (!SqliteFileCopy::checkpoint(staged.sqliteFile(), &error)) {
+        return error;
+    }
+    QFile::remove(nextSettings.sqliteFile());  // the empty file the provisioner may have made
+    if (!QFile::rename(staged.sqliteFile(), nextSettings.sqliteFile())) {
+        return QStringLiteral("cannot move the new year into %1").arg(nextSettings.sqliteFolder);
+    }
+    return {};
+}
+
 }  // namespace
 
 const QString& NewFiscalYear::openingNote() {
@@ -124,9 +160,11 @@ NewFiscalYear::Result NewFiscalYear::open(Database& present, const QString& name
     {
         DatabaseOptions options;
         options.otherDatabases = Migrator::otherDatabasesOf(shopMigrations());
-        Database next(nextSettings, nullptr, nullptr, options);
-        const Migrator::Result migrated = Migrator(next).apply(shopMigrations());
-        error = migrated.ok ? carry(present, next, jalaliToday, result) : migrated.message;
+        error = migrate(nextSettings, options);
+        if (error.isEmpty()) {
+            Database next(nextSettings, nullptr, nullptr, options);
+            error = carry(present, next, jalaliToday, result);
+        }
     }
     if (!error.isEmpty()) {
         QString ignored;

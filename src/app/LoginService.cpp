@@ -1,34 +1,17 @@
 #include "app/LoginService.h"
 
-#include <QList>
 #include <QtDebug>
 
 #include "app/PasswordHasher.h"
 #include "data/Database.h"
-#include "data/SqlQuery.h"
 #include "data/Transaction.h"
+#include "data/repositories/UsersRepository.h"
 
 namespace sandogh {
 
 namespace {
 
 const QString kModule = QStringLiteral("frmLogin");
-
-// Login names are compared as the screens always have: trimmed, without regard to case.
-const QString kSameUserName = QStringLiteral("LOWER(LTRIM(RTRIM(UserName))) = :userName");
-
-struct StoredUser {
-    UserAccount account;
-    QString password;
-};
-
-// Fixed-width text columns on some servers come back padded with blanks.
-QString withoutTrailingBlanks(QString text) {
-    while (text.endsWith(QLatin1Char(' '))) {
-        text.chop(1);
-    }
-    return text;
-}
 
 }  // namespace
 
@@ -54,13 +37,13 @@ LoginService::AdministratorCheck LoginService::ensureAdministrator() {
     if (!tx.isActive()) {
         return check;
     }
-    SqlQuery admins(session, QStringLiteral("SELECT COUNT(*) FROM Users "
-                                            "WHERE PermissionLevel = :level AND Active = 1"));
-    admins.bind(QStringLiteral(":level"), static_cast<int>(PermissionLevel::Administrator));
-    if (!admins.exec() || !admins.next()) {
+    UsersRepository users(m_database);
+    const qint64 admins = users.activeAdministrators(session);
+    if (admins < 0) {
+        tx.rollback();
         return check;
     }
-    if (admins.int64(0) > 0) {
+    if (admins > 0) {
         check.ok = tx.commit();
         return check;
     }
@@ -69,33 +52,28 @@ LoginService::AdministratorCheck LoginService::ensureAdministrator() {
     const QString base = QString::fromLatin1(kInitialAdministratorName);
     QString userName = base;
     for (int suffix = 2;; ++suffix) {
-        SqlQuery taken(session,
-                       QStringLiteral("SELECT COUNT(*) FROM Users WHERE ") + kSameUserName);
-        taken.bind(QStringLiteral(":userName"), userName.toLower());
-        if (!taken.exec() || !taken.next()) {
+        const qint64 uses = users.loginNameUses(session, userName);
+        if (uses < 0) {
+            tx.rollback();
             return check;
         }
-        if (taken.int64(0) == 0) {
+        if (uses == 0) {
             break;
         }
         userName = base + QString::number(suffix);
     }
 
     const QString password = QString::fromLatin1(kInitialAdministratorPassword);
-    const QString hash = PasswordHasher::hash(password);
-    if (hash.isEmpty()) {
+    UserRow row;
+    row.name = initialAdministratorDisplayName();
+    row.userName = userName;
+    row.password = PasswordHasher::hash(password);
+    row.level = static_cast<int>(PermissionLevel::Administrator);
+    if (row.password.isEmpty() || users.insert(session, row) == 0) {
+        tx.rollback();
         return check;
     }
-    SqlQuery insert(
-        session, QStringLiteral("INSERT INTO Users (Name, UserName, Password, PermissionLevel, "
-                                "Location, Active, UserGroupId) "
-                                "VALUES (:name, :userName, :password, :level, :location, 1, 0)"));
-    insert.bind(QStringLiteral(":name"), initialAdministratorDisplayName())
-        .bind(QStringLiteral(":userName"), userName)
-        .bind(QStringLiteral(":password"), hash)
-        .bind(QStringLiteral(":level"), static_cast<int>(PermissionLevel::Administrator))
-        .bind(QStringLiteral(":location"), QString());
-    if (!insert.exec() || !tx.commit()) {
+    if (!tx.commit()) {
         return check;
     }
     check.ok = true;
@@ -107,7 +85,8 @@ LoginService::AdministratorCheck LoginService::ensureAdministrator() {
     return check;
 }
 
-LoginService::Result LoginService::login(const QString& userName, const QString& password) {
+LoginService::Result LoginService::login(const QString& userName, const QString& password,
+                                         int stationId) {
     Result result;
     const QString wanted = userName.trimmed().toLower();
     if (wanted.isEmpty()) {
@@ -118,55 +97,49 @@ LoginService::Result LoginService::login(const QString& userName, const QString&
     if (!session) {
         return result;
     }
-
-    QList<StoredUser> rows;
-    {
-        SqlQuery q(session, QStringLiteral("SELECT ID, UserName, Name, Password, PermissionLevel, "
-                                           "Active FROM Users WHERE ") +
-                                kSameUserName + QStringLiteral(" ORDER BY ID"));
-        q.bind(QStringLiteral(":userName"), wanted);
-        if (!q.exec()) {
-            return result;
-        }
-        while (q.next()) {
-            StoredUser row;
-            row.account.id = q.integer(0);
-            row.account.userName = q.text(1).trimmed();
-            row.account.name = q.text(2).trimmed();
-            row.password = q.text(3);
-            row.account.level = permissionLevelFromColumn(q.integer(4));
-            row.account.active = q.integer(5) == 1;
-            rows << row;
-        }
+    UsersRepository users(m_database);
+    const std::optional<QList<UserRow>> found = users.withLoginName(session, wanted);
+    if (!found) {
+        return result;
     }
+    const QList<UserRow>& rows = *found;
     if (rows.isEmpty()) {
         result.outcome = Outcome::UnknownUser;
         return result;
     }
 
     result.outcome = Outcome::WrongPassword;
-    for (const StoredUser& row : rows) {
+    for (const UserRow& row : rows) {
         const bool hashed = PasswordHasher::isHash(row.password);
-        const bool matches = hashed ? PasswordHasher::verify(row.password, password)
-                                    : withoutTrailingBlanks(row.password) == password;
+        const bool matches =
+            hashed ? PasswordHasher::verify(row.password, password) : row.password == password;
         if (!matches) {
             continue;
         }
-        if (!row.account.active) {
+        if (!row.active) {
             result.outcome = Outcome::Inactive;
             continue;
         }
+        if (stationId > 0) {
+            const QList<int> stations = users.stationsOf(session, row.id);
+            if (!stations.isEmpty() && !stations.contains(stationId)) {
+                result.outcome = Outcome::OtherStation;
+                continue;
+            }
+        }
         result.outcome = Outcome::Accepted;
-        result.user = row.account;
+        result.user.id = row.id;
+        result.user.userName = row.userName;
+        result.user.name = row.name;
+        result.user.level = permissionLevelFromColumn(row.level);
+        result.user.active = true;
+        result.user.rolePermissions = users.permissions(static_cast<int>(result.user.level), 0);
+        result.user.userPermissions = users.permissions(0, row.id);
         if (!hashed || PasswordHasher::needsRehash(row.password)) {
             const QString hash = PasswordHasher::hash(password);
             // A password that cannot be re-kept now is still the right one: the login
             // goes on and the next one tries again.
-            result.passwordRehashed =
-                !hash.isEmpty() &&
-                session.exec(
-                    QStringLiteral("UPDATE Users SET Password = :password WHERE ID = :id"),
-                    {{QStringLiteral(":password"), hash}, {QStringLiteral(":id"), row.account.id}});
+            result.passwordRehashed = !hash.isEmpty() && users.setPassword(session, row.id, hash);
         }
         return result;
     }

@@ -22,6 +22,7 @@ public:
         UnknownUser,    // no row with that login name
         WrongPassword,  // the password matches no row of that name
         Inactive,       // the password is right but the user is switched off (Active not 1)
+        OtherStation,   // the password is right but the user may not work at this cash desk
         Failed,         // the database could not be read; the message has been shown
     };
 
@@ -54,7 +55,9 @@ public:
     // the initial password, hashed.
     AdministratorCheck ensureAdministrator();
 
-    Result login(const QString& userName, const QString& password);
+    // stationId: this machine's cash desk; a user limited to other desks is refused (0: no
+    // desk is checked).
+    Result login(const QString& userName, const QString& password, int stationId = 0);
 
 private:
     Database& m_database;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QList>
+#include <QString>
+
 namespace sandogh {
 
 // The things a user may or may not open: each menu command of the main window names one.
@@ -18,6 +21,16 @@ enum class Permission {
     Purchases,       // purchase invoices and stock documents
     Reports,         // reports and document lists
     Users,           // users and their permissions
+    Backup,          // backing up and restoring the shop
+    FiscalYear,      // opening a new fiscal year
+    SwitchUser,      // back to the login without leaving; every user
 };
+
+// Every permission, in the order the permissions screen lists them.
+const QList<Permission>& allPermissions();
+// The name a permission is stored under (UserPermission.Permission): "Sale", "Users", ...
+QString permissionName(Permission permission);
+// The permission of a stored name; false when the name is unknown.
+bool permissionFromName(const QString& name, Permission& permission);
 
 }  // namespace sandogh

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 
 #include "app/PermissionLevel.h"
@@ -14,9 +15,12 @@ struct UserAccount {
     QString name;      // the name shown to people
     PermissionLevel level = PermissionLevel::Cashier;
     bool active = true;
+    // The stored permission lists of the user's role and of the user (UserPermission).
+    QHash<QString, bool> rolePermissions;
+    QHash<QString, bool> userPermissions;
 
     bool isValid() const { return id > 0; }
-    Permissions permissions() const { return Permissions(level); }
+    Permissions permissions() const { return Permissions(level, rolePermissions, userPermissions); }
 };
 
 }  // namespace sandogh

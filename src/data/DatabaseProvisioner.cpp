@@ -171,4 +171,62 @@ bool DatabaseProvisioner::drop(const ConnectionSettings& settings, QString* erro
     });
 }
 
+bool DatabaseProvisioner::rename(const ConnectionSettings& settings, const QString& newName,
+                                 QString* error) {
+    if (settings.backend == Backend::SQLite) {
+        const QString from = settings.sqliteFile();
+        const QString to = settings.withCatalog(newName).sqliteFile();
+        for (const QString& suffix : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")}) {
+            if (QFileInfo::exists(from + suffix) && !QFile::rename(from + suffix, to + suffix)) {
+                return setError(error, QStringLiteral("cannot rename %1").arg(from + suffix));
+            }
+        }
+        return true;
+    }
+    if (settings.backend != Backend::PostgreSQL) {
+        return setError(error, QStringLiteral("renaming a database is not supported here"));
+    }
+    return withMaintenance(settings, error, [&](QSqlDatabase& db) {
+        QSqlQuery q(db);
+        q.prepare(
+            QStringLiteral("SELECT pg_terminate_backend(pid) FROM pg_stat_activity "
+                           "WHERE datname = :name AND pid <> pg_backend_pid()"));
+        q.bindValue(QStringLiteral(":name"), settings.catalog);
+        if (!q.exec() || !q.exec(QStringLiteral("ALTER DATABASE %1 RENAME TO %2")
+                                     .arg(quoteDatabaseName(settings.backend, settings.catalog),
+                                          quoteDatabaseName(settings.backend, newName)))) {
+            return setError(error, q.lastError().text());
+        }
+        return true;
+    });
+}
+
+QStringList DatabaseProvisioner::list(const ConnectionSettings& settings, QString* error) {
+    QStringList names;
+    if (settings.backend == Backend::SQLite) {
+        for (const QFileInfo& file :
+             QDir(settings.sqliteFolder)
+                 .entryInfoList({QStringLiteral("*.sqlite")}, QDir::Files, QDir::Name)) {
+            names << file.completeBaseName();
+        }
+        return names;
+    }
+    if (settings.backend != Backend::PostgreSQL) {
+        setError(error, QStringLiteral("listing databases is not supported here"));
+        return names;
+    }
+    withMaintenance(settings, error, [&](QSqlDatabase& db) {
+        QSqlQuery q(db);
+        if (!q.exec(QStringLiteral("SELECT datname FROM pg_database WHERE NOT datistemplate "
+                                   "AND datname <> 'postgres' ORDER BY datname"))) {
+            return setError(error, q.lastError().text());
+        }
+        while (q.next()) {
+            names << q.value(0).toString();
+        }
+        return true;
+    });
+    return names;
+}
+
 }  // namespace sandogh

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "data/ConnectionSettings.h"
 
@@ -18,6 +19,15 @@ public:
     static bool exists(const ConnectionSettings& settings, bool& exists, QString* error);
     // Removes it with everything in it; connections still open to it are ended.
     static bool drop(const ConnectionSettings& settings, QString* error);
+
+    // Gives the server database the settings name another name (PostgreSQL), ending the
+    // connections still open to it; SQLite renames the file with its journal files.
+    static bool rename(const ConnectionSettings& settings, const QString& newName, QString* error);
+
+    // The databases beside the one the settings name: the SQLite files of its folder (by
+    // name, without ".sqlite"), or the server's databases other than templates and its
+    // maintenance database.
+    static QStringList list(const ConnectionSettings& settings, QString* error);
 
     // A database name quoted exactly as written (servers keep database names as given).
     static QString quoteDatabaseName(Backend backend, const QString& name);

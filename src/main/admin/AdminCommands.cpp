@@ -12,6 +12,9 @@ int runSell(AdminCall& call);
 int runReceipt(AdminCall& call);
 int runReport(AdminCall& call);
 int runStockRepair(AdminCall& call);
+int runBackup(AdminCall& call);
+int runRestore(AdminCall& call);
+int runNewYear(AdminCall& call);
 
 const QList<AdminCommand>& adminCommands() {
     static const QList<AdminCommand> commands = {
@@ -31,6 +34,11 @@ const QList<AdminCommand>& adminCommands() {
         {"stock-repair",
          "stock-repair [BARCODE ...]  recompute the stock of articles (all without)",
          runStockRepair},
+        {"backup", "backup [--out FILE]         back the shop up into one archive", runBackup},
+        {"restore", "restore FILE               restore a backup archive over the shop",
+         runRestore},
+        {"new-year", "new-year --name NAME        open the next fiscal year as database NAME",
+         runNewYear},
     };
     return commands;
 }

@@ -79,6 +79,10 @@ int runDemo(AdminCall& call) {
         call.out << "user " << user.userName << " (" << levelName(user.level) << "), password "
                  << user.password << '\n';
     }
+    if (!report.createdUsers.isEmpty()) {
+        call.out << "to add a real cashier: log in as admin, System > Users (کاربران), New, "
+                    "role Cashier, a password, Save; then change admin's password there too\n";
+    }
     return ExitOk;
 }
 

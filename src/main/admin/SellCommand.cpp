@@ -142,6 +142,8 @@ int save(AdminCall& call, Database& database, const MachineSettings& settings,
         }
         call.out << "Code=" << r.code << " DocNo=" << r.docNo << " DocSum=" << plain(r.docSum)
                  << '\n';
+        // Each sale is told as it is saved, for whoever watches a long run.
+        call.out.flush();
     }
     return ExitOk;
 }

@@ -1,6 +1,10 @@
 #include "ui/app/MainMenuCommands.h"
 
 #include "app/AppContext.h"
+#include "ui/admin/frmBackup.h"
+#include "ui/admin/frmNewYear.h"
+#include "ui/admin/frmPermissions.h"
+#include "ui/admin/frmUsers.h"
 #include "ui/app/frmMain.h"
 #include "ui/catalog/CatalogScreens.h"
 #include "ui/catalog/frmCodeParameters.h"
@@ -36,6 +40,18 @@ void openSetUp(frmMain& main) {
     });
 }
 
+void openBackup(frmMain& main) {
+    main.openChild(QStringLiteral("frmBackup"), [&main]() -> QWidget* {
+        AppContext& context = main.context();
+        auto* screen =
+            new frmBackup(context.database(), context.messages(), context.programFolder());
+        // The program must not go on with the shop replaced under it.
+        QObject::connect(screen, &frmBackup::restored, &main, &frmMain::ExitApplication,
+                         Qt::QueuedConnection);
+        return screen;
+    });
+}
+
 }  // namespace
 
 QList<MainMenu> MainMenuCommands::menus() {
@@ -63,6 +79,15 @@ QString MainMenuCommands::menuCaption(MainMenu menu) {
     return {};
 }
 
+QHash<Permission, QString> MainMenuCommands::permissionCaptions() {
+    QHash<Permission, QString> captions;
+    for (const MainMenuCommand& command : all()) {
+        QString& caption = captions[command.permission];
+        caption += (caption.isEmpty() ? QString() : QStringLiteral("، ")) + command.caption;
+    }
+    return captions;
+}
+
 QList<MainMenuCommand> MainMenuCommands::all() {
     using Family = CodeLevelsRepository::Family;
     // A screen is one line: action name, caption, menu, permission, and how it opens.
@@ -73,6 +98,24 @@ QList<MainMenuCommand> MainMenuCommands::all() {
          Permission::CodeLevels,
          child(QStringLiteral("frmCodeParameters/Accounts"),
                [](AppContext& c) { return CatalogScreens::codeLevels(c, Family::Accounts); })},
+        {QStringLiteral("mnuUsers"), QStringLiteral("کاربران"), MainMenu::System, Permission::Users,
+         child(QStringLiteral("frmUsers"),
+               [](AppContext& c) { return new frmUsers(c.database(), c.messages()); })},
+        {QStringLiteral("mnuPermissions"), QStringLiteral("دسترسی‌ها"), MainMenu::System,
+         Permission::Users,
+         child(QStringLiteral("frmPermissions"),
+               [](AppContext& c) {
+                   return new frmPermissions(c.database(), c.messages(),
+                                             MainMenuCommands::permissionCaptions());
+               })},
+        {QStringLiteral("mnuBackup"),
+         QStringLiteral("پشتیبان‌گیری و بازگردانی"), MainMenu::System,
+         Permission::Backup, openBackup},
+        {QStringLiteral("mnuNewYear"), QStringLiteral("سال مالی جدید"), MainMenu::System,
+         Permission::FiscalYear,
+         child(QStringLiteral("frmNewYear"), [](AppContext& c) { return new frmNewYear(c); })},
+        {QStringLiteral("mnuSwitchUser"), QStringLiteral("تعویض کاربر"), MainMenu::System,
+         Permission::SwitchUser, [](frmMain& main) { main.switchUser(); }},
         {QStringLiteral("mnuExit"), QStringLiteral("خروج"), MainMenu::System,
          Permission::LeaveProgram, [](frmMain& main) { main.ExitApplication(); },
          QKeySequence(Qt::ALT | Qt::Key_F4)},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 
@@ -15,6 +16,8 @@ public:
     static QList<MainMenuCommand> all();
     static QString menuCaption(MainMenu menu);
     static QList<MainMenu> menus();
+    // What each permission opens: the captions of its commands, joined.
+    static QHash<Permission, QString> permissionCaptions();
 };
 
 }  // namespace sandogh

@@ -6,6 +6,7 @@
 #include "app/AfterLogin.h"
 #include "app/AppContext.h"
 #include "app/UserAccount.h"
+#include "data/MessageService.h"
 #include "ui/app/frmLogin.h"
 #include "ui/app/frmLogo.h"
 #include "ui/app/frmMain.h"
@@ -50,6 +51,7 @@ void StartUpFlow::start() {
 void StartUpFlow::showLogin() {
     m_login = new frmLogin(m_context);
     connect(m_login, &frmLogin::loggedIn, this, &StartUpFlow::onLoggedIn);
+    connect(m_login, &frmLogin::yearChosen, this, &StartUpFlow::onYearChosen);
     connect(m_login, &frmLogin::cancelled, this, [this] {
         m_login->deleteLater();
         end(0);
@@ -74,6 +76,7 @@ void StartUpFlow::onLoggedIn(const UserAccount& user) {
         m_main->deleteLater();
         end(0);
     });
+    connect(m_main, &frmMain::switchUserRequested, this, &StartUpFlow::switchUser);
     m_main->Form_Load();
     m_main->applyPermissions(user.permissions());
     // The whole screen, also where no window manager maximises windows.
@@ -81,6 +84,28 @@ void StartUpFlow::onLoggedIn(const UserAccount& user) {
         m_main->setGeometry(screen->availableGeometry());
     }
     m_main->showMaximized();
+}
+
+void StartUpFlow::onYearChosen(const UserAccount& user) {
+    // The catalog swap: the start-up opens the shop again on the year now in the setting,
+    // which holds the same users (they are carried into every new year).
+    if (!m_startUp.run()) {
+        m_context.messages().show(m_startUp.failure(), MessageStyle::Information);
+        m_login->close();
+        m_login->deleteLater();
+        end(1);
+        return;
+    }
+    onLoggedIn(user);
+}
+
+void StartUpFlow::switchUser() {
+    if (m_main != nullptr) {
+        m_main->deleteLater();
+        m_main = nullptr;
+    }
+    m_context.setUser(UserAccount{});
+    showLogin();
 }
 
 void StartUpFlow::end(int exitCode) {

@@ -33,12 +33,15 @@ public:
     frmLogo* logo() const;
     frmLogin* login() const;
     frmMain* mainWindow() const;
+    // The main window has closed for another user to log in: the login screen again.
+    void switchUser();
 
 signals:
     void finished(int exitCode);
 
 private:
     void onLoggedIn(const UserAccount& user);
+    void onYearChosen(const UserAccount& user);
     void end(int exitCode);
 
     AppContext& m_context;

@@ -1,6 +1,7 @@
 #include "ui/app/frmLogin.h"
 
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,9 +9,11 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/AppContext.h"
 #include "app/LoginService.h"
+#include "app/NewFiscalYear.h"
 #include "app/ShopInfo.h"
 #include "devices/ProgramLauncher.h"
 #include "settings/MessageService.h"
@@ -54,6 +57,13 @@ frmLogin::frmLogin(AppContext& context, QWidget* parent) : QWidget(parent), m_co
     txtPassword->setEchoMode(QLineEdit::Password);
     txtPassword->setLayoutDirection(Qt::LeftToRight);
 
+    cmbYear = new QComboBox(this);
+    cmbYear->setObjectName(QStringLiteral("cmbYear"));
+    cmbYear->setLayoutDirection(Qt::LeftToRight);
+    cmbYear->setToolTip(QStringLiteral(
+        "سال مالی؛ تنها مدیر سیستم می‌تواند آن را عوض "
+        "کند"));
+
     cmdOK = new QPushButton(QStringLiteral("ورود"), this);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
@@ -63,6 +73,10 @@ frmLogin::frmLogin(AppContext& context, QWidget* parent) : QWidget(parent), m_co
     auto* form = new QFormLayout;
     form->addRow(QStringLiteral("نام کاربری:"), txtUserName);
     form->addRow(QStringLiteral("رمز عبور:"), txtPassword);
+    lblYear = new QLabel(QStringLiteral("سال مالی:"), this);
+    form->addRow(lblYear, cmbYear);
+    lblYear->setVisible(false);
+    cmbYear->setVisible(false);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -96,6 +110,13 @@ void frmLogin::Form_Load() {
         return;
     }
     lblCompany->setText(ShopInfo(m_context.database()).shopName());
+    // The fiscal years beside the one in use; the chooser shows only where there are more.
+    const QString current = m_context.connectionSettings().catalog;
+    cmbYear->clear();
+    cmbYear->addItems(NewFiscalYear::years(m_context.connectionSettings()));
+    cmbYear->setCurrentIndex(std::max(0, cmbYear->findText(current, Qt::MatchFixedString)));
+    cmbYear->setVisible(cmbYear->count() > 1);
+    lblYear->setVisible(cmbYear->count() > 1);
     const LoginService::AdministratorCheck admin =
         LoginService(m_context.database()).ensureAdministrator();
     if (admin.created) {
@@ -106,6 +127,13 @@ void frmLogin::Form_Load() {
     } else {
         txtUserName->setFocus();
     }
+}
+
+const QString& frmLogin::yearForAdministratorsMessage() {
+    static const QString text = QStringLiteral(
+        "تنها مدیر سیستم می‌تواند سال مالی دیگری را باز "
+        "کند.");
+    return text;
 }
 
 void frmLogin::txtUserName_Enter() {
@@ -119,9 +147,23 @@ void frmLogin::cmdOK_Click() {
     if (m_done || !m_context.hasDatabase()) {
         return;
     }
-    const LoginService::Result result =
-        LoginService(m_context.database()).login(txtUserName->text(), txtPassword->text());
+    const LoginService::Result result = LoginService(m_context.database())
+                                            .login(txtUserName->text(), txtPassword->text(),
+                                                   m_context.machineSettings().stationId());
     if (result.accepted()) {
+        const QString year = cmbYear->currentText();
+        if (cmbYear->isVisible() &&
+            year.compare(m_context.connectionSettings().catalog, Qt::CaseInsensitive) != 0) {
+            if (result.user.level != PermissionLevel::Administrator) {
+                m_context.messages().show(yearForAdministratorsMessage(), MessageStyle::Warning);
+                return;
+            }
+            // As the start-up reads it: the next start-up, or the one run now, opens it.
+            m_context.machineSettings().setFiscalYearDatabase(year);
+            m_done = true;
+            emit yearChosen(result.user);
+            return;
+        }
         m_done = true;
         emit loggedIn(result.user);
         return;

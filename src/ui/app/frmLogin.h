@@ -5,6 +5,7 @@
 
 #include "app/UserAccount.h"
 
+class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -19,7 +20,8 @@ class AppContext;
 //
 // Enter in the user name box moves to the password, Enter in the password box logs in.
 // A refused login shows one warning, whatever was wrong, and the person may try again as
-// often as needed. An accepted login emits loggedIn(); Cancel emits cancelled().
+// often as needed. An accepted login emits loggedIn(); Cancel emits cancelled(). Where the
+// shop has more than one fiscal year, cmbYear chooses the one to work in (administrators).
 class frmLogin : public QWidget {
     Q_OBJECT
 
@@ -28,6 +30,8 @@ public:
     static const QString& wrongLoginMessage();
     // "امروز : " followed by the weekday, one blank and the date.
     static QString dateCaption(const QString& weekday, const QString& jalaliDate);
+    // Refused when another than an administrator chooses another fiscal year.
+    static const QString& yearForAdministratorsMessage();
 
     explicit frmLogin(AppContext& context, QWidget* parent = nullptr);
 
@@ -36,6 +40,9 @@ public:
 
 signals:
     void loggedIn(const sandogh::UserAccount& user);
+    // An administrator logged in choosing another fiscal year (cmbYear), written to the
+    // setting "Year"/"Year"; the shop must be opened again on it.
+    void yearChosen(const sandogh::UserAccount& user);
     void cancelled();
 
 protected:
@@ -55,6 +62,8 @@ private:
     QLabel* lblDate;
     QLineEdit* txtUserName;
     QLineEdit* txtPassword;
+    QLabel* lblYear;
+    QComboBox* cmbYear;
     QPushButton* cmdOK;
     QPushButton* cmdCancel;
 };

@@ -88,8 +88,9 @@ void frmMain::buildMenus() {
         if (!command.shortcut.isEmpty()) {
             action->setShortcut(command.shortcut);
         }
-        const auto run = command.run;
-        connect(action, &QAction::triggered, this, [this, run] { run(*this); });
+        const QString name = command.name;
+        connect(action, &QAction::triggered, this, [this, name] { runCommand(name); });
+        m_runs.insert(command.name, command.run);
         m_actions.insert(command.name, action);
         m_actionPermissions.insert(command.name, command.permission);
     }
@@ -138,6 +139,7 @@ void frmMain::Form_Load() {
 }
 
 void frmMain::applyPermissions(const Permissions& permissions) {
+    m_permissions = permissions;
     for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it) {
         const bool allowed = permissions.allows(m_actionPermissions.value(it.key()));
         it.value()->setVisible(allowed);
@@ -153,6 +155,38 @@ void frmMain::applyPermissions(const Permissions& permissions) {
     const bool drawer = permissions.allows(Permission::OpenDrawer);
     cmdCashDraw->setVisible(drawer);
     cmdCashDraw->setEnabled(drawer);
+}
+
+bool frmMain::runCommand(const QString& name) {
+    const auto run = m_runs.constFind(name);
+    if (run == m_runs.cend()) {
+        return false;
+    }
+    if (!m_permissions.allows(m_actionPermissions.value(name))) {
+        m_context.messages().show(QStringLiteral("شما اجازه باز کردن این بخش را ندارید."),
+                                  MessageStyle::Warning);
+        return false;
+    }
+    run.value()(*this);
+    return true;
+}
+
+bool frmMain::switchUser() {
+    if (m_exiting) {
+        return false;
+    }
+    mdiMain->closeAllSubWindows();
+    // A screen that refused to close (a sale the person kept) keeps the user here.
+    for (QMdiSubWindow* window : mdiMain->subWindowList()) {
+        if (window->isVisible()) {
+            return false;
+        }
+    }
+    m_exiting = true;
+    ClosePort();
+    hide();
+    emit switchUserRequested();
+    return true;
 }
 
 void frmMain::mnuOpenCash_Click() {

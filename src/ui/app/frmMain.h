@@ -50,6 +50,14 @@ public:
     QWidget* openChild(const QString& name, const std::function<QWidget*()>& create);
     // Closes the ports and the child windows and ends the program (exited()).
     void ExitApplication();
+    // Closes the child windows (each asks what it must, the sale screen about an open sale)
+    // and, when all have closed, the window, asking for the login again (switchUser()).
+    // False when a screen stayed open.
+    bool switchUser();
+    // Runs a command of the menus: refused with a message when the user may not open it,
+    // whatever way it was reached (menu, key, button).
+    bool runCommand(const QString& name);
+    const Permissions& permissions() const { return m_permissions; }
 
     // The general ports, for screens that must free them for a while.
     GeneralPorts* ports() const { return m_ports; }
@@ -61,6 +69,7 @@ public:
 
 signals:
     void exited();
+    void switchUserRequested();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -75,6 +84,8 @@ private:
     bool m_exiting = false;
     QHash<QString, QAction*> m_actions;
     QHash<QString, Permission> m_actionPermissions;
+    QHash<QString, std::function<void(frmMain&)>> m_runs;
+    Permissions m_permissions{PermissionLevel::Cashier};
     // The open child windows by name; an entry turns null when its window is closed.
     QHash<QString, QPointer<QMdiSubWindow>> m_children;
     QList<QMenu*> m_menus;

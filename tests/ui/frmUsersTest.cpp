@@ -1,0 +1,204 @@
+// The users screen and switching user offscreen: a cashier added on the screen logs in to
+// the cashier's menus, the screen shows why the last administrator stays, and switching user
+// with a sale open asks the sale's question and goes back to the login only on yes.
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTest>
+
+#include "ScreenTestContext.h"
+#include "TypeText.h"
+#include "app/LoginService.h"
+#include "app/NewFiscalYear.h"
+#include "app/UsersService.h"
+#include "data/Session.h"
+#include "sales/SaleTexts.h"
+#include "ui/admin/frmPermissions.h"
+#include "ui/admin/frmUsers.h"
+#include "ui/app/MainMenuCommands.h"
+#include "ui/app/StartUpFlow.h"
+#include "ui/app/frmLogin.h"
+#include "ui/app/frmMain.h"
+#include "ui/sales/frmSale.h"
+
+namespace sandogh {
+namespace {
+
+template <typename W>
+W* child(const QWidget& parent, const char* name) {
+    W* found = parent.findChild<W*>(QString::fromLatin1(name));
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
+
+void click(const QWidget& parent, const char* button) {
+    QTest::mouseClick(child<QPushButton>(parent, button), Qt::LeftButton);
+}
+
+class frmUsersTest : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(app.openShop(true)); }
+
+    test::ScreenTestContext app;
+};
+
+TEST_F(frmUsersTest, ACashierAddedHereLogsInToTheCashiersMenus) {
+    frmUsers screen(app.context.database(), app.messages);
+    screen.show();
+    const qsizetype before = screen.users().size();
+    click(screen, "cmdNew");
+    test::typeText(child<QLineEdit>(screen, "txtName"), QStringLiteral("نرگس"));
+    test::typeText(child<QLineEdit>(screen, "txtUserName"), QStringLiteral("narges"));
+    test::typeText(child<QLineEdit>(screen, "txtPassword"), QStringLiteral("2024"));
+    auto* level = child<QComboBox>(screen, "cmbLevel");
+    EXPECT_EQ(level->currentData().toInt(), static_cast<int>(PermissionLevel::Cashier));
+    click(screen, "cmdSave");
+    EXPECT_TRUE(app.messages.messages().isEmpty());
+    ASSERT_EQ(screen.users().size(), before + 1);
+    EXPECT_EQ(child<QTableWidget>(screen, "grdUsers")->rowCount(), before + 1);
+
+    const LoginService::Result login =
+        LoginService(app.context.database()).login(QStringLiteral("narges"), "2024");
+    ASSERT_TRUE(login.accepted());
+    frmMain window(app.context);
+    window.applyPermissions(login.user.permissions());
+    for (const MainMenuCommand& command : MainMenuCommands::all()) {
+        EXPECT_EQ(window.command(command.name)->isVisible(),
+                  Permissions::cashierPermissions().contains(command.permission))
+            << command.name.toStdString();
+    }
+    // A command reached other than through its menu is refused all the same.
+    EXPECT_FALSE(window.runCommand(QStringLiteral("mnuUsers")));
+    EXPECT_TRUE(window.mdiArea()->subWindowList().isEmpty());
+}
+
+TEST_F(frmUsersTest, TheOnlyAdministratorCannotBeSwitchedOff) {
+    frmUsers screen(app.context.database(), app.messages);
+    const QList<UserRow> users = screen.users();
+    const auto admin = std::find_if(users.cbegin(), users.cend(), [](const UserRow& u) {
+        return u.level == static_cast<int>(PermissionLevel::Administrator);
+    });
+    ASSERT_NE(admin, users.cend());
+    ASSERT_TRUE(screen.selectUser(admin->id));
+    child<QCheckBox>(screen, "chkActive")->setChecked(false);
+    click(screen, "cmdSave");
+    ASSERT_EQ(app.messages.messages().size(), 1);
+    EXPECT_EQ(app.messages.messages().first().text, UsersService::lastAdministratorMessage());
+    // The screen still shows the change, ready to be put right.
+    EXPECT_FALSE(child<QCheckBox>(screen, "chkActive")->isChecked());
+    EXPECT_TRUE(UsersService(app.context.database()).users().first().active);
+}
+
+TEST_F(frmUsersTest, ThePermissionsScreenKeepsARolesList) {
+    frmPermissions screen(app.context.database(), app.messages,
+                          MainMenuCommands::permissionCaptions());
+    screen.choose(1);  // the cashier's role
+    EXPECT_TRUE(screen.isAllowed(Permission::Sale));
+    EXPECT_FALSE(screen.isAllowed(Permission::Goods));
+    screen.setAllowed(Permission::Goods, true);
+    screen.setAllowed(Permission::SwitchUser, false);  // fixed: stays
+    click(screen, "cmdSave");
+    const LoginService::Result login =
+        LoginService(app.context.database()).login(QStringLiteral("cashier"), "1111");
+    ASSERT_TRUE(login.accepted());
+    EXPECT_TRUE(login.user.permissions().allows(Permission::Goods));
+    EXPECT_TRUE(login.user.permissions().allows(Permission::SwitchUser));
+}
+
+TEST_F(frmUsersTest, SwitchingUserWithASaleOpenAsksFirst) {
+    {
+        Session s = app.context.database().session();
+        ASSERT_TRUE(s.exec(QStringLiteral(
+            "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue, ISActive, AQIS, Type, "
+            "GType) VALUES ('9990001112223', 'tea', 1000, 0, 0, 1, 0, 0, 0)")));
+    }
+    StartUpFlow flow(app.context);
+    QSignalSpy finished(&flow, &StartUpFlow::finished);
+    flow.showLogin();
+    test::typeText(child<QLineEdit>(*flow.login(), "txtUserName"), QStringLiteral("cashier"));
+    test::typeText(child<QLineEdit>(*flow.login(), "txtPassword"), QStringLiteral("1111"));
+    click(*flow.login(), "cmdOK");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    frmMain* main = flow.mainWindow();
+    ASSERT_NE(main, nullptr);
+
+    main->command(QStringLiteral("mnuSale"))->trigger();
+    auto* sale = qobject_cast<frmSale*>(main->mdiArea()->activeSubWindow()->widget());
+    ASSERT_NE(sale, nullptr);
+    sale->txtBarcode->setFocus();
+    QTest::keyClicks(sale->txtBarcode, QStringLiteral("9990001112223"));
+    QTest::keyClick(sale->txtBarcode, Qt::Key_Return);
+    app.messages.clear();
+
+    // No: the sale and the user stay.
+    app.messages.queueAnswer(false);
+    main->command(QStringLiteral("mnuSwitchUser"))->trigger();
+    ASSERT_EQ(app.messages.messages().size(), 1);
+    EXPECT_EQ(app.messages.messages().first().text, SaleTexts::unsavedSale());
+    EXPECT_EQ(flow.mainWindow(), main);
+    EXPECT_TRUE(main->isVisible());
+    EXPECT_EQ(main->mdiArea()->subWindowList().size(), 1);
+
+    // Yes: back to the login, the program goes on.
+    app.messages.queueAnswer(true);
+    main->command(QStringLiteral("mnuSwitchUser"))->trigger();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(flow.mainWindow(), nullptr);
+    ASSERT_NE(flow.login(), nullptr);
+    EXPECT_TRUE(flow.login()->isVisible());
+    EXPECT_EQ(finished.count(), 0);
+    EXPECT_FALSE(app.context.user().isValid());
+
+    test::typeText(child<QLineEdit>(*flow.login(), "txtUserName"), QStringLiteral("admin"));
+    test::typeText(child<QLineEdit>(*flow.login(), "txtPassword"), QStringLiteral("1234"));
+    click(*flow.login(), "cmdOK");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_NE(flow.mainWindow(), nullptr);
+    EXPECT_EQ(app.context.user().userName, QStringLiteral("admin"));
+    EXPECT_TRUE(flow.mainWindow()->command(QStringLiteral("mnuUsers"))->isVisible());
+}
+
+TEST_F(frmUsersTest, AnAdministratorChoosesAnotherYearAtTheLogin) {
+    ASSERT_TRUE(NewFiscalYear::open(app.context.database(), QStringLiteral("Shop1405"),
+                                    QStringLiteral("1405/01/01"))
+                    .ok);
+    StartUpFlow flow(app.context);
+    flow.showLogin();
+    auto* year = child<QComboBox>(*flow.login(), "cmbYear");
+    ASSERT_TRUE(year->isVisible());
+    ASSERT_GE(year->findText(QStringLiteral("Shop1405")), 0);
+    year->setCurrentIndex(year->findText(QStringLiteral("Shop1405")));
+
+    // A cashier may not; the login screen stays.
+    test::typeText(child<QLineEdit>(*flow.login(), "txtUserName"), QStringLiteral("cashier"));
+    test::typeText(child<QLineEdit>(*flow.login(), "txtPassword"), QStringLiteral("1111"));
+    click(*flow.login(), "cmdOK");
+    ASSERT_FALSE(app.messages.messages().isEmpty());
+    EXPECT_EQ(app.messages.messages().last().text, frmLogin::yearForAdministratorsMessage());
+    EXPECT_EQ(flow.mainWindow(), nullptr);
+
+    child<QLineEdit>(*flow.login(), "txtUserName")->clear();
+    child<QLineEdit>(*flow.login(), "txtPassword")->clear();
+    test::typeText(child<QLineEdit>(*flow.login(), "txtUserName"), QStringLiteral("admin"));
+    test::typeText(child<QLineEdit>(*flow.login(), "txtPassword"), QStringLiteral("1234"));
+    click(*flow.login(), "cmdOK");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_NE(flow.mainWindow(), nullptr);
+    EXPECT_EQ(app.settings.read(QStringLiteral("Year"), QStringLiteral("Year")),
+              QStringLiteral("Shop1405"));
+    EXPECT_EQ(app.context.connectionSettings().catalog, QStringLiteral("Shop1405"));
+    EXPECT_EQ(app.context.user().userName, QStringLiteral("admin"));
+}
+
+}  // namespace
+}  // namespace sandogh

@@ -4,6 +4,7 @@
 
 #include "AdminArgs.h"
 #include "AdminCommand.h"
+#include "common/AmountText.h"
 #include "common/JalaliCalendar.h"
 #include "data/Clock.h"
 #include "data/ConnectionFile.h"
@@ -101,11 +102,15 @@ bool readSettlement(const AdminArgs& args, SaleSettlement& settlement, QString& 
     const auto number = [&](const char* name, double& value) {
         const QString key = QString::fromLatin1(name);
         if (ok && args.has(key)) {
-            value = args.value(key).toDouble(&ok);
-            if (!ok || value < 0) {
-                ok = false;
-                error = QStringLiteral("--%1 needs an amount").arg(key);
+            const QString typed = args.value(key);
+            const std::optional<double> amount = AmountText::parseStrict(typed.toStdString());
+            ok = amount && *amount >= 0;
+            if (!ok) {
+                error = QStringLiteral("--%1: ").arg(key) +
+                        QString::fromStdString(AmountText::refusal(typed.toStdString()));
+                return;
             }
+            value = *amount;
         }
     };
     const auto code = [&](const char* name, std::optional<int>& value) {
@@ -142,6 +147,7 @@ int save(AdminCall& call, Database& database, const MachineSettings& settings,
         }
         call.out << "Code=" << r.code << " DocNo=" << r.docNo << " DocSum=" << plain(r.docSum)
                  << '\n';
+        call.out.flush();  // a run killed later has printed every sale it saved
     }
     return ExitOk;
 }
@@ -218,6 +224,9 @@ int runSell(AdminCall& call) {
     options.otherDatabases = Migrator::otherDatabasesOf(shopMigrations());
     Database database(connection, &messages, &log, options);
 
+    if (!database.session(QStringLiteral("sandogh-admin"), QStringLiteral("sell"))) {
+        return ExitFailed;  // the connection message has been shown
+    }
     SaleSession sale(database, settings, messages, clock);
     if (args.has(QStringLiteral("user"))) {
         const QString name = args.value(QStringLiteral("user"));

@@ -44,6 +44,50 @@ TEST_P(AdminAmountTest, AmountsThatAreNoFiniteNumbersAreRefusedAndNothingIsSaved
     EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH"), {}, -1), 0);
 }
 
+TEST_P(AdminAmountTest, CodesThatDoNotExistAreRefusedAndNothingIsSaved) {
+    {
+        Session s = db().session();
+        for (const char* sql : {
+                 "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES ('1001', "
+                 "'Bread', 2500, 0, 0)",
+                 "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1')",
+                 "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0)",
+                 "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
+             }) {
+            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
+        }
+    }
+    struct Case {
+        QStringList words;
+        QString message;
+    };
+    const QList<Case> cases{
+        {{QStringLiteral("--pay-type"), QStringLiteral("7")},
+         QStringLiteral("نوع پرداخت انتخاب شده وجود ندارد")},
+        {{QStringLiteral("--discount"), QStringLiteral("100"), QStringLiteral("--discount-type"),
+          QStringLiteral("9")},
+         QStringLiteral("نوع تخفيف انتخاب شده وجود ندارد")},
+        {{QStringLiteral("--station"), QStringLiteral("5")},
+         QStringLiteral("صندوق انتخاب شده وجود ندارد")},
+    };
+    for (const Case& c : cases) {
+        const AdminProcess::Result r =
+            runCommand(QStringLiteral("sell"), c.words + QStringList{QStringLiteral("1001")});
+        EXPECT_EQ(r.exitCode, 1) << c.message.toStdString();
+        EXPECT_EQ(QString::fromUtf8(r.err).count(c.message), 1) << r.err.toStdString();
+    }
+    Session s = db().session();
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH"), {}, -1), 0);
+    s = Session();
+    // The same sale with codes that exist is saved.
+    const AdminProcess::Result saved =
+        runCommand(QStringLiteral("sell"),
+                   {QStringLiteral("--station"), QStringLiteral("1"), QStringLiteral("--discount"),
+                    QStringLiteral("100"), QStringLiteral("--discount-type"), QStringLiteral("1"),
+                    QStringLiteral("1001")});
+    EXPECT_EQ(saved.exitCode, 0) << saved.err.toStdString();
+}
+
 SANDOGH_INSTANTIATE_BACKENDS(AdminAmountTest);
 
 // A SQLite program folder of our own, for what happens around the shop file.

@@ -13,6 +13,7 @@
 #include "data/ErrorLog.h"
 #include "data/MessageService.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/SaleCodes.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
 #include "sales/SaleSaver.h"
@@ -269,6 +270,15 @@ int runSell(AdminCall& call) {
     }
 
     if (!args.flag(QStringLiteral("dry-run"))) {
+        const SaleCodes::Missing missing = SaleCodes(database).firstMissing(
+            settlement.payType, settlement.discountTypeId, station, customer);
+        if (missing != SaleCodes::Missing::None) {
+            if (missing != SaleCodes::Missing::Unreachable) {
+                static_cast<MessageService&>(messages).show(SaleCodes::message(missing),
+                                                            MessageStyle::Critical);
+            }
+            return ExitFailed;
+        }
         return save(call, database, settings, messages, clock, sale, settlement, repeat);
     }
     for (const SaleLine& line : sale.lines()) {

@@ -53,6 +53,7 @@ TEST_P(AdminAmountTest, CodesThatDoNotExistAreRefusedAndNothingIsSaved) {
                  "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1')",
                  "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0)",
                  "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
+                 "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
              }) {
             ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
         }
@@ -80,11 +81,11 @@ TEST_P(AdminAmountTest, CodesThatDoNotExistAreRefusedAndNothingIsSaved) {
     EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH"), {}, -1), 0);
     s = Session();
     // The same sale with codes that exist is saved.
-    const AdminProcess::Result saved =
-        runCommand(QStringLiteral("sell"),
-                   {QStringLiteral("--station"), QStringLiteral("1"), QStringLiteral("--discount"),
-                    QStringLiteral("100"), QStringLiteral("--discount-type"), QStringLiteral("1"),
-                    QStringLiteral("1001")});
+    const AdminProcess::Result saved = runCommand(
+        QStringLiteral("sell"),
+        {QStringLiteral("--user"), QStringLiteral("cashier"), QStringLiteral("--station"),
+         QStringLiteral("1"), QStringLiteral("--discount"), QStringLiteral("100"),
+         QStringLiteral("--discount-type"), QStringLiteral("1"), QStringLiteral("1001")});
     EXPECT_EQ(saved.exitCode, 0) << saved.err.toStdString();
 }
 

@@ -194,6 +194,21 @@ TEST_P(DroppedConnectionTest, ALossFoundByAStatementFailsThatRoutineOnlyOnce) {
     EXPECT_EQ(messages().count(), 1);
 }
 
+TEST_P(DroppedConnectionTest, ATransactionBeginsOnAConnectionThatAnswers) {
+    testDatabase().options().idleCheckMs = 24 * 3600 * 1000;  // not checked on hand-out
+    {
+        Session s = db().session();
+        ASSERT_TRUE(test::createTables(s, {test::probeTable()}));
+    }
+    Session s = db().session();
+    terminate(backendPid(s));
+    Transaction tx(s);
+    ASSERT_TRUE(tx.isActive()) << tx.error().text().toStdString();
+    EXPECT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (Code) VALUES (1)")));
+    EXPECT_TRUE(tx.commit());
+    EXPECT_EQ(messages().count(), 0);
+}
+
 TEST_P(DroppedConnectionTest, ALossInsideATransactionEndsItWithoutHarm) {
     testDatabase().options().idleCheckMs = 24 * 3600 * 1000;
     {

@@ -10,6 +10,7 @@
 
 #include "AdminProcess.h"
 #include "AdminShopTest.h"
+#include "common/AmountText.h"
 #include "data/Database.h"
 #include "data/SqlQuery.h"
 #include "data/schema/ShopSchema.h"
@@ -87,6 +88,28 @@ TEST_P(AdminAmountTest, CodesThatDoNotExistAreRefusedAndNothingIsSaved) {
          QStringLiteral("1"), QStringLiteral("--discount"), QStringLiteral("100"),
          QStringLiteral("--discount-type"), QStringLiteral("1"), QStringLiteral("1001")});
     EXPECT_EQ(saved.exitCode, 0) << saved.err.toStdString();
+}
+
+TEST_P(AdminAmountTest, AnAmountReadBackThatIsNoNumberShowsAsUnreadable) {
+    if (backend() != Backend::PostgreSQL) {
+        GTEST_SKIP() << "SQLite keeps no NaN";
+    }
+    {
+        Session s = db().session();
+        ASSERT_TRUE(s.exec(QStringLiteral(
+            "INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, DocSum, ReceivedPrice) "
+            "VALUES (1, '1', 2, '1404/01/05', 'NaN', 'NaN')")));
+    }
+    const AdminProcess::Result report = runCommand(
+        QStringLiteral("report"), {QStringLiteral("daily"), QStringLiteral("1404/01/05")});
+    EXPECT_EQ(report.exitCode, 0) << report.err.toStdString();
+    EXPECT_TRUE(report.outText().contains(QString::fromStdString(AmountText::unreadable())))
+        << report.outText().toStdString();
+    QTemporaryDir out;
+    const AdminProcess::Result receipt = runCommand(
+        QStringLiteral("receipt"),
+        {QStringLiteral("1"), QStringLiteral("--pdf"), out.filePath(QStringLiteral("r.pdf"))});
+    EXPECT_EQ(receipt.exitCode, 0) << receipt.err.toStdString();
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(AdminAmountTest);

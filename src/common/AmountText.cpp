@@ -128,12 +128,25 @@ std::size_t leadingNumber(const std::string& s, std::optional<double>& value) {
 
 }  // namespace
 
+bool AmountText::isUsable(double value) {
+    return std::isfinite(value) && std::fabs(value) < kLimit;
+}
+
+std::string AmountText::unreadable() {
+    return "ناخوانا";
+}
+
+std::string AmountText::refusal(std::string_view typed) {
+    // "... is not a proper number or is larger than allowed"
+    return "«" + std::string(typed) + "» عدد درستي نيست يا از حد مجاز بزرگتر است";
+}
+
 std::string AmountText::formatWhole(double value) {
-    return format(value, kWholeDecimals);
+    return std::isfinite(value) ? format(value, kWholeDecimals) : unreadable();
 }
 
 std::string AmountText::formatDecimals(double value) {
-    return format(value, kQuantityDecimals);
+    return std::isfinite(value) ? format(value, kQuantityDecimals) : unreadable();
 }
 
 std::string AmountText::format(double value, int maxDecimals) {
@@ -229,7 +242,7 @@ std::optional<double> AmountText::parseStrict(std::string_view text) {
     const std::string s = cleaned(text);
     std::optional<double> value;
     const std::size_t used = leadingNumber(s, value);
-    if (used == 0 || used != s.size()) {
+    if (used == 0 || used != s.size() || !value || !isUsable(*value)) {
         return std::nullopt;
     }
     return value;

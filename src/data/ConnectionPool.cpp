@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "data/Database.h"
+#include "data/ErrorLog.h"
 #include "settings/MessageService.h"
 
 namespace sandogh {
@@ -119,6 +120,17 @@ PooledConnection* ConnectionPool::acquire(DbError& error) {
     return connection;
 }
 
+bool ConnectionPool::ensureAlive(PooledConnection* connection, DbError& error) {
+    if (m_settings.backend == Backend::SQLite || connection->inTransaction) {
+        return true;
+    }
+    if (!connection->broken && database(connection).isOpen() && ping(connection)) {
+        return true;
+    }
+    close(connection);
+    return open(connection, error);
+}
+
 bool ConnectionPool::open(PooledConnection* connection, DbError& error) {
     connection->statements.clear();
     connection->attachedCount = 0;
@@ -169,7 +181,9 @@ bool ConnectionPool::open(PooledConnection* connection, DbError& error) {
             return false;
         }
         m_connects.fetch_add(1);
-        if (m_settings.backend == Backend::SQLite && !configureSqlite(db, error)) {
+        if (m_settings.backend == Backend::SQLite &&
+            (!checkSqliteIntegrity(db, error) || !configureSqlite(db, error))) {
+            db.close();
             return false;
         }
         if (m_settings.backend == Backend::PostgreSQL) {
@@ -178,6 +192,37 @@ bool ConnectionPool::open(PooledConnection* connection, DbError& error) {
         }
     }
     return attachOtherDatabases(connection, error);
+}
+
+bool ConnectionPool::checkSqliteIntegrity(QSqlDatabase& db, DbError& error) {
+    // The first connection of the program to a shop file looks it over before anything
+    // writes to it (even the journal mode is a write): a damaged file is refused whole
+    // rather than half-written. quick_check reads every page but skips the index contents.
+    if (m_integrityChecked.load()) {
+        return true;
+    }
+    QSqlQuery q(db);
+    const QString check = QStringLiteral("PRAGMA quick_check");
+    if (!q.exec(check)) {
+        error = DbError::fromSqlError(q.lastError(), Backend::SQLite, true, check);
+        if (error.kind == DbErrorKind::ConnectionLost || error.kind == DbErrorKind::Other) {
+            error.kind = DbErrorKind::Damaged;
+        }
+        return false;
+    }
+    QStringList problems;
+    while (q.next()) {
+        problems << q.value(0).toString();
+    }
+    if (problems != QStringList{QStringLiteral("ok")}) {
+        error = DbError{};
+        error.kind = DbErrorKind::Damaged;
+        error.driverText = QStringLiteral("quick_check: ") + problems.join(QStringLiteral("; "));
+        error.sql = check;
+        return false;
+    }
+    m_integrityChecked.store(true);
+    return true;
 }
 
 bool ConnectionPool::configureSqlite(QSqlDatabase& db, DbError& error) {
@@ -307,6 +352,18 @@ void ConnectionPool::closeThreadConnections() {
 void ConnectionPool::reportConnectionFailure() const {
     if (m_messages != nullptr) {
         m_messages->show(Database::connectionFailureMessage(), MessageStyle::CriticalPlain);
+    }
+}
+
+void ConnectionPool::reportOpenFailure(const DbError& error, const QString& moduleName,
+                                       const QString& routineName) const {
+    const QString message = error.userMessage();
+    if (message.isEmpty()) {
+        reportConnectionFailure();
+    } else if (m_errorLog != nullptr) {
+        m_errorLog->LogError(error.toAppError(), moduleName, routineName, message);
+    } else if (m_messages != nullptr) {
+        m_messages->show(message, MessageStyle::Critical);
     }
 }
 

@@ -36,10 +36,20 @@ public:
     // server cannot be reached.
     PooledConnection* acquire(DbError& error);
     void release(PooledConnection* connection);
+    // Before a transaction begins on a server: a connection the server dropped while it
+    // was idle or in use by reads (a restart between two sales) is opened again, so that
+    // only a transaction cut off in its course fails. False with error set when the
+    // server cannot be reached.
+    bool ensureAlive(PooledConnection* connection, DbError& error);
     QSqlDatabase database(const PooledConnection* connection) const;
 
     // Shows the connection failure message of the data routines.
     void reportConnectionFailure() const;
+    // A connection that could not be opened: the message of its kind when it has one
+    // (a damaged file, a refused permission), recorded in the error log; else the
+    // connection message.
+    void reportOpenFailure(const DbError& error, const QString& moduleName,
+                           const QString& routineName) const;
 
     // Closes every connection; later releases close theirs.
     void shutdown();
@@ -62,6 +72,7 @@ public:
 private:
     bool open(PooledConnection* connection, DbError& error);
     bool configureSqlite(QSqlDatabase& db, DbError& error);
+    bool checkSqliteIntegrity(QSqlDatabase& db, DbError& error);
     bool attachOtherDatabases(PooledConnection* connection, DbError& error);
     bool ping(PooledConnection* connection);
     void close(PooledConnection* connection);
@@ -81,6 +92,7 @@ private:
     int m_nextNumber = 0;
     bool m_shutdown = false;
     std::atomic<int> m_connects{0};
+    std::atomic<bool> m_integrityChecked{false};
 };
 
 }  // namespace sandogh

@@ -29,7 +29,9 @@ bool splitServer(const QString& dataSource, QString& host, int& port, QString* e
         const int value = dataSource.mid(comma + 1).trimmed().toInt(&ok);
         if (!ok || value <= 0 || value > 65535) {
             if (error != nullptr) {
-                *error = QStringLiteral("bad port in Data Source \"%1\"").arg(dataSource);
+                *error =
+                    QStringLiteral("شماره پورت در Data Source فايل Provider.txt درست نيست: \"%1\"")
+                        .arg(dataSource);
             }
             return false;
         }
@@ -144,21 +146,21 @@ bool ConnectionSettings::parse(const QString& connectionString, const QString& p
                provider.startsWith(QLatin1String("MSOLEDBSQL"), Qt::CaseInsensitive)) {
         s.backend = Backend::SqlServer;
     } else if (provider.isEmpty()) {
-        return fail(QStringLiteral("the connection string names no Provider"));
+        return fail(QStringLiteral("فايل Provider.txt سطر Provider ندارد"));
     } else {
-        return fail(QStringLiteral("unknown Provider \"%1\": expected SQLite, PostgreSQL, "
-                                   "SQLOLEDB, SQLNCLI or MSOLEDBSQL")
+        return fail(QStringLiteral("Provider ناشناخته در فايل Provider.txt: \"%1\"؛ SQLite، "
+                                   "PostgreSQL، SQLOLEDB، SQLNCLI يا MSOLEDBSQL بنويسيد")
                         .arg(s.provider));
     }
     if (s.catalog.trimmed().isEmpty()) {
-        return fail(QStringLiteral("the connection string names no Initial Catalog"));
+        return fail(QStringLiteral("فايل Provider.txt سطر Initial Catalog ندارد"));
     }
     if (s.backend != Backend::SQLite) {
         if (!splitServer(s.dataSource, s.host, s.port, error)) {
             return false;
         }
         if (s.host.isEmpty()) {
-            return fail(QStringLiteral("the connection string names no Data Source"));
+            return fail(QStringLiteral("فايل Provider.txt سطر Data Source ندارد"));
         }
     }
     settings = s;

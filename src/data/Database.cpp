@@ -22,7 +22,7 @@ Session Database::session(const QString& moduleName, const QString& routineName)
     DbError error;
     PooledConnection* connection = m_pool->acquire(error);
     if (connection == nullptr) {
-        m_pool->reportConnectionFailure();
+        m_pool->reportOpenFailure(error, moduleName, routineName);
     }
     return Session(m_pool, connection, error, moduleName, routineName);
 }

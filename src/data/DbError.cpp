@@ -10,7 +10,13 @@ constexpr int kSqliteConstraintForeignKey = 787;
 constexpr int kSqliteConstraintPrimaryKey = 1555;
 constexpr int kSqliteConstraintUnique = 2067;
 constexpr int kSqliteConstraintRowId = 2579;
+constexpr int kSqlitePerm = 3;
+constexpr int kSqliteBusy = 5;
+constexpr int kSqliteLocked = 6;
+constexpr int kSqliteReadOnly = 8;
 constexpr int kSqliteIoErr = 10;
+constexpr int kSqliteCorrupt = 11;
+constexpr int kSqliteFull = 13;
 constexpr int kSqliteCantOpen = 14;
 constexpr int kSqliteNotADb = 26;
 
@@ -43,11 +49,24 @@ DbErrorKind classifySqlite(const QSqlError& error) {
         default:
             break;
     }
-    const int primary = code & 0xff;
-    if (primary == kSqliteIoErr || primary == kSqliteCantOpen || primary == kSqliteNotADb) {
-        return DbErrorKind::ConnectionLost;
+    switch (code & 0xff) {
+        case kSqliteBusy:
+        case kSqliteLocked:
+            return DbErrorKind::Busy;
+        case kSqlitePerm:
+        case kSqliteReadOnly:
+            return DbErrorKind::Permission;
+        case kSqliteFull:
+            return DbErrorKind::DiskFull;
+        case kSqliteCorrupt:
+        case kSqliteNotADb:
+            return DbErrorKind::Damaged;
+        case kSqliteIoErr:
+        case kSqliteCantOpen:
+            return DbErrorKind::ConnectionLost;
+        default:
+            return DbErrorKind::Other;
     }
-    return DbErrorKind::Other;
 }
 
 DbErrorKind classifyPostgres(const QSqlError& error, bool connectionOpen) {
@@ -57,6 +76,20 @@ DbErrorKind classifyPostgres(const QSqlError& error, bool connectionOpen) {
     }
     if (state == QLatin1String("23503")) {
         return DbErrorKind::ForeignKey;
+    }
+    // 40001 serialization failure, 40P01 deadlock, 55P03 lock not available.
+    if (state == QLatin1String("40001") || state == QLatin1String("40P01") ||
+        state == QLatin1String("55P03")) {
+        return DbErrorKind::Busy;
+    }
+    if (state == QLatin1String("42501")) {  // insufficient privilege
+        return DbErrorKind::Permission;
+    }
+    if (state == QLatin1String("53100")) {  // disk full
+        return DbErrorKind::DiskFull;
+    }
+    if (state == QLatin1String("XX001") || state == QLatin1String("XX002")) {
+        return DbErrorKind::Damaged;  // data or index corrupted
     }
     // Class 08: connection exception; 57P01..57P03: the server shut the session down.
     if (state.startsWith(QLatin1String("08")) || state == QLatin1String("57P01") ||
@@ -73,6 +106,21 @@ DbErrorKind classifySqlServer(const QSqlError& error, bool connectionOpen) {
     const QString code = error.nativeErrorCode();
     if (code == QLatin1String("2627") || code == QLatin1String("2601")) {
         return DbErrorKind::KeyConflict;
+    }
+    // 1205 deadlock victim, 1222 lock wait time-out; 229/230/262 permission denied;
+    // 1105 filegroup full, 9002 log full; 823/824 I/O or consistency errors.
+    if (code == QLatin1String("1205") || code == QLatin1String("1222")) {
+        return DbErrorKind::Busy;
+    }
+    if (code == QLatin1String("229") || code == QLatin1String("230") ||
+        code == QLatin1String("262")) {
+        return DbErrorKind::Permission;
+    }
+    if (code == QLatin1String("1105") || code == QLatin1String("9002")) {
+        return DbErrorKind::DiskFull;
+    }
+    if (code == QLatin1String("823") || code == QLatin1String("824")) {
+        return DbErrorKind::Damaged;
     }
     const QString text = error.databaseText();
     if (code == QLatin1String("547") &&
@@ -94,6 +142,33 @@ DbErrorKind classifySqlServer(const QSqlError& error, bool connectionOpen) {
 
 QString DbError::text() const {
     return databaseText.trimmed().isEmpty() ? driverText : databaseText.trimmed();
+}
+
+QString DbError::userMessage() const {
+    return messageFor(kind);
+}
+
+QString DbError::messageFor(DbErrorKind kind) {
+    switch (kind) {
+        case DbErrorKind::Busy:
+            // The database is busy; try again in a moment.
+            return QStringLiteral("بانک اطلاعاتي مشغول است؛ چند لحظه بعد دوباره امتحان کنيد");
+        case DbErrorKind::ForeignKey:
+            // Not saved: one of its codes does not exist in the database.
+            return QStringLiteral("اطلاعات ثبت نشد: يکي از کدهاي آن در بانک اطلاعاتي وجود ندارد");
+        case DbErrorKind::Permission:
+            // No permission to write to the database or its folder.
+            return QStringLiteral("اجازه نوشتن در بانک اطلاعاتي يا پوشه آن وجود ندارد");
+        case DbErrorKind::DiskFull:
+            // The disk is full; nothing was saved.
+            return QStringLiteral("ديسک پر است؛ اطلاعات ثبت نشد");
+        case DbErrorKind::Damaged:
+            // The database file is damaged; restore a backup.
+            return QStringLiteral(
+                "فايل بانک اطلاعاتي آسيب ديده است؛ نسخه پشتيبان آن را بازگرداني کنيد");
+        default:
+            return {};
+    }
 }
 
 AppError DbError::toAppError() const {

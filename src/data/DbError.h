@@ -15,6 +15,10 @@ enum class DbErrorKind {
     ConnectionLost,  // the server cannot be reached or dropped the connection
     KeyConflict,     // unique or primary key violation: another seat took the key
     ForeignKey,      // the row names a parent that does not exist (or is still referenced)
+    Busy,            // another desk holds the lock past the wait, or a deadlock was broken
+    Permission,      // the user or the file system refuses the access (a read-only folder)
+    DiskFull,        // the disk or the database is full
+    Damaged,         // the database file or an index is corrupt
     Other,
 };
 
@@ -32,6 +36,10 @@ struct DbError {
 
     // The description of the error: the server's text, else the driver's.
     QString text() const;
+    // What the user is told for the kinds that have a message of their own (busy, foreign
+    // key, permission, full disk, damaged); empty for the others.
+    QString userMessage() const;
+    static QString messageFor(DbErrorKind kind);
     // The error as the error log records it.
     AppError toAppError() const;
 

@@ -62,6 +62,14 @@ void ErrorLog::LogError(const AppError& error, const QString& moduleName,
     AppendErrorLog(formatRecord(error, moduleName, routineName));
 }
 
+void ErrorLog::LogError(const AppError& error, const QString& moduleName,
+                        const QString& routineName, const QString& message) {
+    if (m_messages != nullptr) {
+        m_messages->show(message, MessageStyle::Critical);
+    }
+    AppendErrorLog(formatRecord(error, moduleName, routineName));
+}
+
 bool ErrorLog::AppendErrorLog(const QString& text) {
     const QByteArray record = (QLatin1Char('"') + text + QLatin1Char('"') + kLineEnd).toUtf8();
     QMutexLocker lock(&m_mutex);

@@ -39,6 +39,10 @@ public:
     // Shows the first three lines of the record (critical style) and appends the
     // whole record to the file.
     void LogError(const AppError& error, const QString& moduleName, const QString& routineName);
+    // The same record, with the user shown the message (critical style) in place of the
+    // first three lines: a failure that the program can name in the user's words.
+    void LogError(const AppError& error, const QString& moduleName, const QString& routineName,
+                  const QString& message);
 
     // Appends text as one quoted value: a double quote, the text, a double quote and
     // a line end. Creates the file when it does not exist. False when it cannot write.

@@ -4,6 +4,7 @@
 
 #include "data/ConnectionPool.h"
 #include "data/ErrorLog.h"
+#include "settings/MessageService.h"
 #include "data/SqlQuery.h"
 
 namespace sandogh {
@@ -40,9 +41,17 @@ void Session::State::fail(const DbError& error, FailureLogging logging) {
         (logging == FailureLogging::QuietKeyConflicts && error.kind == DbErrorKind::KeyConflict)) {
         return;
     }
-    if (pool->errorLog() != nullptr) {
+    // A failure the program can name (busy, foreign key, permission, full disk, damaged)
+    // shows its own message in place of the error's lines; the record is the same.
+    const QString message = error.userMessage();
+    if (pool->errorLog() != nullptr && !message.isEmpty()) {
+        pool->errorLog()->LogError(error.toAppError(), moduleName, routineName, message);
+    } else if (pool->errorLog() != nullptr) {
         pool->errorLog()->LogError(error.toAppError(), moduleName, routineName);
     } else {
+        if (!message.isEmpty() && pool->messages() != nullptr) {
+            pool->messages()->show(message, MessageStyle::Critical);
+        }
         qWarning().noquote() << "sandogh:" << moduleName << routineName << error.text()
                              << error.sql;
     }

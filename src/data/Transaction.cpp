@@ -18,6 +18,10 @@ Transaction::Transaction(Session& session, FailureLogging logging)
         m_session->fail(m_error, m_logging);
         return;
     }
+    if (!m_session->pool->ensureAlive(m_session->connection, m_error)) {
+        m_session->fail(m_error, m_logging);
+        return;
+    }
     if (!runControl(QStringLiteral("BEGIN IMMEDIATE"), &QSqlDatabase::transaction, m_error)) {
         m_session->fail(m_error, m_logging);
         return;

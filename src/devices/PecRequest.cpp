@@ -26,7 +26,15 @@ QString PecRequest::field(const QString& tag, const QString& value) {
     return tag + zeroPadded(value.size(), 3) + value;
 }
 
+bool PecRequest::amountFits(const QString& amountText) {
+    const double value = AmountText::parse(amountText.toStdString());
+    return AmountText::isUsable(value) && value >= 0;
+}
+
 QString PecRequest::amountDigits(const QString& amountText) {
+    if (!amountFits(amountText)) {
+        return {};
+    }
     const double value = std::trunc(AmountText::parse(amountText.toStdString()));
     return QString::number(static_cast<qint64>(value));
 }
@@ -49,6 +57,9 @@ QString PecRequest::frame(const QString& body) {
 }
 
 QByteArray PecRequest::build(const QString& amountText, const QString& saleNo) {
+    if (!amountFits(amountText)) {
+        return {};
+    }
     return Cp1256::encode(frame(body(amountText, saleNo)));
 }
 

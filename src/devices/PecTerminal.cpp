@@ -22,6 +22,12 @@ PecTerminal::PecTerminal(const PecConfig& config, PosPaymentRecorder& recorder,
 }
 
 bool PecTerminal::sendPaymentRequest(const QString& amountText, const QString& saleNo) {
+    const QByteArray request = PecRequest::build(amountText, saleNo);
+    if (request.isEmpty()) {
+        m_messages.show(QString::fromStdString(AmountText::refusal(amountText.toStdString())),
+                        MessageStyle::Critical);
+        return false;
+    }
     // A request still waiting is abandoned with its port.
     m_settle.stop();
     m_waiting = false;
@@ -42,7 +48,7 @@ bool PecTerminal::sendPaymentRequest(const QString& amountText, const QString& s
 
     m_amountText = amountText;
     m_saleNo = saleNo;
-    if (!m_port.write(PecRequest::build(amountText, saleNo)))
+    if (!m_port.write(request))
         return false;
     m_waiting = true;
     return true;

@@ -34,7 +34,8 @@ public:
 
     // Configures and opens the port and writes one request for the amount text
     // (as on the screen, with ",") and the sale number. False when the port
-    // could not be opened or written; nothing is shown then.
+    // could not be opened or written (nothing is shown then) or when the amount
+    // does not fit the request (refused with a message, nothing sent).
     bool sendPaymentRequest(const QString& amountText, const QString& saleNo);
 
     // True between a request and the reading of its answer.

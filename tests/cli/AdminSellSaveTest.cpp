@@ -29,6 +29,7 @@ protected:
                  "(3, 'Desk 3'), (4, 'Desk 4')",
                  "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
                  "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0)",
+                 "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash'), (2, 'Card')",
              }) {
             ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
         }

@@ -45,6 +45,22 @@ INSTANTIATE_TEST_SUITE_P(
                     FormatCase{1e20, "100,000,000,000,000,000,000",
                                "100,000,000,000,000,000,000"}));
 
+TEST(AmountTextTest, FormatWithOtherDecimalCounts) {
+    EXPECT_EQ(AmountText::format(3.14159, 2), "3.14");
+    EXPECT_EQ(AmountText::format(3.145, 2), "3.15");
+    EXPECT_EQ(AmountText::format(0.1, 15), "0.1");
+    EXPECT_EQ(AmountText::format(1.5, 0), "2");
+    for (const int bad : {-1, 16}) {
+        EXPECT_THROW((void)AmountText::format(1, bad), std::out_of_range) << bad;
+    }
+    for (const double bad : {std::numeric_limits<double>::infinity(), std::nan("")}) {
+        EXPECT_THROW((void)AmountText::format(bad, 0), std::invalid_argument);
+        EXPECT_EQ(AmountText::formatWhole(bad), AmountText::unreadable());
+        EXPECT_EQ(AmountText::formatDecimals(-bad), AmountText::unreadable());
+        EXPECT_FALSE(AmountText::isUsable(bad));
+    }
+}
+
 struct ParseCase {
     const char* text;
     double value;
@@ -65,23 +81,27 @@ TEST_P(AmountParseTest, ReadsTheLeadingNumber) {
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, AmountParseTest,
-    testing::Values(ParseCase{"1,234,568", 1234568, true}, ParseCase{"12,500", 12500, true},
-                    ParseCase{"-1,500", -1500, true}, ParseCase{"+7", 7, true},
-                    ParseCase{"1,234.5", 1234.5, true}, ParseCase{".5", 0.5, true},
-                    ParseCase{"-.25", -0.25, true}, ParseCase{"5.", 5, true},
-                    ParseCase{"1,,2", 12, true}, ParseCase{",", 0, false},
-                    ParseCase{"  1 2 3 ", 123, true}, ParseCase{"1\t000\n", 1000, true},
-                    ParseCase{"1e3", 1000, true}, ParseCase{"2D2", 200, true},
-                    ParseCase{"1.5E-1", 0.15, true}, ParseCase{"1e", 1, false},
-                    ParseCase{"1e+", 1, false}, ParseCase{"12abc", 12, false},
-                    ParseCase{"12.5.3", 12.5, false}, ParseCase{"3-4", 3, false},
-                    ParseCase{"", 0, false}, ParseCase{"   ", 0, false}, ParseCase{"abc", 0, false},
-                    ParseCase{"-", 0, false}, ParseCase{"--1", 0, false}, ParseCase{".", 0, false},
-                    ParseCase{"ريال 500", 0, false}, ParseCase{"&H10", 0, false},
-                    ParseCase{"۱۲٬۵۰۰", 12500, true},  // Persian digits, Arabic separator
-                    ParseCase{"١٢٣٫٥", 123.5, true},   // Arabic-Indic digits and decimal sign
-                    ParseCase{"۱,۲۳۴.۵", 1234.5, true}, ParseCase{"1e-400", 0, true},
-                    ParseCase{"1e400", 0, false}, ParseCase{"-1e400x", 0, false}));
+    testing::Values(
+        ParseCase{"1,234,568", 1234568, true}, ParseCase{"12,500", 12500, true},
+        ParseCase{"-1,500", -1500, true}, ParseCase{"+7", 7, true},
+        ParseCase{"1,234.5", 1234.5, true}, ParseCase{".5", 0.5, true},
+        ParseCase{"-.25", -0.25, true}, ParseCase{"5.", 5, true}, ParseCase{"1,,2", 12, true},
+        ParseCase{",", 0, false}, ParseCase{"  1 2 3 ", 123, true},
+        ParseCase{"1\t000\n", 1000, true}, ParseCase{"1e3", 1000, true},
+        ParseCase{"2D2", 200, true}, ParseCase{"1.5E-1", 0.15, true}, ParseCase{"1e", 1, false},
+        ParseCase{"1e+", 1, false}, ParseCase{"12abc", 12, false}, ParseCase{"12.5.3", 12.5, false},
+        ParseCase{"3-4", 3, false}, ParseCase{"", 0, false}, ParseCase{"   ", 0, false},
+        ParseCase{"abc", 0, false}, ParseCase{"-", 0, false}, ParseCase{"--1", 0, false},
+        ParseCase{".", 0, false}, ParseCase{"ريال 500", 0, false}, ParseCase{"&H10", 0, false},
+        ParseCase{"۱۲٬۵۰۰", 12500, true},  // Persian digits, Arabic separator
+        ParseCase{"١٢٣٫٥", 123.5, true},   // Arabic-Indic digits and decimal sign
+        ParseCase{"۱,۲۳۴.۵", 1234.5, true}, ParseCase{"1e-400", 0, true},
+        ParseCase{"1e400", 0, false}, ParseCase{"-1e400x", 0, false},
+        // Not numbers, or beyond what the amount columns and devices carry.
+        ParseCase{"nan", 0, false}, ParseCase{"inf", 0, false}, ParseCase{"-Infinity", 0, false},
+        ParseCase{"999999999999999", 999999999999999, true}, ParseCase{"1e15", 1e15, false},
+        ParseCase{"-1,000,000,000,000,000", -1e15, false},
+        ParseCase{"9223372036854775808", 9223372036854775808.0, false}));
 
 TEST(AmountTextTest, FormattedTextsReadBack) {
     for (const double v : {0.0, 1.0, -1.0, 12500.0, 1234567.0, -987654321.0, 123456789012345.0}) {

@@ -77,7 +77,18 @@ INSTANTIATE_TEST_SUITE_P(Texts, PecAmount,
                                            AmountCase{"12,500", "12500"},
                                            AmountCase{"999.99", "999"}, AmountCase{"0", "0"},
                                            AmountCase{"", "0"},
-                                           AmountCase{"123,456,789,012", "123456789012"}));
+                                           AmountCase{"123,456,789,012", "123456789012"},
+                                           AmountCase{"999,999,999,999,999", "999999999999999"},
+                                           // Refused: empty digits and no request at all.
+                                           AmountCase{"1,000,000,000,000,000", ""},
+                                           AmountCase{"9223372036854775808", ""},
+                                           AmountCase{"-5", ""}, AmountCase{"nan", "0"}));
+
+TEST(PecRequest, AmountThatDoesNotFitBuildsNoRequest) {
+    EXPECT_TRUE(PecRequest::build(QStringLiteral("9,223,372,036,854,775,808"), QStringLiteral("7"))
+                    .isEmpty());
+    EXPECT_TRUE(PecRequest::build(QStringLiteral("1e300"), QStringLiteral("7")).isEmpty());
+}
 
 struct LengthCase {
     const char* amount;

@@ -52,6 +52,18 @@ inline void PrintTo(DbErrorKind kind, std::ostream* os) {
         case DbErrorKind::ForeignKey:
             *os << "ForeignKey";
             return;
+        case DbErrorKind::Busy:
+            *os << "Busy";
+            return;
+        case DbErrorKind::Permission:
+            *os << "Permission";
+            return;
+        case DbErrorKind::DiskFull:
+            *os << "DiskFull";
+            return;
+        case DbErrorKind::Damaged:
+            *os << "Damaged";
+            return;
         case DbErrorKind::Other:
             *os << "Other";
             return;

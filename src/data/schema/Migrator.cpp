@@ -1,6 +1,8 @@
 #include "data/schema/Migrator.h"
 
 #include <QDateTime>
+#include <QHash>
+#include <QMap>
 
 #include "data/Database.h"
 #include "data/SqlQuery.h"
@@ -14,9 +16,72 @@ namespace {
 
 const QString kModule = QStringLiteral("Migrator");
 
+// The other databases a step's objects live in, in order of first mention.
+QStringList databasesOf(const MigrationStep& step) {
+    QStringList names;
+    const auto add = [&names](const QString& name) {
+        if (!name.isEmpty() && !names.contains(name, Qt::CaseInsensitive)) {
+            names << name;
+        }
+    };
+    for (const TableDef& t : step.tables) {
+        add(t.database);
+    }
+    for (const AddColumnDef& a : step.addColumns) {
+        add(a.database);
+    }
+    for (const IndexDef& i : step.indexes) {
+        add(i.database);
+    }
+    return names;
+}
+
 }  // namespace
 
+MigrationStep Migrator::withoutExistingOtherObjects(Session& session, const MigrationStep& step) {
+    // The vendors' databases outlive a shop database: they are shared by the fiscal years
+    // of the shop and may have been made by the vendors' own programs. What they hold
+    // already is kept as it is; only what is missing is made.
+    MigrationStep pending = step;
+    QHash<QString, QMap<QString, QStringList>> held;
+    const auto tablesOf = [&](const QString& database) -> const QMap<QString, QStringList>& {
+        const QString key = database.toLower();
+        if (!held.contains(key)) {
+            held.insert(key, SchemaReader::tables(session, database));
+        }
+        return held[key];
+    };
+    QStringList kept;
+    pending.tables.clear();
+    for (const TableDef& t : step.tables) {
+        if (!t.database.isEmpty() && tablesOf(t.database).contains(t.name.toLower())) {
+            kept << t.database.toLower() + QLatin1Char('.') + t.name.toLower();
+        } else {
+            pending.tables << t;
+        }
+    }
+    pending.addColumns.clear();
+    for (const AddColumnDef& a : step.addColumns) {
+        if (a.database.isEmpty() ||
+            !tablesOf(a.database).value(a.table.toLower()).contains(a.column.name.toLower())) {
+            pending.addColumns << a;
+        }
+    }
+    pending.indexes.clear();
+    for (const IndexDef& i : step.indexes) {
+        if (!kept.contains(i.database.toLower() + QLatin1Char('.') + i.table.toLower())) {
+            pending.indexes << i;
+        }
+    }
+    return pending;
+}
+
 Migrator::Migrator(Database& database) : m_database(database) {}
+
+QString Migrator::newerSchemaMessage() {
+    // The database belongs to a newer version of the program; update the program.
+    return QStringLiteral("نسخه بانک اطلاعاتي از نسخه برنامه جديدتر است؛ برنامه را به روز کنيد");
+}
 
 QStringList Migrator::otherDatabasesOf(const QList<MigrationStep>& steps) {
     QStringList names;
@@ -164,16 +229,24 @@ Migrator::Result Migrator::apply(const QList<MigrationStep>& steps) {
         return result;
     }
     result.versionAfter = result.versionBefore;
+    if (!steps.isEmpty() && result.versionBefore > steps.last().version) {
+        // Written by a later program: its steps are unknown here, and so is what they mean.
+        result.newerSchema = true;
+        fail(result,
+             newerSchemaMessage() +
+                 QStringLiteral(" (%1 > %2)").arg(result.versionBefore).arg(steps.last().version));
+        return result;
+    }
 
     const bool sqlite = m_database.backend() == Backend::SQLite;
     MigrationRenderer renderer(m_database.dialect());
     for (const MigrationStep& step : steps) {
-        const MigrationRenderer::Rendered rendered = renderer.render(step);
         if (step.version <= result.versionBefore) {
+            renderer.render(step);
             continue;
         }
         bool attachedNew = false;
-        for (const QString& name : rendered.otherDatabases) {
+        for (const QString& name : databasesOf(step)) {
             if (sqlite) {
                 attachedNew =
                     attachedNew || !m_database.otherDatabases().contains(name, Qt::CaseInsensitive);
@@ -192,6 +265,8 @@ Migrator::Result Migrator::apply(const QList<MigrationStep>& steps) {
                 return result;
             }
         }
+        const MigrationRenderer::Rendered rendered =
+            renderer.render(withoutExistingOtherObjects(session, step));
         if (rendered.rebuildsTables) {
             session.exec(QStringLiteral("PRAGMA foreign_keys = OFF"));
         }

@@ -4,12 +4,14 @@
 
 #include "AdminArgs.h"
 #include "AdminCommand.h"
+#include "common/AmountText.h"
 #include "common/JalaliCalendar.h"
 #include "data/ConnectionFile.h"
 #include "data/ConnectionSettings.h"
 #include "data/Database.h"
 #include "data/ErrorLog.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/SaleCodes.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
 #include "sales/SaleSaver.h"
@@ -101,11 +103,15 @@ bool readSettlement(const AdminArgs& args, SaleSettlement& settlement, QString& 
     const auto number = [&](const char* name, double& value) {
         const QString key = QString::fromLatin1(name);
         if (ok && args.has(key)) {
-            value = args.value(key).toDouble(&ok);
-            if (!ok || value < 0) {
-                ok = false;
-                error = QStringLiteral("--%1 needs an amount").arg(key);
+            const QString typed = args.value(key);
+            const std::optional<double> amount = AmountText::parseStrict(typed.toStdString());
+            ok = amount && *amount >= 0;
+            if (!ok) {
+                error = QStringLiteral("--%1: ").arg(key) +
+                        QString::fromStdString(AmountText::refusal(typed.toStdString()));
+                return;
             }
+            value = *amount;
         }
     };
     const auto code = [&](const char* name, std::optional<int>& value) {
@@ -142,8 +148,7 @@ int save(AdminCall& call, Database& database, const MachineSettings& settings,
         }
         call.out << "Code=" << r.code << " DocNo=" << r.docNo << " DocSum=" << plain(r.docSum)
                  << '\n';
-        // Each sale is told as it is saved, for whoever watches a long run.
-        call.out.flush();
+        call.out.flush();  // a run killed later has printed every sale it saved
     }
     return ExitOk;
 }
@@ -220,6 +225,9 @@ int runSell(AdminCall& call) {
     options.otherDatabases = Migrator::otherDatabasesOf(shopMigrations());
     Database database(connection, &messages, &log, options);
 
+    if (!database.session(QStringLiteral("sandogh-admin"), QStringLiteral("sell"))) {
+        return ExitFailed;  // the connection message has been shown
+    }
     SaleSession sale(database, settings, messages, clock);
     if (args.has(QStringLiteral("user"))) {
         const QString name = args.value(QStringLiteral("user"));
@@ -262,6 +270,15 @@ int runSell(AdminCall& call) {
     }
 
     if (!args.flag(QStringLiteral("dry-run"))) {
+        const SaleCodes::Missing missing = SaleCodes(database).firstMissing(
+            settlement.payType, settlement.discountTypeId, station, customer);
+        if (missing != SaleCodes::Missing::None) {
+            if (missing != SaleCodes::Missing::Unreachable) {
+                static_cast<MessageService&>(messages).show(SaleCodes::message(missing),
+                                                            MessageStyle::Critical);
+            }
+            return ExitFailed;
+        }
         return save(call, database, settings, messages, clock, sale, settlement, repeat);
     }
     for (const SaleLine& line : sale.lines()) {

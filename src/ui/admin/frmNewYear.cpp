@@ -11,7 +11,7 @@
 #include "app/AppContext.h"
 #include "app/NewFiscalYear.h"
 #include "data/Database.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

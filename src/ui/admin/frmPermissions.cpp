@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "app/Permissions.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

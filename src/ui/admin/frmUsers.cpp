@@ -13,7 +13,7 @@
 #include <QVBoxLayout>
 
 #include "app/PermissionLevel.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

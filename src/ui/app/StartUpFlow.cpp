@@ -6,7 +6,7 @@
 #include "app/AfterLogin.h"
 #include "app/AppContext.h"
 #include "app/UserAccount.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "ui/app/frmLogin.h"
 #include "ui/app/frmLogo.h"
 #include "ui/app/frmMain.h"

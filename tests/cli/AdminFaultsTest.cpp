@@ -1,0 +1,244 @@
+// Bad input and damaged files at the command line: refused with their own message,
+// nothing written.
+
+#include <gtest/gtest.h>
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "AdminProcess.h"
+#include "AdminShopTest.h"
+#include "common/AmountText.h"
+#include "data/Database.h"
+#include "data/SqlQuery.h"
+#include "data/schema/ShopSchema.h"
+
+namespace sandogh {
+namespace {
+
+const QString kDamaged = QStringLiteral("فايل بانک اطلاعاتي آسيب ديده است");
+const QString kNewer = QStringLiteral("نسخه بانک اطلاعاتي از نسخه برنامه جديدتر است");
+const QString kNotANumber = QStringLiteral("عدد درستي نيست");
+const QString kUnreachable = QStringLiteral("خطا در برقراري ارتباط با سرور بانک اطلاعاتي");
+
+class AdminAmountTest : public AdminShopTest {};
+
+TEST_P(AdminAmountTest, AmountsThatAreNoFiniteNumbersAreRefusedAndNothingIsSaved) {
+    {
+        Session s = db().session();
+        ASSERT_TRUE(
+            s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, "
+                                  "TaxValue) VALUES ('1001', 'Bread', 2500, 0, 0)")));
+    }
+    for (const char* option : {"--received", "--discount"}) {
+        for (const char* amount : {"nan", "inf", "-inf", "1e20", "9223372036854775808", "12x"}) {
+            const AdminProcess::Result r = runCommand(
+                QStringLiteral("sell"),
+                {QString::fromLatin1(option), QString::fromLatin1(amount), QStringLiteral("1001")});
+            EXPECT_EQ(r.exitCode, 2) << option << ' ' << amount;
+            EXPECT_TRUE(QString::fromUtf8(r.err).contains(kNotANumber)) << r.err.toStdString();
+        }
+    }
+    Session s = db().session();
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH"), {}, -1), 0);
+}
+
+TEST_P(AdminAmountTest, CodesThatDoNotExistAreRefusedAndNothingIsSaved) {
+    {
+        Session s = db().session();
+        for (const char* sql : {
+                 "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES ('1001', "
+                 "'Bread', 2500, 0, 0)",
+                 "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1')",
+                 "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0)",
+                 "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
+                 "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
+             }) {
+            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
+        }
+    }
+    struct Case {
+        QStringList words;
+        QString message;
+    };
+    const QList<Case> cases{
+        {{QStringLiteral("--pay-type"), QStringLiteral("7")},
+         QStringLiteral("نوع پرداخت انتخاب شده وجود ندارد")},
+        {{QStringLiteral("--discount"), QStringLiteral("100"), QStringLiteral("--discount-type"),
+          QStringLiteral("9")},
+         QStringLiteral("نوع تخفيف انتخاب شده وجود ندارد")},
+        {{QStringLiteral("--station"), QStringLiteral("5")},
+         QStringLiteral("صندوق انتخاب شده وجود ندارد")},
+    };
+    for (const Case& c : cases) {
+        const AdminProcess::Result r =
+            runCommand(QStringLiteral("sell"), c.words + QStringList{QStringLiteral("1001")});
+        EXPECT_EQ(r.exitCode, 1) << c.message.toStdString();
+        EXPECT_EQ(QString::fromUtf8(r.err).count(c.message), 1) << r.err.toStdString();
+    }
+    Session s = db().session();
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH"), {}, -1), 0);
+    s = Session();
+    // The same sale with codes that exist is saved.
+    const AdminProcess::Result saved = runCommand(
+        QStringLiteral("sell"),
+        {QStringLiteral("--user"), QStringLiteral("cashier"), QStringLiteral("--station"),
+         QStringLiteral("1"), QStringLiteral("--discount"), QStringLiteral("100"),
+         QStringLiteral("--discount-type"), QStringLiteral("1"), QStringLiteral("1001")});
+    EXPECT_EQ(saved.exitCode, 0) << saved.err.toStdString();
+}
+
+TEST_P(AdminAmountTest, AnAmountReadBackThatIsNoNumberShowsAsUnreadable) {
+    if (backend() != Backend::PostgreSQL) {
+        GTEST_SKIP() << "SQLite keeps no NaN";
+    }
+    {
+        Session s = db().session();
+        ASSERT_TRUE(s.exec(QStringLiteral(
+            "INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, DocSum, ReceivedPrice) "
+            "VALUES (1, '1', 2, '1404/01/05', 'NaN', 'NaN')")));
+    }
+    const AdminProcess::Result report = runCommand(
+        QStringLiteral("report"), {QStringLiteral("daily"), QStringLiteral("1404/01/05")});
+    EXPECT_EQ(report.exitCode, 0) << report.err.toStdString();
+    EXPECT_TRUE(report.outText().contains(QString::fromStdString(AmountText::unreadable())))
+        << report.outText().toStdString();
+    QTemporaryDir out;
+    const AdminProcess::Result receipt = runCommand(
+        QStringLiteral("receipt"),
+        {QStringLiteral("1"), QStringLiteral("--pdf"), out.filePath(QStringLiteral("r.pdf"))});
+    EXPECT_EQ(receipt.exitCode, 0) << receipt.err.toStdString();
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(AdminAmountTest);
+
+// A SQLite program folder of our own, for what happens around the shop file.
+class AdminSqliteFileTest : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(program.isValid() && settings.isValid());
+        qputenv("SANDOGH_SETTINGS", settings.path().toUtf8());
+        QFile f(path(QStringLiteral("Provider.txt")));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(
+            "Provider=SQLite;\r\nData Source=Data;\r\nInitial Catalog=Shop;\r\nUser ID=;\r\n"
+            "Password=;\r\nPersist Security Info=False;\r\n");
+    }
+    void TearDown() override { qunsetenv("SANDOGH_SETTINGS"); }
+
+    AdminProcess::Result run(const QString& command, QStringList words = {}) {
+        return AdminProcess::run(QStringList{command, QStringLiteral("--dir"), program.path()} +
+                                 words);
+    }
+    void chooseFiscalYear(const QString& database) {
+        QFile f(QDir(settings.path()).filePath(QStringLiteral("Retail.ini")));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write("[Year]\nYear=" + database.toUtf8() + "\n");
+    }
+    QString path(const QString& relative) const { return QDir(program.path()).filePath(relative); }
+    QByteArray digest(const QString& relative) const {
+        QFile f(path(relative));
+        return f.open(QIODevice::ReadOnly)
+                   ? QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha256)
+                   : QByteArray();
+    }
+    // Runs SQL on the shop file directly.
+    bool execOnShop(const QString& sql) {
+        ConnectionSettings settings;
+        settings.backend = Backend::SQLite;
+        settings.sqliteFolder = path(QStringLiteral("Data"));
+        settings.catalog = QStringLiteral("Shop");
+        Database database(settings, nullptr);
+        Session s = database.session();
+        return s && s.exec(sql);
+    }
+
+    QTemporaryDir program;
+    QTemporaryDir settings;
+};
+
+TEST_F(AdminSqliteFileTest, ANewFiscalYearBuildsBesideTheVendorFilesOfTheLast) {
+    ASSERT_EQ(run(QStringLiteral("init-db")).exitCode, 0);
+    ASSERT_TRUE(QFile::exists(path(QStringLiteral("Data/MizanNet.sqlite"))));
+    const QString last = QString::number(shopMigrations().last().version);
+
+    // The next year's file beside the scale vendors' files, which stay as they are.
+    chooseFiscalYear(QStringLiteral("Shop1405"));
+    const AdminProcess::Result year = run(QStringLiteral("init-db"));
+    EXPECT_EQ(year.exitCode, 0) << year.err.toStdString();
+    EXPECT_TRUE(year.outText().contains(QStringLiteral("schema version 0 -> ") + last))
+        << year.outText().toStdString();
+
+    // And so does the demo, in a folder whose shop file was removed.
+    chooseFiscalYear(QStringLiteral("Shop"));
+    ASSERT_TRUE(QFile::remove(path(QStringLiteral("Data/Shop.sqlite"))));
+    const AdminProcess::Result demo = run(QStringLiteral("demo"));
+    EXPECT_EQ(demo.exitCode, 0) << demo.err.toStdString();
+}
+
+TEST_F(AdminSqliteFileTest, ADamagedShopFileIsRefusedAndLeftAsItWas) {
+    ASSERT_EQ(run(QStringLiteral("init-db")).exitCode, 0);
+    QFile shop(path(QStringLiteral("Data/Shop.sqlite")));
+    ASSERT_TRUE(shop.open(QIODevice::ReadWrite));
+    const qint64 size = shop.size();
+    ASSERT_GT(size, 16 * 4096);
+    // Pages in the middle of the file overwritten, as a failing disk leaves them.
+    ASSERT_TRUE(shop.seek(size / 2));
+    shop.write(QByteArray(3 * 4096, '\x5a'));
+    shop.close();
+
+    for (int damage = 0; damage < 2; ++damage) {
+        if (damage == 1) {
+            // Nothing of a database left at all.
+            ASSERT_TRUE(shop.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            shop.write(QByteArray(8192, '\x07'));
+            shop.close();
+        }
+        const QByteArray before = digest(QStringLiteral("Data/Shop.sqlite"));
+        for (const QStringList& words :
+             {QStringList{QStringLiteral("init-db")},
+              QStringList{QStringLiteral("sell"), QStringLiteral("--dry-run"),
+                          QStringLiteral("1001")}}) {
+            const AdminProcess::Result r = run(words.first(), words.mid(1));
+            EXPECT_EQ(r.exitCode, 1) << words.join(' ').toStdString();
+            EXPECT_TRUE(QString::fromUtf8(r.err).contains(kDamaged)) << r.err.toStdString();
+            EXPECT_FALSE(QString::fromUtf8(r.err).contains(kUnreachable)) << r.err.toStdString();
+        }
+        EXPECT_EQ(digest(QStringLiteral("Data/Shop.sqlite")), before) << damage;
+        EXPECT_FALSE(QFile::exists(path(QStringLiteral("Data/Shop.sqlite-wal")))) << damage;
+    }
+    QFile log(path(QStringLiteral("ErrorLog.txt")));
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_EQ(log.readAll().count("ErrNumber : "), 4);  // each refusal recorded once
+}
+
+TEST_F(AdminSqliteFileTest, ASchemaNewerThanTheProgramIsRefused) {
+    ASSERT_EQ(run(QStringLiteral("init-db")).exitCode, 0);
+    ASSERT_TRUE(
+        execOnShop(QStringLiteral("INSERT INTO SchemaVersion (Version, Description) VALUES "
+                                  "(999, 'from a later program')")));
+    for (const QString& command : {QStringLiteral("init-db"), QStringLiteral("demo")}) {
+        const QByteArray before = digest(QStringLiteral("Data/Shop.sqlite"));
+        const AdminProcess::Result r = run(command);
+        EXPECT_EQ(r.exitCode, 1) << command.toStdString();
+        EXPECT_TRUE(QString::fromUtf8(r.err).contains(kNewer)) << r.err.toStdString();
+        EXPECT_EQ(digest(QStringLiteral("Data/Shop.sqlite")), before) << command.toStdString();
+    }
+}
+
+TEST_F(AdminSqliteFileTest, AnUnreachableDatabaseEndsADryRunWithTheConnectionMessage) {
+    // No init-db: the shop file does not exist.
+    const AdminProcess::Result r =
+        run(QStringLiteral("sell"), {QStringLiteral("--dry-run"), QStringLiteral("--user"),
+                                     QStringLiteral("cashier"), QStringLiteral("1001")});
+    EXPECT_EQ(r.exitCode, 1);
+    const QString err = QString::fromUtf8(r.err);
+    EXPECT_EQ(err.count(kUnreachable), 1) << r.err.toStdString();
+    EXPECT_FALSE(err.contains(QStringLiteral("no active user"))) << r.err.toStdString();
+    EXPECT_TRUE(r.out.isEmpty());
+}
+
+}  // namespace
+}  // namespace sandogh

@@ -7,6 +7,7 @@
 #include "app/ShopDatabaseSetup.h"
 #include "data/Clock.h"
 #include "data/Database.h"
+#include "data/DatabaseStatistics.h"
 #include "data/ErrorLog.h"
 #include "data/MessageService.h"
 #include "settings/MachineSettings.h"
@@ -81,6 +82,9 @@ int runDemo(AdminCall& call) {
     const DemoShop::Report report = DemoShop(*setup.database).seed();
     if (!report.ok) {
         call.err << "sandogh-admin demo: nothing was added: " << report.error << '\n';
+        return ExitFailed;
+    }
+    if (report.totalAdded() > 0 && !DatabaseStatistics::refresh(*setup.database)) {
         return ExitFailed;
     }
     if (report.totalAdded() == 0) {

@@ -25,6 +25,7 @@
 
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
+#include "data/DatabaseStatistics.h"
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockDocumentProcedures.h"
@@ -160,7 +161,7 @@ bool generate(Database& database, qint64 documents) {
                      qPrintable(backendName(b)), static_cast<long long>(counts[t]), t + 1,
                      timer.elapsed() / 1000.0);
     }
-    return s.exec(QStringLiteral("ANALYZE"));
+    return DatabaseStatistics::refresh(s);
 }
 
 // The generated shop of a backend and size, made on first use.

@@ -189,6 +189,10 @@ bool ConnectionPool::open(PooledConnection* connection, DbError& error) {
         if (m_settings.backend == Backend::PostgreSQL) {
             QSqlQuery quiet(db);
             quiet.exec(QStringLiteral("SET client_min_messages TO WARNING"));
+            // Every run of a prepared statement is planned for its values and the tables
+            // as they are: a generic plan made while a table was empty (a new shop) would
+            // otherwise be kept for the life of the connection.
+            quiet.exec(QStringLiteral("SET plan_cache_mode = force_custom_plan"));
         }
     }
     return attachOtherDatabases(connection, error);

@@ -5,6 +5,7 @@
 #include "data/ConnectionPool.h"
 #include "data/ErrorLog.h"
 #include "settings/MessageService.h"
+#include "data/RoundTrips.h"
 #include "data/SqlQuery.h"
 
 namespace sandogh {
@@ -66,6 +67,7 @@ std::shared_ptr<QSqlQuery> Session::State::statement(const QString& sql, bool& p
     }
     auto query = std::make_shared<QSqlQuery>(database());
     query->setForwardOnly(forwardOnly());
+    RoundTrips::add();
     prepared = query->prepare(sql);
     if (prepared && it == cache.constEnd()) {
         if (cache.size() >= kStatementCacheSize) {

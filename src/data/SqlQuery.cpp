@@ -3,6 +3,7 @@
 #include <QSqlDatabase>
 
 #include "data/ConnectionPool.h"
+#include "data/RoundTrips.h"
 
 namespace sandogh {
 
@@ -138,6 +139,7 @@ bool SqlQuery::exec() {
     if (m_query) {
         m_query->finish();
     }
+    RoundTrips::add();
     bool ok = false;
     if (m_binds.isEmpty()) {
         // Without values the statement runs as it stands (DDL cannot be prepared on

@@ -3,6 +3,7 @@
 #include <QSqlQuery>
 
 #include "data/ConnectionPool.h"
+#include "data/RoundTrips.h"
 
 namespace sandogh {
 
@@ -71,6 +72,7 @@ bool Transaction::runControl(const QString& sqliteStatement, bool (QSqlDatabase:
         error.sql = sqliteStatement;
         return false;
     }
+    RoundTrips::add();
     if (backend == Backend::SQLite) {
         QSqlQuery q(db);
         ok = q.exec(sqliteStatement);

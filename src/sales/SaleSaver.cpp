@@ -4,8 +4,6 @@
 #include <cmath>
 
 #include "data/Database.h"
-#include "data/Dialect.h"
-#include "data/SqlQuery.h"
 #include "data/Transaction.h"
 #include "data/procedures/CentralProcedures.h"
 #include "data/procedures/PaymentProcedures.h"
@@ -13,6 +11,7 @@
 #include "data/procedures/StockProcedures.h"
 #include "data/procedures/VoucherProcedures.h"
 #include "data/repositories/DocumentNumbering.h"
+#include "data/repositories/SaleDocumentRepository.h"
 #include "devices/CompanionHandOff.h"
 #include "sales/SaleSaveChecks.h"
 #include "sales/SaleSaveTexts.h"
@@ -31,21 +30,6 @@ using namespace procedures;
 
 const QString kModule = QStringLiteral("frmSale");
 
-// The kind of write transaction that saving a sale serialises on (Dialect::writersLockSql).
-const QString kWritersLock = QStringLiteral("Whs_QTYDocH");
-
-// Serial numbers typed during a sale wait under this document key until the sale is saved.
-constexpr qint64 kPendingSerialCode = 1;
-
-std::optional<int> shiftOf(Session& session) {
-    SqlQuery q(session,
-               QStringLiteral("SELECT Code, Name FROM tblShift WHERE LastActiveShift = 1"));
-    if (q.exec() && q.next()) {
-        return q.integer(0);
-    }
-    return std::nullopt;
-}
-
 std::optional<int> warehouseOf(const QString& text) {
     bool ok = false;
     const int code = text.trimmed().toInt(&ok);
@@ -58,6 +42,18 @@ QString numberText(double value) {
 
 }  // namespace
 
+// Everything of one save that can be read or built before the desks' lock: the rows to
+// write, without the numbers that are taken under it.
+struct SaleSaver::Prepared {
+    VoucherHeader voucher;
+    QList<VoucherLine> voucherLines;  // without their comment (the note holds the number)
+    StockDocumentHeader header;
+    QList<StockDocumentLine> lines;
+    QStringList missingStockRows;
+    std::optional<GiftCardRow> card;
+    qint64 gifts = 0;
+};
+
 struct SaleSaver::Private {
     Database& database;
     const MachineSettings& settings;
@@ -66,13 +62,17 @@ struct SaleSaver::Private {
     ReceiptHook receipt;
     CompanionHandOff* companion = nullptr;
 
-    // The steps inside the transaction; false at the first failure.
-    bool write(Session& s, const SaleSession& sale, const SaleSettlement& st, SaleSaveResult& r,
-               GiftCardMovement& movement);
+    // The reads before the transaction; false when one failed.
+    bool prepare(Session& s, const SaleSession& sale, const SaleSettlement& st, Prepared& p,
+                 SaleSaveResult& r);
+    // The steps inside the transaction; false at the first failure. typedTaken is set when
+    // a typed number turned out to be taken.
+    bool write(Session& s, const SaleSession& sale, const SaleSettlement& st, Prepared& p,
+               SaleSaveResult& r, GiftCardMovement& movement, bool& typedTaken);
     void afterCommit(const SaleSession& sale, const SaleSettlement& st, const SaleSaveResult& r,
                      const GiftCardMovement& movement);
-    // Refreshes an allocated number, or checks a typed one; false refuses the save.
-    bool number(const SaleSession& sale, SaleSettlement& st);
+    // A typed number that the day already has refuses before anything is written.
+    bool typedNumberFree(const SaleSession& sale, const SaleSettlement& st);
 };
 
 SaleSaver::SaleSaver(Database& database, const MachineSettings& settings, MessageService& messages,
@@ -99,30 +99,14 @@ QString SaleSaver::nextDocNo(const SaleSession& sale) {
 PreviousInvoice SaleSaver::previousInvoice(int stationId) {
     PreviousInvoice previous;
     Session s = d->database.session(kModule, QStringLiteral("PrevFactor"));
-    const Dialect& dialect = s.dialect();
-    SqlQuery q(s, QStringLiteral("SELECT ") + dialect.top(1) +
-                      QStringLiteral("COALESCE(DocNo, '0'), COALESCE(ReceivedPrice, 0) FROM "
-                                     "Whs_QTYDocH WHERE StationID = :station AND (TransType = 2 "
-                                     "OR TransType = 3) ORDER BY Code DESC") +
-                      dialect.limit(1));
-    q.bind(QStringLiteral(":station"), stationId);
-    if (q.exec() && q.next()) {
-        previous.docNo = q.text(0, QStringLiteral("0"));
-        previous.received = q.number(1);
+    if (const auto last = SaleDocumentRepository::lastInvoiceOfStation(s, stationId)) {
+        previous.docNo = last->docNo;
+        previous.received = last->received;
     }
     return previous;
 }
 
-bool SaleSaver::Private::number(const SaleSession& sale, SaleSettlement& st) {
-    if (!st.docNoTyped) {
-        const qint64 next = DocumentNumbering(database).nextSaleDocNo(
-            sale.transType(), sale.saleDate(), settings.resetFactorNoDaily());
-        if (next <= 0) {
-            return false;
-        }
-        st.docNo = QString::number(next);
-        return true;
-    }
+bool SaleSaver::Private::typedNumberFree(const SaleSession& sale, const SaleSettlement& st) {
     const std::optional<bool> taken = DocumentNumbering(database).isSaleDocNoTaken(
         sale.transType(), st.docNo.trimmed(), sale.saleDate());
     if (!taken) {
@@ -144,74 +128,64 @@ SaleSaveResult SaleSaver::save(SaleSession& sale, SaleSettlement& st) {
     if (r.refusedBy != SaleSaveCheck::None) {
         return r;
     }
-    if (!d->number(sale, st)) {
+    if (st.docNoTyped && !d->typedNumberFree(sale, st)) {
         r.refusedBy = SaleSaveCheck::DocNo;
         return r;
     }
 
     GiftCardMovement movement;
     bool written = false;
+    bool typedTaken = false;
     {
         Session s = d->database.session(kModule, QStringLiteral("cmdSave"));
         if (!s) {
             return r;
         }
-        Transaction tx(s);
-        written = tx.isActive() && d->write(s, sale, st, r, movement) && tx.commit();
-        if (!written && tx.isActive()) {
-            tx.rollback();
+        Prepared prepared;
+        if (d->prepare(s, sale, st, prepared, r)) {
+            Transaction tx(s);
+            written = tx.isActive() && d->write(s, sale, st, prepared, r, movement, typedTaken) &&
+                      tx.commit();
+            if (!written && tx.isActive()) {
+                tx.rollback();
+            }
         }
+    }
+    if (typedTaken) {
+        // Another desk wrote the typed number between the check and the lock.
+        d->messages.show(SaleSaveTexts::docNoTaken(), MessageStyle::Critical);
+        SaleSaveResult refused;
+        refused.refusedBy = SaleSaveCheck::DocNo;
+        return refused;
     }
     if (!written) {
         d->messages.show(Database::connectionFailureMessage(), MessageStyle::CriticalPlain);
         return SaleSaveResult{};
     }
     r.saved = true;
+    // The number written, which may differ from the proposal on the screen.
+    st.docNo = r.docNo;
     d->afterCommit(sale, st, r, movement);
     return r;
 }
 
-bool SaleSaver::Private::write(Session& s, const SaleSession& sale, const SaleSettlement& st,
-                               SaleSaveResult& r, GiftCardMovement& movement) {
-    // Desks saving at the same moment take turns here: each takes its voucher and document
-    // keys as the largest plus one, and a desk that lost the race for a key would wait for
-    // the winner's whole transaction before it could try the next one.
-    const QString lock = s.dialect().writersLockSql();
-    if (!lock.isEmpty() && !s.exec(lock, {{QStringLiteral(":name"), kWritersLock}})) {
-        return false;
-    }
+bool SaleSaver::Private::prepare(Session& s, const SaleSession& sale, const SaleSettlement& st,
+                                 Prepared& p, SaleSaveResult& r) {
     const QDateTime now = clock.now();
     const QString date = sale.saleDate();
     const SaleMode mode = sale.mode();
     const int customer = sale.customer().counter;
     const double payable = SaleSaveChecks::payable(sale, st);
-    r.docNo = st.docNo.trimmed();
     r.docSum = sale.total();
     r.received = SaleSaveChecks::received(sale, st);
 
-    // The voucher; its number is taken inside its insert (the largest plus one, as
-    // sp_tblDocumentH_GetNewCode reads it), so two desks never share one.
-    VoucherHeader voucher;
-    voucher.date = date;
-    voucher.time = now.toString(QStringLiteral("HH:mm"));
-    voucher.userId = sale.userId();
-    voucher.serial = r.docNo;
-    voucher.note = SaleVoucher::note(mode, r.docNo, date);
-    r.voucherId = sp_tblDocumentH_Insert(s, voucher);
-    if (r.voucherId <= 0) {
-        return false;
-    }
+    p.voucher.date = date;
+    p.voucher.time = now.toString(QStringLiteral("HH:mm"));
+    p.voucher.userId = sale.userId();
     const SaleVoucher::Accounts accounts = SaleVoucher::accounts(s, customer);
-    for (VoucherLine row :
-         SaleVoucher::lines(st, mode, payable, r.received, accounts, voucher.note)) {
-        row.documentHId = r.voucherId;
-        if (sp_tblDocumentD_Insert(s, row) <= 0) {
-            return false;
-        }
-    }
+    p.voucherLines = SaleVoucher::lines(st, mode, payable, r.received, accounts, QString());
 
-    StockDocumentHeader h;
-    h.docNo = r.docNo;
+    StockDocumentHeader& h = p.header;
     h.transType = sale.transType();
     h.companyId = customer != 0 ? std::optional<int>(customer) : std::nullopt;
     h.docDate = date;
@@ -224,9 +198,8 @@ bool SaleSaver::Private::write(Session& s, const SaleSession& sale, const SaleSe
     h.stationId = sale.station() != 0 ? std::optional<int>(sale.station()) : std::nullopt;
     h.note = st.note;
     h.salesType = sale.salesType();
-    h.shiftCode = shiftOf(s);
+    h.shiftCode = SaleDocumentRepository::activeShift(s);
     h.payType = st.payType;
-    h.documentHId = r.voucherId;
     h.warehouseCode = warehouseOf(sale.warehouse());
     h.discountTypeId = st.discountTypeId;
     h.carId = st.carId;
@@ -235,15 +208,7 @@ bool SaleSaver::Private::write(Session& s, const SaleSession& sale, const SaleSe
     h.base = st.base;
     h.returnCauseId = mode == SaleMode::Return ? st.returnCauseId : std::nullopt;
     h.overheadId = st.overheadId;
-    r.code = StockDocumentWriter::insertHeader(s, h);
-    if (r.code <= 0) {
-        return false;
-    }
-    if (!s.exec(QStringLiteral("UPDATE Serial SET Code = :code WHERE Code = :pending"),
-                {{QStringLiteral(":code"), r.code},
-                 {QStringLiteral(":pending"), kPendingSerialCode}})) {
-        return false;
-    }
+
     QStringList barcodes;
     for (const SaleLine& line : sale.lines()) {
         StockDocumentLine l;
@@ -253,38 +218,90 @@ bool SaleSaver::Private::write(Session& s, const SaleSession& sale, const SaleSe
         l.price = line.total;
         l.userId = line.sellerId != 0 ? line.sellerId : sale.userId();
         l.taxValue = line.taxPercent;
-        if (StockDocumentWriter::insertLine(s, r.code, l) <= 0) {
-            return false;
-        }
+        p.lines << l;
         if (!barcodes.contains(line.barcode)) {
             barcodes << line.barcode;
         }
     }
-    if (!sp_StockRepair(s, barcodes)) {
+    const std::optional<QStringList> missing = stockRowsMissing(s, barcodes);
+    if (!missing) {
         return false;
     }
+    p.missingStockRows = *missing;
 
     const double rebate = settings.loyaltyAmountRebate();
     if (st.loyaltyGift && customer != 0 && rebate > 0) {
-        const qint64 gifts = static_cast<qint64>(std::floor(std::floor(st.discount) / rebate));
-        if (!s.exec(QStringLiteral("UPDATE Types SET DiscountTakenTotal = "
-                                   "COALESCE(DiscountTakenTotal, 0) + :gifts, "
-                                   "LastDiscountTakenDate = :date WHERE Counter = :customer"),
-                    {{QStringLiteral(":gifts"), gifts},
-                     {QStringLiteral(":date"), date},
-                     {QStringLiteral(":customer"), customer}})) {
+        p.gifts = static_cast<qint64>(std::floor(std::floor(st.discount) / rebate));
+    }
+    if (st.giftCardId != 0 && st.giftCardAmount > 0) {
+        p.card = sp_tblGiftCard_SelectRow(s, st.giftCardId);
+        if (!p.card) {
             return false;
         }
     }
+    return !s.lastError().isConnectionLost();
+}
 
-    if (st.giftCardId != 0 && st.giftCardAmount > 0) {
-        const std::optional<GiftCardRow> card = sp_tblGiftCard_SelectRow(s, st.giftCardId);
-        if (!card) {
-            return false;
+bool SaleSaver::Private::write(Session& s, const SaleSession& sale, const SaleSettlement& st,
+                               Prepared& p, SaleSaveResult& r, GiftCardMovement& movement,
+                               bool& typedTaken) {
+    // Desks saving at the same moment take turns from here to their commit: the invoice
+    // number, the voucher code and the document key are each the largest plus one, read
+    // after the previous desk's commit. Nothing that can be done before is done here.
+    if (!StockDocumentWriter::lockWriters(s)) {
+        return false;
+    }
+    const QString date = sale.saleDate();
+    const QString typed = st.docNoTyped ? st.docNo.trimmed() : QString();
+    const std::optional<DocumentNumbering::SaleNumbers> numbers = DocumentNumbering::saleNumbers(
+        s, sale.transType(), date, settings.resetFactorNoDaily(), typed);
+    if (!numbers || (typed.isEmpty() && numbers->docNo <= 0)) {
+        return false;
+    }
+    if (numbers->typedTaken) {
+        typedTaken = true;
+        return false;
+    }
+    r.docNo = typed.isEmpty() ? QString::number(numbers->docNo) : typed;
+
+    p.voucher.code = numbers->voucherCode;
+    p.voucher.serial = r.docNo;
+    p.voucher.note = SaleVoucher::note(sale.mode(), r.docNo, date);
+    r.voucherId = sp_tblDocumentH_Insert(s, p.voucher);
+    if (r.voucherId <= 0) {
+        return false;
+    }
+    for (VoucherLine& row : p.voucherLines) {
+        row.comment = p.voucher.note;
+    }
+    if (!sp_tblDocumentD_InsertRows(s, r.voucherId, p.voucherLines)) {
+        return false;
+    }
+
+    p.header.docNo = r.docNo;
+    p.header.documentHId = r.voucherId;
+    DbError error;
+    r.code = StockDocumentWriter::insertHeaderOnce(s, p.header, error);
+    if (r.code <= 0) {
+        if (error.isKeyConflict() && s.state() != nullptr) {
+            s.state()->fail(error, FailureLogging::Log);
         }
-        movement.giftCardId = card->id;
+        return false;
+    }
+    if (!StockDocumentWriter::bindPendingSerials(s, r.code) ||
+        !StockDocumentWriter::insertLines(s, r.code, p.lines) ||
+        !StockDocumentWriter::addToStock(s, r.code, p.missingStockRows)) {
+        return false;
+    }
+
+    const int customer = sale.customer().counter;
+    if (p.gifts > 0 && !SaleDocumentRepository::addGiftsTaken(s, customer, p.gifts, date)) {
+        return false;
+    }
+    if (p.card) {
+        movement.giftCardId = p.card->id;
         movement.date = date;
-        movement.time = voucher.time;
+        movement.time = p.voucher.time;
         movement.amount = st.giftCardAmount;
         movement.userId = sale.userId();
         movement.customerId = customer;
@@ -307,8 +324,7 @@ void SaleSaver::Private::afterCommit(const SaleSession& sale, const SaleSettleme
         sp_SyncInsertGiftCardItem(s, settings.linkedServerName(), central, movement);
     }
     if (st.preInvoiceCode) {
-        s.exec(QStringLiteral("UPDATE tblPreFactorH SET IsTrenchant = :closed WHERE Code = :code"),
-               {{QStringLiteral(":closed"), 1}, {QStringLiteral(":code"), *st.preInvoiceCode}});
+        SaleDocumentRepository::closePreInvoice(s, *st.preInvoiceCode);
     }
     s.release();
     if (st.printReceipt && receipt) {

@@ -17,10 +17,10 @@ class MessageService;
 class SaleSession;
 struct SaleSettlement;
 
-// cmdSave without its widgets: the checks (SaleSaveChecks), the invoice number, then one
-// transaction on one session writing the voucher (tblDocumentH/D), the stock document
-// (Whs_QTYDocH/D, header key allocated by its own insert), the serial numbers, the stock
-// totals of its articles, the loyalty gifts taken and the gift card movement. Any failure
+// cmdSave without its widgets: the checks (SaleSaveChecks), the look-ups, then one
+// transaction on one session taking the invoice number and writing the voucher (tblDocumentH/D),
+// the stock document (Whs_QTYDocH/D, header key allocated by its own insert), the serial numbers,
+// the stock totals of its articles, the loyalty gifts taken and the gift card movement. Any failure
 // rolls everything back, shows the connection message and leaves the sale as it was, so
 // that saving again works. After the commit: the copy of the card movement to the central
 // database, the pre-invoice closed, the receipt, the SMS hand-off.
@@ -43,8 +43,10 @@ public:
     // The companion program for the SMS hand-off; null: no SMS.
     void setCompanion(CompanionHandOff* companion);
 
-    // Checks and saves. The settlement's docNo is filled when empty and refreshed when the
-    // number was taken meanwhile (not a typed one: a typed number that clashes refuses).
+    // Checks and saves. The settlement's docNo on entry is the screen's proposal (filled
+    // when empty); the number written is taken under the desks' lock, returned in the
+    // result and left in the settlement. A typed number (docNoTyped) is written as typed,
+    // or refused with its message when the sale's date already has it.
     SaleSaveResult save(SaleSession& sale, SaleSettlement& settlement);
 
     // The invoice number of the next sale of the session's kind and date (daily numbering
@@ -54,6 +56,7 @@ public:
     PreviousInvoice previousInvoice(int stationId);
 
 private:
+    struct Prepared;
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -2,39 +2,20 @@
 
 #include <QMap>
 
-#include "data/Dialect.h"
-#include "data/Session.h"
-#include "data/SqlQuery.h"
+#include "data/repositories/SaleDocumentRepository.h"
 #include "sales/SaleSaveTexts.h"
 #include "sales/SaleSettlement.h"
 
 namespace sandogh {
 
-namespace {
-
-int accountByName(Session& session, const QString& name) {
-    const Dialect& dialect = session.dialect();
-    SqlQuery q(session, QStringLiteral("SELECT ") + dialect.top(1) +
-                            QStringLiteral("ID FROM tblAccountingGroup WHERE Name = :name "
-                                           "ORDER BY ID") +
-                            dialect.limit(1));
-    q.bind(QStringLiteral(":name"), name);
-    return q.exec() && q.next() ? q.integer(0) : 0;
-}
-
-}  // namespace
-
 SaleVoucher::Accounts SaleVoucher::accounts(Session& session, int customerCounter) {
+    using Repository = SaleDocumentRepository;
     Accounts a;
-    a.cashBox = accountByName(session, SaleSaveTexts::cashBoxAccount());
-    a.salesIncome = accountByName(session, SaleSaveTexts::salesIncomeAccount());
-    a.salesReturn = accountByName(session, SaleSaveTexts::salesReturnAccount());
+    a.cashBox = Repository::accountByName(session, SaleSaveTexts::cashBoxAccount());
+    a.salesIncome = Repository::accountByName(session, SaleSaveTexts::salesIncomeAccount());
+    a.salesReturn = Repository::accountByName(session, SaleSaveTexts::salesReturnAccount());
     if (customerCounter != 0) {
-        SqlQuery q(session,
-                   QStringLiteral("SELECT Ac.ID FROM tblAccountingGroup Ac INNER JOIN Types T "
-                                  "ON Ac.ID = T.AccountingGroupID WHERE T.Counter = :customer"));
-        q.bind(QStringLiteral(":customer"), customerCounter);
-        a.customer = q.exec() && q.next() ? q.integer(0) : 0;
+        a.customer = Repository::customerAccount(session, customerCounter);
     }
     return a;
 }

@@ -1,7 +1,13 @@
 #include "data/procedures/StockDocumentWriter.h"
 
+#include <algorithm>
+#include <functional>
+
+#include "data/Dialect.h"
+#include "data/SqlQuery.h"
 #include "data/procedures/KeyConflictRetry.h"
 #include "data/procedures/ReturningInsert.h"
+#include "data/procedures/StockProcedures.h"
 
 namespace sandogh::procedures {
 
@@ -83,13 +89,71 @@ ColumnValues lineValues(qint64 code, const StockDocumentLine& line) {
     };
 }
 
-bool deleteByCode(Session& session, const QString& lines, const QString& headers, qint64 code) {
+// Rows per multi-row insert: 9 values each stays far below every backend's limit of bound
+// values (SQL Server's 2,100 is the lowest).
+constexpr qsizetype kLinesPerStatement = 200;
+
+const QString kLineColumns =
+    QStringLiteral("Code, EAN_Code, Qty, MFee, Discount, Fee, Price, TaxValue, UserID");
+
+QStringList barcodesOf(Session& session, const QString& lines, qint64 code) {
+    QStringList barcodes;
+    SqlQuery q(session,
+               QStringLiteral("SELECT DISTINCT EAN_Code FROM %1 WHERE Code = :code").arg(lines));
+    q.bind(QStringLiteral(":code"), code);
+    if (q.exec()) {
+        while (q.next()) {
+            barcodes << q.text(0);
+        }
+    }
+    return barcodes;
+}
+
+// Stock follows a change of document `code`'s lines: the old lines taken out before it
+// (takeOut), the new ones added after (putIn); articles that had no Stock row are
+// recomputed whole last.
+bool changeWithStock(Session& session, const QString& lines, qint64 code, bool internal,
+                     bool takeOut, const std::function<bool()>& change, bool putIn) {
+    const auto apply = [&](int sign) {
+        return internal ? stockApplyInternalDocument(session, code, sign)
+                        : stockApplyDocument(session, code, sign);
+    };
+    QStringList missing;
+    const auto collect = [&] {
+        const std::optional<QStringList> found =
+            stockRowsMissing(session, barcodesOf(session, lines, code));
+        if (found) {
+            missing << *found;
+        }
+        return found.has_value();
+    };
+    if (takeOut && !(collect() && apply(-1))) {
+        return false;
+    }
+    if (!change() || (putIn && !(collect() && apply(+1)))) {
+        return false;
+    }
+    return missing.isEmpty() || sp_StockRepair(session, missing);
+}
+
+bool deleteByCode(Session& session, const QString& lines, const QString& headers, qint64 code,
+                  bool internal) {
     const SqlBinds binds{{QStringLiteral(":code"), code}};
-    return session.exec(QStringLiteral("DELETE FROM %1 WHERE Code = :code").arg(lines), binds) &&
-           session.exec(QStringLiteral("DELETE FROM %1 WHERE Code = :code").arg(headers), binds);
+    const auto remove = [&] {
+        return session.exec(QStringLiteral("DELETE FROM %1 WHERE Code = :code").arg(lines),
+                            binds) &&
+               session.exec(QStringLiteral("DELETE FROM %1 WHERE Code = :code").arg(headers),
+                            binds);
+    };
+    return changeWithStock(session, lines, code, internal, true, remove, false);
 }
 
 }  // namespace
+
+bool StockDocumentWriter::lockWriters(Session& session) {
+    const QString lock = session.dialect().writersLockSql();
+    return lock.isEmpty() || session.exec(lock, {{QStringLiteral(":name"), kHeaders}});
+}
 
 qint64 StockDocumentWriter::insertHeaderOnce(Session& session, const StockDocumentHeader& header,
                                              DbError& error) {
@@ -124,12 +188,74 @@ qint64 StockDocumentWriter::insertInternalLine(Session& session, qint64 code,
     return ReturningInsert::insert(session, kInternalLines, values, QStringLiteral("ID"));
 }
 
+bool StockDocumentWriter::insertLines(Session& session, qint64 code,
+                                      const QList<StockDocumentLine>& lines) {
+    for (qsizetype from = 0; from < lines.size(); from += kLinesPerStatement) {
+        const qsizetype rows = std::min(kLinesPerStatement, lines.size() - from);
+        QStringList tuples;
+        for (qsizetype i = 0; i < rows; ++i) {
+            tuples
+                << QStringLiteral("(:code, :e%1, :q%1, :m%1, :d%1, :f%1, :p%1, :t%1, :u%1)").arg(i);
+        }
+        SqlQuery q(session, QStringLiteral("INSERT INTO %1 (%2) VALUES %3")
+                                .arg(kLines, kLineColumns, tuples.join(QStringLiteral(", "))));
+        q.bind(QStringLiteral(":code"), code);
+        for (qsizetype i = 0; i < rows; ++i) {
+            const StockDocumentLine& l = lines.at(from + i);
+            const QString n = QString::number(i);
+            q.bindValue(QStringLiteral(":e") + n, l.eanCode);
+            q.bindValue(QStringLiteral(":q") + n, l.qty);
+            q.bindValue(QStringLiteral(":m") + n, l.mFee);
+            q.bindValue(QStringLiteral(":d") + n, l.discount);
+            q.bindValue(QStringLiteral(":f") + n, l.fee);
+            q.bindValue(QStringLiteral(":p") + n, l.price);
+            q.bindValue(QStringLiteral(":t") + n, l.taxValue);
+            q.bindValue(QStringLiteral(":u") + n, orNull(l.userId));
+        }
+        if (!q.exec()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool StockDocumentWriter::bindPendingSerials(Session& session, qint64 code) {
+    return session.exec(
+        QStringLiteral("UPDATE Serial SET Code = :code WHERE Code = :pending"),
+        {{QStringLiteral(":code"), code}, {QStringLiteral(":pending"), kPendingSerialCode}});
+}
+
+bool StockDocumentWriter::addToStock(Session& session, qint64 code) {
+    return changeWithStock(
+        session, kLines, code, false, false, [] { return true; }, true);
+}
+
+bool StockDocumentWriter::addToStock(Session& session, qint64 code, const QStringList& missing) {
+    return stockApplyDocument(session, code, +1) &&
+           (missing.isEmpty() || sp_StockRepair(session, missing));
+}
+
+bool StockDocumentWriter::addInternalToStock(Session& session, qint64 code) {
+    return changeWithStock(
+        session, kInternalLines, code, true, false, [] { return true; }, true);
+}
+
+bool StockDocumentWriter::replaceLines(Session& session, qint64 code,
+                                       const QList<StockDocumentLine>& lines) {
+    const auto replace = [&] {
+        return session.exec(QStringLiteral("DELETE FROM %1 WHERE Code = :code").arg(kLines),
+                            {{QStringLiteral(":code"), code}}) &&
+               insertLines(session, code, lines);
+    };
+    return changeWithStock(session, kLines, code, false, true, replace, true);
+}
+
 bool StockDocumentWriter::deleteDocument(Session& session, qint64 code) {
-    return deleteByCode(session, kLines, kHeaders, code);
+    return deleteByCode(session, kLines, kHeaders, code, false);
 }
 
 bool StockDocumentWriter::deleteInternalDocument(Session& session, qint64 code) {
-    return deleteByCode(session, kInternalLines, kInternalHeaders, code);
+    return deleteByCode(session, kInternalLines, kInternalHeaders, code, true);
 }
 
 }  // namespace sandogh::procedures

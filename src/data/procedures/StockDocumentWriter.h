@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QList>
+#include <QStringList>
+
 #include "data/DbError.h"
 #include "data/Session.h"
 #include "data/procedures/StockDocumentHeader.h"
@@ -11,16 +14,22 @@ namespace sandogh::procedures {
 // by its own insert as the table's largest plus one, so two seats saving at once collide
 // on the key rather than sharing it; the slower one takes the next key (KeyConflictRetry).
 // Lines are then written under the key the header was given, never under a Code read
-// again. After the lines the caller runs sp_StockRepair for their barcodes.
+// again. After the lines the caller adds the document to Stock (addToStock), which reads
+// only this document's lines; deleting and replacing lines take them back out first.
 //
 //   Transaction tx(session);
 //   const qint64 code = StockDocumentWriter::insertHeader(session, header);
-//   for (const StockDocumentLine& line : lines)
-//       ok = ok && StockDocumentWriter::insertLine(session, code, line);
-//   ok = ok && sp_StockRepair(session, barcodesOf(lines));
+//   ok = code > 0 && StockDocumentWriter::insertLines(session, code, lines) &&
+//        StockDocumentWriter::addToStock(session, code);
 //   ok && tx.commit();
 class StockDocumentWriter {
 public:
+    // The desks' lock: makes the writers of stock documents wait for each other until
+    // their transactions end, so that the numbers they take as the largest plus one (key,
+    // DocNo, voucher code) are read after the previous writer's commit. Taken first in the
+    // transaction; a no-op on SQLite, where BEGIN IMMEDIATE already excludes other writers.
+    static bool lockWriters(Session& session);
+
     // Whs_QTYDocH: the new Code, or 0 when the insert failed (reported).
     static qint64 insertHeader(Session& session, const StockDocumentHeader& header);
     // One attempt without retry: 0 with the failure in error, a key conflict unreported.
@@ -28,12 +37,29 @@ public:
                                    DbError& error);
     // Whs_QTYDocD: the line's ID, or 0.
     static qint64 insertLine(Session& session, qint64 code, const StockDocumentLine& line);
+    // All lines of a document in as few statements as the backend's limit of bound values
+    // allows (one for any sale); false when one failed (reported).
+    static bool insertLines(Session& session, qint64 code, const QList<StockDocumentLine>& lines);
+    // Serial numbers typed during a sale wait under the placeholder key 1 (pendingSerialCode)
+    // until the sale is saved; they then belong to document `code`.
+    static constexpr qint64 kPendingSerialCode = 1;
+    static bool bindPendingSerials(Session& session, qint64 code);
+
+    // Stock follows the document's lines (sp_StockRepair's meaning, see stockApplyDocument):
+    // their quantities added, articles without a Stock row made and recomputed whole.
+    static bool addToStock(Session& session, qint64 code);
+    // The same when the caller has looked up the articles without a Stock row already
+    // (stockRowsMissing on the lines' barcodes, before the desks' lock).
+    static bool addToStock(Session& session, qint64 code, const QStringList& missing);
+    static bool addInternalToStock(Session& session, qint64 code);
+    // An edit: the lines of a document replaced by others, Stock following both.
+    static bool replaceLines(Session& session, qint64 code, const QList<StockDocumentLine>& lines);
 
     // The same for Whs_QTYDocHInternal / Whs_QTYDocDInternal.
     static qint64 insertInternalHeader(Session& session, const StockDocumentHeader& header);
     static qint64 insertInternalLine(Session& session, qint64 code, const StockDocumentLine& line);
 
-    // Lines, then the header, of one document.
+    // Lines, then the header, of one document, their quantities taken out of Stock.
     static bool deleteDocument(Session& session, qint64 code);
     static bool deleteInternalDocument(Session& session, qint64 code);
 };

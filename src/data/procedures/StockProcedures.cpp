@@ -36,6 +36,27 @@ const QString kRecomputeMovements = QStringLiteral(
 // Import and Export are final by now (SQL reads the old row on the right of SET).
 const QString kRecomputeStock = QStringLiteral("UPDATE Stock SET Stock = Import - Export");
 
+// Quantities of one document's lines per article, into the article's Stock row. SET reads
+// the row as it was on every right-hand side, so Stock moves by in - out.
+const QString kApplyDocument = QStringLiteral(
+    "UPDATE Stock SET "
+    "Import = Import + :sign * COALESCE((SELECT SUM(D.Qty) FROM %1 D INNER JOIN %2 H "
+    "ON H.Code = D.Code WHERE D.Code = :code AND D.EAN_Code = Stock.Barcode%3 "
+    "AND (H.TransType = 1 OR H.TransType = 3)), 0), "
+    "Export = Export + :sign * COALESCE((SELECT SUM(D.Qty) FROM %1 D INNER JOIN %2 H "
+    "ON H.Code = D.Code WHERE D.Code = :code AND D.EAN_Code = Stock.Barcode%3 "
+    "AND (H.TransType = 2 OR H.TransType = 4)), 0), "
+    "Stock = Stock + :sign * COALESCE((SELECT SUM(CASE WHEN H.TransType = 1 OR H.TransType = 3 "
+    "THEN D.Qty WHEN H.TransType = 2 OR H.TransType = 4 THEN -D.Qty ELSE 0 END) FROM %1 D "
+    "INNER JOIN %2 H ON H.Code = D.Code WHERE D.Code = :code AND D.EAN_Code = Stock.Barcode%3), "
+    "0) "
+    "WHERE Barcode IN (SELECT D.EAN_Code FROM %1 D WHERE D.Code = :code)");
+const QString kOrdinaryOnly = QStringLiteral(" AND H.DocType IS NULL");
+
+const QString kMissingRows = QStringLiteral(
+    "SELECT G.EAN_Code FROM Goods G WHERE NOT EXISTS "
+    "(SELECT 1 FROM Stock S WHERE S.Barcode = G.EAN_Code)");
+
 // The signed quantity of an article's lines: in for 1 and 3, out for 2 and 4.
 const QString kOrdinaryBalance = QStringLiteral(
     "SELECT COALESCE(SUM(CASE WHEN H.TransType = 1 OR H.TransType = 3 THEN D.Qty "
@@ -111,6 +132,48 @@ bool sp_StockRepair(Session& session, const QStringList& barcodes) {
         }
     }
     return !own || own->commit();
+}
+
+bool stockApplyDocument(Session& session, qint64 code, int sign) {
+    return session.exec(kApplyDocument.arg(QStringLiteral("Whs_QTYDocD"),
+                                           QStringLiteral("Whs_QTYDocH"), kOrdinaryOnly),
+                        {{QStringLiteral(":sign"), sign}, {QStringLiteral(":code"), code}});
+}
+
+bool stockApplyInternalDocument(Session& session, qint64 code, int sign) {
+    return session.exec(kApplyDocument.arg(QStringLiteral("Whs_QTYDocDInternal"),
+                                           QStringLiteral("Whs_QTYDocHInternal"), QString()),
+                        {{QStringLiteral(":sign"), sign}, {QStringLiteral(":code"), code}});
+}
+
+qint64 stockRowCount(Session& session, const QString& barcode) {
+    if (barcode.isEmpty()) {
+        return session.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Stock"), {}, -1);
+    }
+    return session.scalarInt64(
+        QStringLiteral("SELECT COUNT(*) FROM Stock WHERE Barcode = :barcode"),
+        {{QStringLiteral(":barcode"), barcode}}, -1);
+}
+
+std::optional<QStringList> stockRowsMissing(Session& session, const QStringList& barcodes) {
+    QStringList missing;
+    for (qsizetype from = 0; from < barcodes.size(); from += kBarcodesPerStatement) {
+        const Scope scope = scopeOf(QStringLiteral("AND"), QStringLiteral("G.EAN_Code"),
+                                    barcodes.mid(from, kBarcodesPerStatement));
+        SqlQuery q(session, kMissingRows + scope.condition);
+        for (const auto& [name, value] : scope.binds) {
+            q.bindValue(name, value);
+        }
+        if (!q.exec()) {
+            return std::nullopt;
+        }
+        while (q.next()) {
+            if (!missing.contains(q.text(0))) {
+                missing << q.text(0);
+            }
+        }
+    }
+    return missing;
 }
 
 double SP_ComputeWarehouseQtyByEanCode(Session& session, const QString& barcode,

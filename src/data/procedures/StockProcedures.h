@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 #include "data/Session.h"
 
@@ -21,6 +22,24 @@ namespace sandogh::procedures {
 // (Branch 1) first. Runs in the caller's transaction, or in one of its own. False when a
 // statement failed (it has been reported).
 bool sp_StockRepair(Session& session, const QStringList& barcodes = {});
+
+// Stock following one document instead of its whole history: the quantities of the lines
+// of document `code` are added to Import, Export and Stock of their articles (sign +1,
+// once the lines are written) or taken back (sign -1, before they are deleted), with the
+// meaning of the four types and DocType of sp_StockRepair. The statement reads only the
+// lines of that document, so its cost does not grow with the articles' history, and the
+// result is what sp_StockRepair gives as long as Stock agreed with it before. Articles
+// without a Stock row are left to the caller (stockRowsMissing, then a scoped repair
+// after the change). Runs in the caller's transaction; false when it failed (reported).
+bool stockApplyDocument(Session& session, qint64 code, int sign);
+bool stockApplyInternalDocument(Session& session, qint64 code, int sign);
+
+// Stock rows: all of them, or whether the barcode has one; -1 when the look-up failed.
+qint64 stockRowCount(Session& session, const QString& barcode = {});
+
+// Articles of Goods among barcodes that have no Stock row yet (sp_StockRepair makes it).
+// Nothing when the look-up failed.
+std::optional<QStringList> stockRowsMissing(Session& session, const QStringList& barcodes);
 
 // SP_ComputeWarehouseQtyByEanCode: the quantity of an article on hand in one warehouse,
 // by the formula of sp_StockRepair over the ordinary documents whose WarehouseCode is that

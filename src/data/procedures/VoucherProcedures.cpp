@@ -66,6 +66,29 @@ qint64 sp_tblDocumentD_Insert(Session& session, const VoucherLine& line) {
         QStringLiteral("ID"));
 }
 
+bool sp_tblDocumentD_InsertRows(Session& session, qint64 documentHId,
+                                const QList<VoucherLine>& lines) {
+    if (lines.isEmpty()) {
+        return true;
+    }
+    QStringList tuples;
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        tuples << QStringLiteral("(:hid, :a%1, :d%1, :c%1, :t%1)").arg(i);
+    }
+    SqlQuery q(session, QStringLiteral("INSERT INTO tblDocumentD (DocumentHID, AccountingGroupID, "
+                                       "Debt, Credit, Comment) VALUES ") +
+                            tuples.join(QStringLiteral(", ")));
+    q.bind(QStringLiteral(":hid"), documentHId);
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QString n = QString::number(i);
+        q.bind(QStringLiteral(":a") + n, lines.at(i).accountingGroupId);
+        q.bind(QStringLiteral(":d") + n, lines.at(i).debt);
+        q.bind(QStringLiteral(":c") + n, lines.at(i).credit);
+        q.bind(QStringLiteral(":t") + n, lines.at(i).comment);
+    }
+    return q.exec();
+}
+
 std::optional<VoucherHeader> sp_tblDocumentH_SelectRow(Session& session, qint64 id) {
     SqlQuery q(session, QStringLiteral("SELECT ID, Code, Date, Time, UserID, Transfer, Permanent, "
                                        "Serial, Note FROM tblDocumentH WHERE ID = :id"));

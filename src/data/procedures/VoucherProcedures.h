@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <optional>
 
 #include "data/Session.h"
@@ -23,6 +24,9 @@ qint64 sp_tblDocumentH_Insert(Session& session, VoucherHeader& header);
 // sp_tblDocumentD_Insert (@DocumentHID, @AccountingGroupID, @Debt, @Credit, @Comment):
 // one posting; its ID, or 0 on failure.
 qint64 sp_tblDocumentD_Insert(Session& session, const VoucherLine& line);
+// The rows of one voucher (their DocumentHID) in one statement; false when it failed.
+bool sp_tblDocumentD_InsertRows(Session& session, qint64 documentHId,
+                                const QList<VoucherLine>& lines);
 
 // sp_tblDocumentH_SelectRow (@ID): the voucher header, or nothing.
 std::optional<VoucherHeader> sp_tblDocumentH_SelectRow(Session& session, qint64 id);

@@ -50,6 +50,39 @@ DocumentNumbering::Statements DocumentNumbering::statements() {
     return {kLastDocNo, kLastDocNoOfDate, kLastInternalDocNo, kLastReceiptDocNo};
 }
 
+std::optional<DocumentNumbering::SaleNumbers> DocumentNumbering::saleNumbers(
+    Session& session, int transType, const QString& date, bool daily, const QString& typedDocNo) {
+    const bool typed = !typedDocNo.isEmpty();
+    const QString kind =
+        QStringLiteral("FROM Whs_QTYDocH WHERE TransType = :transType AND DocType IS NULL");
+    QString docNo = QStringLiteral("0");
+    QString taken = QStringLiteral("0");
+    SqlBinds binds{{QStringLiteral(":transType"), transType}};
+    if (typed) {
+        taken = QStringLiteral("(SELECT COUNT(Code) ") + kind +
+                QStringLiteral(" AND DocNo = :docNo AND DocDate = :docDate)");
+        binds << qMakePair(QStringLiteral(":docNo"), QVariant(typedDocNo))
+              << qMakePair(QStringLiteral(":docDate"), QVariant(date));
+    } else {
+        docNo = QStringLiteral("COALESCE((SELECT MAX(CAST(DocNo AS BIGINT)) ") + kind +
+                (daily ? QStringLiteral(" AND DocDate = :docDate), 0) + 1")
+                       : QStringLiteral("), 0) + 1"));
+        if (daily) {
+            binds << qMakePair(QStringLiteral(":docDate"), QVariant(date));
+        }
+    }
+    SqlQuery q(session, QStringLiteral("SELECT ") + docNo + QStringLiteral(", ") + taken +
+                            QStringLiteral(", COALESCE((SELECT MAX(Code) FROM tblDocumentH), 0) "
+                                           "+ 1"));
+    for (const auto& [name, value] : binds) {
+        q.bindValue(name, value);
+    }
+    if (!q.exec() || !q.next()) {
+        return std::nullopt;
+    }
+    return SaleNumbers{q.int64(0), q.int64(1) > 0, q.int64(2)};
+}
+
 qint64 DocumentNumbering::nextCode(Session& session) {
     return plusOne(session, QStringLiteral("SELECT COALESCE(MAX(Code), 0) FROM Whs_QTYDocH"));
 }

@@ -53,6 +53,19 @@ public:
     };
     static Statements statements();
 
+    // The numbers a sale takes as it is written, read in one statement on the caller's
+    // session after the desks' lock: its invoice number (the next one of the kind, per
+    // date with daily numbering) or, for a typed number, whether that number is taken on
+    // the date; and the next voucher code (tblDocumentH.Code). Nothing on failure.
+    struct SaleNumbers {
+        qint64 docNo = 0;  // 0 for a typed number
+        bool typedTaken = false;
+        qint64 voucherCode = 0;
+    };
+    static std::optional<SaleNumbers> saleNumbers(Session& session, int transType,
+                                                  const QString& date, bool daily,
+                                                  const QString& typedDocNo = {});
+
     // The same on a session of the caller, for use inside its transaction.
     static qint64 nextCode(Session& session);
     static qint64 nextInternalCode(Session& session);

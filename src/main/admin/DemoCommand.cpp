@@ -6,6 +6,7 @@
 #include "app/DemoShop.h"
 #include "app/ShopDatabaseSetup.h"
 #include "data/Database.h"
+#include "data/DatabaseStatistics.h"
 #include "data/ErrorLog.h"
 #include "data/JalaliDay.h"
 #include "settings/Clock.h"
@@ -67,6 +68,9 @@ int runDemo(AdminCall& call) {
     const DemoShop::Report report = DemoShop(*setup.database).seed();
     if (!report.ok) {
         call.err << "sandogh-admin demo: nothing was added: " << report.error << '\n';
+        return ExitFailed;
+    }
+    if (report.totalAdded() > 0 && !DatabaseStatistics::refresh(*setup.database)) {
         return ExitFailed;
     }
     if (report.totalAdded() == 0) {

@@ -8,6 +8,7 @@
 #include "data/ConnectionSettings.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
+#include "data/DatabaseStatistics.h"
 #include "data/ErrorLog.h"
 #include "data/JalaliDay.h"
 #include "data/schema/Migrator.h"
@@ -93,6 +94,9 @@ int runInitDb(AdminCall& call) {
     const Migrator::Result result = Migrator(database).apply(shopMigrations());
     if (!result.ok) {
         call.err << "sandogh-admin init-db: " << result.message << '\n';
+        return ExitFailed;
+    }
+    if (!DatabaseStatistics::refresh(database)) {
         return ExitFailed;
     }
     call.out << "schema version " << result.versionBefore << " -> " << result.versionAfter

@@ -14,9 +14,6 @@ const char* const kUsage =
     "article without barcodes, and prints how many articles were recomputed. Barcodes that\n"
     "are no article are named on the error stream.\n";
 
-const QString kStockRows = QStringLiteral("SELECT COUNT(*) FROM Stock");
-const QString kStockRowOf = QStringLiteral("SELECT COUNT(*) FROM Stock WHERE Barcode = :barcode");
-
 int usage(AdminCall& call, const QString& problem) {
     call.err << "sandogh-admin stock-repair: " << problem << '\n' << kUsage;
     return ExitUsage;
@@ -52,10 +49,10 @@ int runStockRepair(AdminCall& call) {
     }
     qint64 repaired = 0;
     if (barcodes.isEmpty()) {
-        repaired = session.scalarInt64(kStockRows);
+        repaired = procedures::stockRowCount(session);
     } else {
         for (const QString& barcode : barcodes) {
-            if (session.scalarInt64(kStockRowOf, {{QStringLiteral(":barcode"), barcode}}) > 0) {
+            if (procedures::stockRowCount(session, barcode) > 0) {
                 ++repaired;
             } else {
                 call.err << "sandogh-admin stock-repair: no article \"" << barcode << "\"\n";

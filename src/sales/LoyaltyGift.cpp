@@ -5,6 +5,7 @@
 #include "data/Database.h"
 #include "data/MessageService.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/DiscountTypes.h"
 #include "sales/SettlementTexts.h"
 #include "settings/MachineSettings.h"
 
@@ -61,9 +62,7 @@ double LoyaltyGift::purchases(int customer) {
 
 bool LoyaltyGift::countsAsGift(int discountTypeId) {
     Session session = m_database.session(kModule, kRoutine);
-    return session.scalarInt64(
-               QStringLiteral("SELECT COALESCE(IsImpactGift,0) FROM DiscountType WHERE Id = :id"),
-               {{QStringLiteral(":id"), discountTypeId}}) > 0;
+    return DiscountTypes::countsAsGift(session, discountTypeId).value_or(false);
 }
 
 int LoyaltyGift::giftCount(double purchases, double buyFactor, double taken) {

@@ -139,6 +139,12 @@ TEST_P(LoyaltyGiftTest, GiftsTakenAreReadOnlyForActiveParties) {
     EXPECT_FALSE(g.taken(kCustomer + 3).found);
     EXPECT_TRUE(g.countsAsGift(kGiftKind));
     EXPECT_FALSE(g.countsAsGift(kPlainKind));
+    // NULL counts as 1; a kind that does not exist counts as none.
+    exec(QStringLiteral("INSERT INTO DiscountType (Id, Name) VALUES (:unset, :name)"),
+         {{QStringLiteral(":unset"), kGiftKind + 10},
+          {QStringLiteral(":name"), QStringLiteral("unset")}});
+    EXPECT_TRUE(g.countsAsGift(kGiftKind + 10));
+    EXPECT_FALSE(g.countsAsGift(kGiftKind + 11));
 }
 
 TEST(LoyaltyGiftCount, WholeGiftsOnly) {

@@ -3,6 +3,7 @@
 #include "app/DemoGoods.h"
 #include "app/DemoParties.h"
 #include "app/DemoSeeder.h"
+#include "data/repositories/GoodsSearchQuery.h"
 
 namespace sandogh {
 
@@ -48,6 +49,7 @@ void seedGoods(DemoSeeder& seeder, const QList<qint64>& units) {
                           {{QStringLiteral("EAN_Code"), a.barcode},
                            {QStringLiteral("Spec_Code"), a.specCode},
                            {QStringLiteral("Name"), a.name},
+                           {QStringLiteral("NameKey"), GoodsSearchQuery::searchKey(a.name)},
                            {QStringLiteral("C_In_Paket"), 1},
                            {QStringLiteral("G_Min"), 0},
                            {QStringLiteral("G_Max"), 0},

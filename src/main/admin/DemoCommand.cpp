@@ -11,6 +11,7 @@
 #include "data/MessageService.h"
 #include "settings/MachineSettings.h"
 #include "settings/QSettingsStore.h"
+#include "settings/SettingKeys.h"
 
 namespace sandogh {
 
@@ -82,6 +83,13 @@ int runDemo(AdminCall& call) {
     if (!report.ok) {
         call.err << "sandogh-admin demo: nothing was added: " << report.error << '\n';
         return ExitFailed;
+    }
+    // The demo shop keeps its amounts in rials: its receipts end the amount in words so,
+    // unless this desk has chosen already.
+    const QString rialSection = QString::fromLatin1(settingkeys::FishIsRial.section);
+    const QString rialKey = QString::fromLatin1(settingkeys::FishIsRial.key);
+    if (store.read(rialSection, rialKey).trimmed().isEmpty()) {
+        store.write(rialSection, rialKey, QStringLiteral("1"));
     }
     if (report.totalAdded() == 0) {
         call.out << "the demo shop is complete; nothing to add\n";

@@ -30,11 +30,11 @@
 #include <thread>
 #include <vector>
 
-#include "data/Clock.h"
+#include "settings/Clock.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
 #include "data/DatabaseStatistics.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "data/RoundTrips.h"
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"

@@ -3,6 +3,7 @@
 #include "app/DemoGoods.h"
 #include "app/DemoParties.h"
 #include "data/DemoSeeder.h"
+#include "data/repositories/GoodsSearchQuery.h"
 #include "data/repositories/TypesRepository.h"
 
 namespace sandogh {
@@ -49,6 +50,7 @@ void seedGoods(DemoSeeder& seeder, const QList<qint64>& units) {
                           {{QStringLiteral("EAN_Code"), a.barcode},
                            {QStringLiteral("Spec_Code"), a.specCode},
                            {QStringLiteral("Name"), a.name},
+                           {QStringLiteral("NameKey"), GoodsSearchQuery::searchKey(a.name)},
                            {QStringLiteral("C_In_Paket"), 1},
                            {QStringLiteral("G_Min"), 0},
                            {QStringLiteral("G_Max"), 0},

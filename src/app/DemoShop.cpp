@@ -91,11 +91,15 @@ void seedShop(DemoSeeder& seeder) {
                   {3, QStringLiteral("نسیه")},
                   {4, QStringLiteral("کارت هدیه")},
                   {5, QStringLiteral("چک")}});
-    // Id 1 is the reason every sale without one is given; it counts towards gifts.
+    // Id 1 is the reason every sale without one is given; it counts towards gifts and is
+    // typed by hand. The fifth kind is the loyalty gift, given only by the gift button.
     seedNumbered(seeder, QStringLiteral("DiscountType"), QStringLiteral("Id"),
-                 {{1, QStringLiteral("تخفیف عادی")}}, {{QStringLiteral("IsImpactGift"), 1}});
+                 {{1, QStringLiteral("تخفیف عادی")}, {5, QStringLiteral("هدیه خرید")}},
+                 {{QStringLiteral("IsImpactGift"), 1}});
     seedNumbered(seeder, QStringLiteral("DiscountType"), QStringLiteral("Id"),
-                 {{2, QStringLiteral("تخفیف مشتری ویژه")}, {3, QStringLiteral("تخفیف مدیریتی")}},
+                 {{2, QStringLiteral("تخفیف مشتری ویژه")},
+                  {3, QStringLiteral("تخفیف مدیریتی")},
+                  {4, QStringLiteral("تخفیف مناسبتی")}},
                  {{QStringLiteral("IsImpactGift"), 0}});
     seedNumbered(seeder, QStringLiteral("Overhead"), QStringLiteral("Id"),
                  {{1, QStringLiteral("کرایه حمل")},

@@ -1,5 +1,7 @@
 #include "data/Dialect.h"
 
+#include <utility>
+
 #include "data/PostgresDialect.h"
 #include "data/SqlServerDialect.h"
 #include "data/SqliteDialect.h"
@@ -36,6 +38,40 @@ QString Dialect::castBigInt(const QString& expression) const {
 
 QString Dialect::isNull(const QString& expression, const QString& fallback) const {
     return QStringLiteral("COALESCE(%1, %2)").arg(expression, fallback);
+}
+
+QString Dialect::textLiteral(const QString& text) const {
+    QString escaped = text;
+    escaped.replace(QLatin1Char('\''), QStringLiteral("''"));
+    return QLatin1Char('\'') + escaped + QLatin1Char('\'');
+}
+
+QString Dialect::searchKeyExpression(const QString& expression) const {
+    // The pairs of TextHelpers::searchKey: Arabic yeh, alef maksura and kaf to the Persian
+    // letters, Persian and Arabic-Indic digits to ASCII, the zero-width non-joiner away.
+    QList<std::pair<QString, QString>> pairs{
+        {QString(QChar(0x064A)), QString(QChar(0x06CC))},
+        {QString(QChar(0x0649)), QString(QChar(0x06CC))},
+        {QString(QChar(0x0643)), QString(QChar(0x06A9))},
+        {QString(QChar(0x200C)), QString()},
+    };
+    for (char16_t digit = 0; digit < 10; ++digit) {
+        const QString ascii(QChar(char16_t(u'0' + digit)));
+        pairs.append({QString(QChar(char16_t(0x06F0 + digit))), ascii});
+        pairs.append({QString(QChar(char16_t(0x0660 + digit))), ascii});
+    }
+    QString folded = expression;
+    for (const auto& [from, to] : pairs) {
+        folded =
+            QStringLiteral("REPLACE(%1, %2, %3)").arg(folded, textLiteral(from), textLiteral(to));
+    }
+    return QStringLiteral("LOWER(%1)").arg(folded);
+}
+
+QStringList Dialect::createTextSearch(const TextSearchDef& search) const {
+    return {QStringLiteral("UPDATE %1 SET %2 = %3")
+                .arg(table(search.table), quote(search.keyColumn),
+                     searchKeyExpression(quote(search.sourceColumn)))};
 }
 
 int Dialect::textLength(const ColumnDef& column) {

@@ -69,7 +69,17 @@ public:
     virtual QString otherDatabaseName(const QString& database) const { return database; }
     virtual QString createOtherDatabase(const QString& database) const;
 
+    // A word search (TextSearchDef): the statements that fill its key column from the
+    // source column and build its index. Without an index of the backend's own (SQL Server
+    // here) only the column is filled, and a search reads the table.
+    virtual QStringList createTextSearch(const TextSearchDef& search) const;
+    // The search form of a text expression, as TextHelpers::searchKey folds it, in lower case.
+    QString searchKeyExpression(const QString& expression) const;
+
 protected:
+    // A fixed text of the program (never a value) as an SQL literal that keeps every
+    // character: N'...' on SQL Server.
+    virtual QString textLiteral(const QString& text) const;
     QString quotedList(const QStringList& identifiers) const;
     // "name TYPE [NOT NULL] [DEFAULT x]", identity included.
     virtual QString columnDefinition(const ColumnDef& column) const;

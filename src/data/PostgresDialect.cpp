@@ -54,4 +54,19 @@ QString PostgresDialect::createOtherDatabase(const QString& database) const {
     return QStringLiteral("CREATE SCHEMA IF NOT EXISTS ") + quote(database);
 }
 
+QStringList PostgresDialect::createTextSearch(const TextSearchDef& search) const {
+    // CREATE EXTENSION needs a superuser (or a trusted extension): where it cannot be made
+    // the search stays without its index and reads the table, and the step still applies.
+    QStringList statements = Dialect::createTextSearch(search);
+    statements << QStringLiteral(
+                      "DO $$ BEGIN "
+                      "BEGIN CREATE EXTENSION IF NOT EXISTS pg_trgm; "
+                      "EXCEPTION WHEN OTHERS THEN RAISE NOTICE 'pg_trgm is not available'; END; "
+                      "IF EXISTS (SELECT 1 FROM pg_extension WHERE extname = 'pg_trgm') THEN "
+                      "EXECUTE 'CREATE INDEX %1 ON %2 USING gin (%3 gin_trgm_ops)'; "
+                      "END IF; END $$")
+                      .arg(quote(search.name), table(search.table), quote(search.keyColumn));
+    return statements;
+}
+
 }  // namespace sandogh

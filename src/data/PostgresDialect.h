@@ -19,6 +19,7 @@ public:
     QString otherDatabaseExistsSql() const override;
     QString otherDatabaseName(const QString& database) const override;
     QString createOtherDatabase(const QString& database) const override;
+    QStringList createTextSearch(const TextSearchDef& search) const override;
 
 protected:
     QString identityDefinition(const ColumnDef& column) const override;

@@ -94,4 +94,8 @@ QString SqlServerDialect::createOtherDatabase(const QString& database) const {
     return QStringLiteral("CREATE DATABASE ") + quote(database);
 }
 
+QString SqlServerDialect::textLiteral(const QString& text) const {
+    return QLatin1Char('N') + Dialect::textLiteral(text);
+}
+
 }  // namespace sandogh

@@ -27,6 +27,7 @@ public:
     QString createOtherDatabase(const QString& database) const override;
 
 protected:
+    QString textLiteral(const QString& text) const override;
     QString identityDefinition(const ColumnDef& column) const override;
 };
 

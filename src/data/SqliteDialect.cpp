@@ -85,4 +85,34 @@ QStringList SqliteDialect::addForeignKey(const ForeignKeyDef& /*foreignKey*/) co
     return {};
 }
 
+QStringList SqliteDialect::createTextSearch(const TextSearchDef& search) const {
+    // An FTS5 table over the key column, its rows being the table's rows (external
+    // content): the trigram tokenizer finds any run of three or more characters, and the
+    // triggers keep it in step with every insert, delete and change of the key.
+    const QString fts = quote(search.name);
+    const QString source = quote(search.table);
+    const QString key = quote(search.keyColumn);
+    const QString id = quote(search.idColumn);
+    const QString remove =
+        QStringLiteral("INSERT INTO %1(%1, rowid, %2) VALUES ('delete', old.%3, old.%2);")
+            .arg(fts, key, id);
+    const QString add =
+        QStringLiteral("INSERT INTO %1(rowid, %2) VALUES (new.%3, new.%2);").arg(fts, key, id);
+    const QString trigger = QStringLiteral("CREATE TRIGGER %1 AFTER %2 ON %3 BEGIN %4 END");
+    QStringList statements = Dialect::createTextSearch(search);
+    statements << QStringLiteral(
+                      "CREATE VIRTUAL TABLE %1 USING fts5(%2, content=%3, "
+                      "content_rowid=%4, tokenize='trigram')")
+                      .arg(fts, key, source, id)
+               << trigger.arg(quote(search.name + QStringLiteral("_Insert")),
+                              QStringLiteral("INSERT"), source, add)
+               << trigger.arg(quote(search.name + QStringLiteral("_Delete")),
+                              QStringLiteral("DELETE"), source, remove)
+               << trigger.arg(quote(search.name + QStringLiteral("_Update")),
+                              QStringLiteral("UPDATE OF ") + key, source,
+                              remove + QLatin1Char(' ') + add)
+               << QStringLiteral("INSERT INTO %1(%1) VALUES ('rebuild')").arg(fts);
+    return statements;
+}
+
 }  // namespace sandogh

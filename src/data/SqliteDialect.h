@@ -19,6 +19,7 @@ public:
     QString createIndex(const IndexDef& index) const override;
     QStringList addForeignKey(const ForeignKeyDef& foreignKey) const override;
     bool foreignKeysOnlyInCreateTable() const override { return true; }
+    QStringList createTextSearch(const TextSearchDef& search) const override;
 
 protected:
     QString identityDefinition(const ColumnDef& column) const override;

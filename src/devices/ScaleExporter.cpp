@@ -31,6 +31,9 @@ constexpr int kSadrPage = 0;
 // the update selects by PLU number; the scales have always been fed so (their
 // goods carry the PLU as barcode), and the asymmetry is kept.
 constexpr const char* kMizanExistsSql = "SELECT COUNT(PluNo) FROM %1 WHERE PluNo = :barcodeValue";
+// The table's key is the PLU: a good whose barcode is not its PLU is not found by the test
+// above once it has been written, so the PLU is looked up as well before inserting again.
+constexpr const char* kMizanPluExistsSql = "SELECT COUNT(PluNo) FROM %1 WHERE PluNo = :plu";
 
 qint64 wholeValue(const QString& text) {
     return static_cast<qint64>(std::llround(AmountText::parse(text.trimmed().toStdString())));
@@ -133,8 +136,11 @@ bool ScaleExporter::exportMizan(Session& session, const ScaleGood& good) {
     const QString items = vendorTable(session, "MizanNetItem", kMizanNetDatabase);
     const qint64 plu = wholeValue(good.plu);
     const int unit = good.weighed ? kWeightUnitWeighed : kWeightUnitCounted;
-    const qint64 found = count(session, QString::fromLatin1(kMizanExistsSql).arg(items),
-                               QStringLiteral(":barcodeValue"), wholeValue(good.barcode));
+    qint64 found = count(session, QString::fromLatin1(kMizanExistsSql).arg(items),
+                         QStringLiteral(":barcodeValue"), wholeValue(good.barcode));
+    if (found == 0)
+        found = count(session, QString::fromLatin1(kMizanPluExistsSql).arg(items),
+                      QStringLiteral(":plu"), plu);
     if (found < 0)
         return false;
     SqlQuery q(session,

@@ -29,7 +29,8 @@ BarcodeResolver::BarcodeResolver(SaleSession& sale, Database& database, const Cl
 
 EntryOutcome BarcodeResolver::resolve(const QString& text, const SaleOptions& options) {
     EntryOutcome outcome;
-    QString entry = text;
+    // A scanner set to a Persian keyboard layout sends Persian or Arabic-Indic digits.
+    QString entry = QString::fromStdString(TextHelpers::toAsciiDigits(text.toStdString()));
     if (entry.contains(u'\'')) {
         entry = QString::fromStdString(TextHelpers::stripQuotes(entry.toStdString()));
     }

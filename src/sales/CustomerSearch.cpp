@@ -1,8 +1,11 @@
 #include "sales/CustomerSearch.h"
 
+#include "common/TextHelpers.h"
 #include "data/Database.h"
 #include "data/Dialect.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/GoodsListQuery.h"
+#include "data/repositories/GoodsSearchQuery.h"
 
 namespace sandogh {
 
@@ -52,33 +55,43 @@ CustomerSearch::CustomerSearch(Database& database) : m_database(database) {}
 int CustomerSearch::search(Mode mode, const QString& text) {
     clear();
     Session session = m_database.session(kModule, QStringLiteral("txtAccountSearch_KeyDown"));
-    const QString pattern = QLatin1Char('%') + text.trimmed() + QLatin1Char('%');
+    // Compared as people type: both the typed text and the columns in their search form
+    // (Persian letters, ASCII digits, no zero-width non-joiner, lower case).
+    const Dialect& d = session.dialect();
+    const QString pattern =
+        QLatin1Char('%') + GoodsListQuery::escapeLike(GoodsSearchQuery::searchKey(text.trimmed())) +
+        QLatin1Char('%');
+    const auto folded = [&d](const QString& column) {
+        return d.searchKeyExpression(column) + QStringLiteral(" LIKE ");
+    };
     QString sql = customerSelect();
     SqlBinds binds;
     switch (mode) {
         case Mode::Telephone:
             // As the shop has always searched: the OR is not bracketed, so a row whose
             // Value3 holds the text is found whatever its TypeNo.
-            sql += QStringLiteral(
-                " AND COALESCE(Value2, '') LIKE :tel  OR COALESCE(Value3, '') "
-                "LIKE :tel3");
+            sql += QStringLiteral(" AND ") + folded(QStringLiteral("COALESCE(Value2, '')")) +
+                   QStringLiteral(":tel ESCAPE '\\'  OR ") +
+                   folded(QStringLiteral("COALESCE(Value3, '')")) +
+                   QStringLiteral(":tel3 ESCAPE '\\'");
             binds = {{QStringLiteral(":tel"), pattern}, {QStringLiteral(":tel3"), pattern}};
             break;
         case Mode::Mobile:
-            sql += QStringLiteral(" AND COALESCE(Value5, '') LIKE :mobile");
+            sql += QStringLiteral(" AND ") + folded(QStringLiteral("COALESCE(Value5, '')")) +
+                   QStringLiteral(":mobile ESCAPE '\\'");
             binds = {{QStringLiteral(":mobile"), pattern}};
             break;
         case Mode::NameFamily:
             sql += QStringLiteral(" AND ") +
-                   session.dialect().concat({QStringLiteral("COALESCE(T.Name, '')"),
-                                             QStringLiteral("' '"),
-                                             QStringLiteral("COALESCE(Value1, '')")}) +
-                   QStringLiteral(" LIKE :name");
+                   folded(d.concat({QStringLiteral("COALESCE(T.Name, '')"), QStringLiteral("' '"),
+                                    QStringLiteral("COALESCE(Value1, '')")})) +
+                   QStringLiteral(":name ESCAPE '\\'");
             binds = {{QStringLiteral(":name"), pattern}};
             break;
         case Mode::Code:
             sql += QStringLiteral(" AND T.Code = :code ");
-            binds = {{QStringLiteral(":code"), text.trimmed()}};
+            binds = {{QStringLiteral(":code"), QString::fromStdString(TextHelpers::toAsciiDigits(
+                                                   text.trimmed().toStdString()))}};
             break;
     }
     SqlQuery q(session, sql);

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "data/Database.h"
-#include "data/repositories/DiscountsRepository.h"
+#include "data/repositories/DiscountTypes.h"
 #include "data/repositories/DocumentTotalsRepository.h"
 #include "data/repositories/TypesRepository.h"
 #include "sales/SettlementTexts.h"
@@ -44,7 +44,7 @@ double LoyaltyGift::purchases(int customer) {
 
 bool LoyaltyGift::countsAsGift(int discountTypeId) {
     Session session = m_database.session(kModule, kRoutine);
-    return DiscountsRepository::countsAsGift(session, discountTypeId);
+    return DiscountTypes::countsAsGift(session, discountTypeId).value_or(false);
 }
 
 int LoyaltyGift::giftCount(double purchases, double buyFactor, double taken) {

@@ -45,8 +45,8 @@ public:
     // The parts, one statement each.
     Taken taken(int customer);
     double purchases(int customer);
-    // Whether a discount kind counts as a gift (DiscountType.IsImpactGift); false for an
-    // unknown kind.
+    // Whether a discount kind counts as a gift (DiscountType.IsImpactGift 1 or NULL);
+    // false for 0 and for an unknown kind.
     bool countsAsGift(int discountTypeId);
 
     // Whole gifts earned by purchases in steps of buyFactor, less those taken; may be 0 or

@@ -16,6 +16,12 @@ struct ReceiptLine {
     double total = 0;      // Price: the line amount
 };
 
+// One way the sale was paid: an account of its voucher and the amount.
+struct ReceiptPayment {
+    QString account;
+    double amount = 0;
+};
+
 // Everything a receipt shows, read from a saved sale (ReceiptReader). Amounts are rials.
 struct ReceiptData {
     // The shop heading (Company).
@@ -43,6 +49,10 @@ struct ReceiptData {
     double overhead = 0;  // Sarbar
     double received = 0;  // ReceivedPrice: what the sale came to
     std::optional<double> change;
+    // The split of the payment (cash, each card terminal's bank, the customer's account)
+    // and what gift cards paid of it.
+    QList<ReceiptPayment> payments;
+    double giftCard = 0;
 
     QList<ReceiptLine> lines;
 

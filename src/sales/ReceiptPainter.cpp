@@ -53,8 +53,11 @@ QString leftToRight(const QString& text) {
     return QChar(0x200E) + persian(text);
 }
 
+// A quantity has no thousands separator, so that its decimal separator (the Arabic one)
+// cannot be taken for one: 1250.5 prints as ۱۲۵۰٫۵.
 QString quantityText(double value) {
-    QString text = persian(QString::fromStdString(AmountText::formatDecimals(value)));
+    QString text = persian(
+        QString::fromStdString(AmountText::stripSeparators(AmountText::formatDecimals(value))));
     return text.replace(QLatin1Char('.'), QChar(0x066B));  // the Arabic decimal separator
 }
 
@@ -255,9 +258,18 @@ double ReceiptPainter::run(QPainter* painter, QPaintDevice* device) const {
     pen.pair(QStringLiteral("قابل پرداخت"), amount(r.payable()), pen.font(kPayableSize, true));
     pen.pair(QStringLiteral("دریافتی"), amount(r.received), text);
     if (r.change) {
-        pen.pair(QStringLiteral("باقیمانده"), amount(*r.change), text);
+        pen.pair(QStringLiteral("پول خرد (برگشتی به مشتری)"), amount(*r.change), text);
     }
-    if (!r.payTypeName.isEmpty()) {
+    // How it was paid: each account of the voucher, and the gift cards' part.
+    if (!r.payments.isEmpty() || r.giftCard != 0) {
+        pen.line(QStringLiteral("پرداخت:"), small, Qt::AlignRight);
+        for (const ReceiptPayment& p : r.payments) {
+            pen.pair(p.account, amount(p.amount), small);
+        }
+        if (r.giftCard != 0) {
+            pen.pair(QStringLiteral("از آن با کارت هدیه"), amount(r.giftCard), small);
+        }
+    } else if (!r.payTypeName.isEmpty()) {
         pen.line(QStringLiteral("نوع پرداخت: ") + r.payTypeName, small, Qt::AlignRight);
     }
     if (!r.totalInWords.trimmed().isEmpty()) {

@@ -4,6 +4,7 @@
 #include "data/Database.h"
 #include "data/Dialect.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/ReceiptPayments.h"
 #include "settings/MessageService.h"
 
 namespace sandogh {
@@ -15,6 +16,7 @@ const QString kModule = QStringLiteral("SaleReceipt");
 // The parties of the parameter table, persons and companies; either can be the customer.
 constexpr int kPersonTypeNo = 10;
 constexpr int kCompanyTypeNo = 11;
+constexpr int kSaleReturnTransType = 3;
 
 }  // namespace
 
@@ -57,6 +59,17 @@ ReceiptReader::Status ReceiptReader::read(qint64 code, bool isRial, ReceiptData&
     if (!readLines(code, receipt) || !readCustomer(receipt)) {
         return Status::Failed;
     }
+    Session session = m_database.session(kModule, QStringLiteral("ReadPayments"));
+    const std::optional<ReceiptPayments::Split> split =
+        ReceiptPayments::read(session, code, receipt.transType == kSaleReturnTransType);
+    if (!split) {
+        return Status::Failed;
+    }
+    receipt.payments.clear();
+    for (const ReceiptPayments::Part& part : split->parts) {
+        receipt.payments.append({part.account, part.amount});
+    }
+    receipt.giftCard = split->giftCard;
     readShop(receipt);
     receipt.sentence = sentenceOfTheDay();
     return Status::Ok;
@@ -72,7 +85,7 @@ ReceiptReader::Status ReceiptReader::readHeader(qint64 code, ReceiptData& receip
                    "COALESCE(H.DocSum,0), COALESCE(H.Discount,0), COALESCE(H.Sarbar,0), "
                    "COALESCE(H.ReceivedPrice,0), COALESCE(P.Name,''), "
                    "COALESCE(H.DiscountTypeId,0), COALESCE(H.OverheadID,0), "
-                   "COALESCE(T.IsImpactGift,0) "
+                   "CASE WHEN T.Id IS NULL THEN 0 ELSE COALESCE(T.IsImpactGift,1) END "
                    "FROM Whs_QTYDocH H LEFT OUTER JOIN DiscountType T ON H.DiscountTypeId = T.Id "
                    "LEFT OUTER JOIN Overhead O ON H.OverheadID = O.Id "
                    "LEFT OUTER JOIN tblPaymentType P ON H.PayType = P.Code "

@@ -10,7 +10,7 @@ enum class SaleCommand {
     NewSaleForm,         // F3: cmdNewSaleForm
     PecPayment,          // F5: btnParsianPos
     TerminalHandOff,     // F7..F12: the companion program's terminal screens
-    NewSale,             // Esc: closes frmDetail when open, otherwise a new sale
+    NewSale,             // Esc: closes frmDetail when open, otherwise a new sale (asked with lines)
     FocusSumReceived,    // Ctrl+B: txtSumReceived
     FocusReceivedPrice,  // Ctrl+C: txtReceivedPrice
     DeleteLine,          // Ctrl+D: cmdDel

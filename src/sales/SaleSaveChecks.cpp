@@ -6,6 +6,7 @@
 
 #include "data/Database.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/DiscountTypes.h"
 #include "sales/SaleSaveTexts.h"
 #include "sales/SaleSession.h"
 #include "sales/SaleSettlement.h"
@@ -133,25 +134,24 @@ bool SaleSaveChecks::customerResolves(int counter) {
     return q.exec() && q.next();
 }
 
-// The only discount kinds with a factor are the gift kinds (DiscountType.IsImpactGift):
-// their discount is a whole number of gifts, each worth the shop's AmountRebate, so the
-// factor of a gift kind is AmountRebate and that of any other kind is "none" (no check).
-// A gift discount must come from the gift button (btnBuyFactor), which computes it as
-// such a multiple; one typed by hand is refused before its amount is looked at. Then a
-// zero factor refuses (no gift can be counted), and an amount that is not a whole
-// multiple of the factor refuses as not matching it.
+// The only discount kind with a factor is the loyalty gift kind (the fifth of the list):
+// its discount is a whole number of gifts, each worth the shop's AmountRebate, so its
+// factor is AmountRebate and that of any other kind is "none" (no check). Its discount
+// must come from the gift button (btnBuyFactor), which computes it as such a multiple;
+// one typed by hand is refused before its amount is looked at. Then a zero factor
+// refuses (no gift can be counted), and an amount that is not a whole multiple of the
+// factor refuses as not matching it. Whether a kind counts towards the gift total
+// (IsImpactGift) has no bearing here.
 SaleSaveCheck SaleSaveChecks::discountFactor(const SaleSettlement& settlement) {
     if (settlement.discount == 0 || !settlement.discountTypeId) {
         return SaleSaveCheck::None;
     }
     Session s = m_database.session(kModule, QStringLiteral("CheckDiscountFactor"));
-    SqlQuery q(s,
-               QStringLiteral("SELECT COALESCE(IsImpactGift, 0) FROM DiscountType WHERE Id = :id"));
-    q.bind(QStringLiteral(":id"), *settlement.discountTypeId);
-    if (!q.exec()) {
+    const std::optional<int> giftKind = DiscountTypes::loyaltyGiftKind(s);
+    if (!giftKind) {
         return SaleSaveCheck::DiscountFactor;
     }
-    if (!q.next() || q.integer(0) == 0) {
+    if (*giftKind == 0 || *giftKind != *settlement.discountTypeId) {
         return SaleSaveCheck::None;
     }
     if (!settlement.loyaltyGift) {

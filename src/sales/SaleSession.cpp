@@ -476,6 +476,11 @@ SaleSession::CommandResult SaleSession::execute(const SaleKeyBinding& binding, i
             d->actions->terminalHandOff(binding.handOff);
             return CommandResult::Done;
         case SaleCommand::NewSale:
+            // Esc is next to F-keys and easy to hit: a sale with lines is only dropped
+            // when the cashier says so.
+            if (!confirmLeave()) {
+                return CommandResult::Refused;
+            }
             newSale();
             return CommandResult::Done;
         case SaleCommand::DeleteLine:

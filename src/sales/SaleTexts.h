@@ -47,6 +47,8 @@ public:
     static QString salesTypeFirst() {
         return QStringLiteral("ابتدا بايد نحوه فروش تعيين گردد سپس  كالاها انتخاب گردند. ");
     }
+    // The status line under the barcode box when a text matches nothing; the text follows.
+    static QString goodsNotFound() { return QStringLiteral("کالا یافت نشد"); }
     static QString unsavedSale() { return QStringLiteral("فاکتور جاري ذخيره نشده است !"); }
     // Customer summary and daily totals.
     static QString customerName() { return QStringLiteral("نام مشتري : "); }

@@ -230,4 +230,58 @@ QString SettingsCatalogue::groupCaption(SettingGroup group) {
     return {};
 }
 
+namespace {
+
+bool sameKey(const SettingKey& a, const SettingKey& b) {
+    return QString::fromLatin1(a.section).compare(QString::fromLatin1(b.section),
+                                                  Qt::CaseInsensitive) == 0 &&
+           QString::fromLatin1(a.key).compare(QString::fromLatin1(b.key), Qt::CaseInsensitive) ==
+               0 &&
+           QString::fromLatin1(a.application) == QString::fromLatin1(b.application);
+}
+
+// Colours are kept as Windows colour numbers: red + green * 256 + blue * 65536.
+QList<SettingsCatalogue::Choice> colours() {
+    const struct {
+        int red, green, blue;
+        const char* caption;
+    } named[] = {
+        {0, 0, 0, "سیاه"},          {255, 255, 255, "سفید"},        {240, 240, 240, "خاکستری روشن"},
+        {128, 128, 128, "خاکستری"}, {0, 0, 128, "سرمه‌ای"}, {47, 111, 159, "آبی"},
+        {46, 125, 79, "سبز"},       {162, 59, 42, "قرمز"},          {255, 254, 244, "کرم"},
+    };
+    QList<SettingsCatalogue::Choice> list;
+    for (const auto& c : named) {
+        list.append({QString::number(c.red + c.green * 256 + c.blue * 65536),
+                     QString::fromUtf8(c.caption)});
+    }
+    return list;
+}
+
+}  // namespace
+
+QList<SettingsCatalogue::Choice> SettingsCatalogue::choices(const SettingKey& key) {
+    if (sameKey(key, k::ReceiptOutputKind)) {
+        return {{QStringLiteral("printer"),
+                 QStringLiteral("چاپگر (صفحه‌آرایی برنامه)")},
+                {QStringLiteral("pdf"), QStringLiteral("فایل PDF")},
+                {QStringLiteral("escpos"), QStringLiteral("چاپگر فیش ESC/POS")}};
+    }
+    if (sameKey(key, k::DisplayLine)) {
+        return {{QStringLiteral("0"), QStringLiteral("دو خطی ۲۰ نویسه (درگاه اول)")},
+                {QStringLiteral("1"), QStringLiteral("تک خطی (درگاه اول)")},
+                {QStringLiteral("3"), QStringLiteral("نمایشگر قیمت هشت رقمی (درگاه خود)")}};
+    }
+    if (sameKey(key, k::ThemeTextColor) || sameKey(key, k::ThemeFrameColor) ||
+        sameKey(key, k::ThemeFormColor)) {
+        return colours();
+    }
+    return {};
+}
+
+bool SettingsCatalogue::writtenByProgram(const SettingKey& key) {
+    return sameKey(key, k::UserId) || sameKey(key, k::UserName) ||
+           sameKey(key, k::UserDisplayName) || sameKey(key, k::LastDateSendSms);
+}
+
 }  // namespace sandogh

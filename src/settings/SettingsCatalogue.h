@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include <QList>
 #include <QString>
 
 #include "settings/SettingDescriptor.h"
@@ -24,6 +25,16 @@ public:
 
     // The title of a page on the settings screen.
     static QString groupCaption(SettingGroup group);
+
+    // One value a setting may take and its caption.
+    struct Choice {
+        QString value;
+        QString caption;
+    };
+    // The values of a setting that takes one of a few; empty for any other.
+    static QList<Choice> choices(const SettingKey& key);
+    // Whether the program writes the setting itself (who logged in last): not for hand editing.
+    static bool writtenByProgram(const SettingKey& key);
 };
 
 }  // namespace sandogh

@@ -5,6 +5,7 @@
 #include "ShopBackendTest.h"
 #include "data/Transaction.h"
 #include "data/repositories/GoodsListQuery.h"
+#include "data/repositories/GoodsSearchQuery.h"
 
 namespace sandogh {
 namespace {
@@ -31,21 +32,23 @@ protected:
             const QString name = n % 3 == 0
                                      ? QStringLiteral("پنیر لیقوان %1").arg(n)
                                      : QStringLiteral("Item %1").arg(n, 2, 10, QLatin1Char('0'));
-            ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Spec_Code, Name, Cost, "
-                                              "ISActive) VALUES (:b, :s, :n, :c, :a)"),
-                               {{QStringLiteral(":b"), barcode},
-                                {QStringLiteral(":s"), special},
-                                {QStringLiteral(":n"), name},
-                                {QStringLiteral(":c"), n * 100},
-                                {QStringLiteral(":a"), n == 5 ? 0 : 1}}));
+            ASSERT_TRUE(
+                s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Spec_Code, Name, NameKey, "
+                                      "Cost, ISActive) VALUES (:b, :s, :n, :k, :c, :a)"),
+                       {{QStringLiteral(":b"), barcode},
+                        {QStringLiteral(":s"), special},
+                        {QStringLiteral(":n"), name},
+                        {QStringLiteral(":k"), GoodsSearchQuery::searchKey(name)},
+                        {QStringLiteral(":c"), n * 100},
+                        {QStringLiteral(":a"), n == 5 ? 0 : 1}}));
         }
         // Wildcards of LIKE in the data: searched for literally, never as patterns.
         ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Spec_Code, Name) VALUES "
-                                  "('99%1', 'X_1', '100% juice')")));
+            s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Spec_Code, Name, NameKey) VALUES "
+                                  "('99%1', 'X_1', '100% juice', '100% juice')")));
         ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Spec_Code, Name) VALUES "
-                                  "('99a1', 'XY1', '100 juice')")));
+            s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Spec_Code, Name, NameKey) VALUES "
+                                  "('99a1', 'XY1', '100 juice', '100 juice')")));
         ASSERT_TRUE(
             s.exec(QStringLiteral("INSERT INTO Stock (Barcode, Import, Export, Stock, "
                                   "Branch) VALUES ('6260004', 9, 2, 7, 1)")));
@@ -157,8 +160,8 @@ TEST_P(GoodsListQueryTest, SpecialCodeTiesAcrossPagesLoseAndRepeatNothing) {
 }
 
 TEST_P(GoodsListQueryTest, NameSearchPagesThroughTiesOfEqualNames) {
-    ASSERT_TRUE(
-        exec(QStringLiteral("UPDATE Goods SET Name = 'Same' WHERE EAN_Code LIKE '626000%'")));
+    ASSERT_TRUE(exec(QStringLiteral(
+        "UPDATE Goods SET Name = 'Same', NameKey = 'same' WHERE EAN_Code LIKE '626000%'")));
     const auto rows = readAll(Column::Name, QStringLiteral("Same"), 3);
     EXPECT_EQ(rows.size(), 10);
     QSet<int> ids;

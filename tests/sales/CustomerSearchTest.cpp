@@ -64,6 +64,45 @@ TEST_P(CustomerSearchTest, FindsByEachWay) {
     EXPECT_EQ(found(Mode::Code, "C"), QList<int>{});
 }
 
+TEST_P(CustomerSearchTest, PersianTextMatchesWhicheverLettersAndDigitsEitherSideUses) {
+    // Kept with Arabic yeh and kaf, a zero-width non-joiner and Persian digits.
+    exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, Value5) VALUES "
+                        "(105, 10, 'C-5', :n, :f, :m)"),
+         {{QStringLiteral(":n"), QStringLiteral("علي")},
+          {QStringLiteral(":f"), QStringLiteral("كريمي‌نژاد")},
+          {QStringLiteral(":m"), QStringLiteral("۰۹۱۲۵۵۵")}});
+    using Mode = CustomerSearch::Mode;
+    const struct {
+        Mode mode;
+        QString typed;
+    } cases[] = {
+        {Mode::NameFamily, QStringLiteral("علی کریمی")},
+        {Mode::NameFamily, QStringLiteral("کریمینژاد")},
+        {Mode::Mobile, QStringLiteral("0912555")},
+        {Mode::Mobile, QStringLiteral("٠٩١٢٥٥٥")},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed.toStdString());
+        CustomerSearch search(db());
+        ASSERT_EQ(search.search(c.mode, c.typed), 1);
+        EXPECT_EQ(search.current().counter, 105);
+    }
+}
+
+TEST_P(CustomerSearchTest, ACustomerComesWithItsGroup) {
+    CustomerSearch search(db());
+    ASSERT_EQ(search.search(CustomerSearch::Mode::Code, QStringLiteral("C-1")), 1);
+    const SaleCustomer c = search.current();
+    EXPECT_EQ(c.counter, 101);
+    EXPECT_EQ(c.displayName(), QStringLiteral("Reza Karimi"));
+    EXPECT_EQ(c.account, 9101);
+    EXPECT_DOUBLE_EQ(c.discountPercent, 5);
+    EXPECT_EQ(c.color, 255);
+    EXPECT_EQ(c.groupName, QStringLiteral("Gold"));
+    EXPECT_EQ(search.byCounter(102).groupName, QString());
+    EXPECT_FALSE(search.byCounter(104).isValid());
+}
+
 TEST_P(CustomerSearchTest, TheArrowKeysMoveInTheResults) {
     CustomerSearch search(db());
     ASSERT_EQ(search.search(CustomerSearch::Mode::Mobile, QStringLiteral("09")), 3);

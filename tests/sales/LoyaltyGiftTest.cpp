@@ -125,6 +125,28 @@ TEST_P(LoyaltyGiftTest, RefusalsBeforeAnyGift) {
               SettlementTexts::fieldEmpty());
 }
 
+TEST_P(LoyaltyGiftTest, GiftsTakenAreReadOnlyForActiveParties) {
+    customer(kCustomer, 2, QStringLiteral("1403/01/02"));
+    customer(kCustomer + 1, 4, QStringLiteral("1403/01/03"), false);
+    customer(kCustomer + 2, 6, QString(), true, 11);
+    customer(kCustomer + 3, 8, QString(), true, 12);
+    LoyaltyGift g = gift();
+    EXPECT_TRUE(g.taken(kCustomer).found);
+    EXPECT_DOUBLE_EQ(g.taken(kCustomer).gifts, 2);
+    EXPECT_EQ(g.taken(kCustomer).lastDate, QStringLiteral("1403/01/02"));
+    EXPECT_FALSE(g.taken(kCustomer + 1).found);
+    EXPECT_DOUBLE_EQ(g.taken(kCustomer + 2).gifts, 6);
+    EXPECT_FALSE(g.taken(kCustomer + 3).found);
+    EXPECT_TRUE(g.countsAsGift(kGiftKind));
+    EXPECT_FALSE(g.countsAsGift(kPlainKind));
+    // NULL counts as 1; a kind that does not exist counts as none.
+    exec(QStringLiteral("INSERT INTO DiscountType (Id, Name) VALUES (:unset, :name)"),
+         {{QStringLiteral(":unset"), kGiftKind + 10},
+          {QStringLiteral(":name"), QStringLiteral("unset")}});
+    EXPECT_TRUE(g.countsAsGift(kGiftKind + 10));
+    EXPECT_FALSE(g.countsAsGift(kGiftKind + 11));
+}
+
 TEST(LoyaltyGiftCount, WholeGiftsOnly) {
     struct Case {
         double purchases, buyFactor, taken;

@@ -39,7 +39,7 @@ protected:
         addGoods({QStringLiteral("2222"), 10000, 0, QStringLiteral("Rice")});
         exec(QStringLiteral(
             "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0), "
-            "(5, 'Gift', 1)"));
+            "(2, 'Counted', 1), (3, 'Unset', NULL), (4, 'Staff', 0), (5, 'Gift', 1)"));
         exec(QStringLiteral("INSERT INTO tblGiftCard (CardID, Amount) VALUES (123, 5000)"));
         ASSERT_TRUE(sale().addGoods(QStringLiteral("2222")));
         settlement.docNo = QStringLiteral("1");
@@ -217,11 +217,15 @@ TEST_P(SaleSaveChecksTest, AGiftDiscountFromTheGiftButtonFittingItsFactorPasses)
     settlement.discountTypeId = 5;
     settlement.loyaltyGift = true;
     EXPECT_EQ(run(), SaleSaveCheck::None);
-    // Any amount suits a kind that is not a gift.
-    settlement.discountTypeId = 1;
+    // Any amount typed by hand suits every other kind, whether it counts towards the
+    // gift total (1, NULL) or not (0).
     settlement.loyaltyGift = false;
     settlement.discount = 1234;
-    EXPECT_EQ(run(), SaleSaveCheck::None);
+    for (const int kind : {1, 2, 3, 4}) {
+        SCOPED_TRACE(kind);
+        settlement.discountTypeId = kind;
+        EXPECT_EQ(run(), SaleSaveCheck::None);
+    }
 }
 
 // Every rule broken at once; fixing them one by one meets them in their order.

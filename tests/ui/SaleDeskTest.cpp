@@ -249,6 +249,36 @@ INSTANTIATE_TEST_SUITE_P(Receipt, SaleDeskSaveTest,
                                            SaveCase{"Receipt", true, 1}),
                          test::CaseName());
 
+TEST_F(SaleDeskTest, TheChangeStaysInSightUntilTheNextScanAndAReturnShowsItsNumber) {
+    auto window = openMain();
+    frmSale* screen = openSale(*window);
+    ASSERT_NE(screen, nullptr);
+    scan(*screen, kBarcode);
+    QTest::keyClicks(screen->totalsPanel()->txtReceivedPrice, QStringLiteral("200000"));
+    QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
+    ASSERT_TRUE(screen->session().isEmpty()) << app.messages.count();
+    EXPECT_TRUE(screen->lblLastReceived->text().endsWith(QStringLiteral("200,000")))
+        << screen->lblLastReceived->text().toStdString();
+    EXPECT_TRUE(screen->lblLastChange->text().endsWith(QStringLiteral("75,000")))
+        << screen->lblLastChange->text().toStdString();
+    EXPECT_TRUE(screen->lblPrevPrice->text().endsWith(QStringLiteral("125,000")));
+
+    scan(*screen, kBarcode);
+    EXPECT_TRUE(screen->lblLastReceived->text().isEmpty());
+    EXPECT_TRUE(screen->lblLastChange->text().isEmpty());
+
+    // Returns are numbered in their own run.
+    Session s = app.context.database().session();
+    const qint64 nextReturn = s.scalarInt64(
+        QStringLiteral("SELECT COALESCE(MAX(CAST(DocNo AS BIGINT)), 0) + 1 FROM Whs_QTYDocH "
+                       "WHERE TransType = 3 AND DocType IS NULL"));
+    const QString saleNumber = screen->txtNo->text();
+    QTest::keyClick(screen->txtBarcode, Qt::Key_M, Qt::ControlModifier);
+    EXPECT_EQ(screen->txtNo->text(), QString::number(nextReturn));
+    QTest::keyClick(screen->txtBarcode, Qt::Key_M, Qt::ControlModifier);
+    EXPECT_EQ(screen->txtNo->text(), saleNumber);
+}
+
 TEST_F(SaleDeskTest, ARefusedSaveKeepsTheSale) {
     auto window = openMain();
     frmSale* screen = openSale(*window);
@@ -291,8 +321,8 @@ TEST_F(SaleDeskTest, TheLoyaltyButtonGivesTheEarnedGiftsAndSavingCountsThem) {
     scan(*screen, kBarcode);
     ASSERT_TRUE(screen->session().selectCustomer(int(customer)));
     SaleTotalsPanel* totals = screen->totalsPanel();
-    // The gift kind (Id 1 of the shop counts towards gifts).
-    ASSERT_TRUE(totals->chooseDiscountKind(1));
+    // The loyalty gift kind: the fifth of the shop's list.
+    ASSERT_TRUE(totals->chooseDiscountKind(5));
     QTest::mouseClick(screen->btnBuyFactor, Qt::LeftButton);
     EXPECT_EQ(totals->txtDiscount->value(), 10000);
 

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "data/Database.h"
+#include "data/repositories/GoodsSearchQuery.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
 #include "sales/SaleSession.h"
@@ -47,11 +48,12 @@ void SaleScreenTest::exec(const QString& sql, const SqlBinds& binds) {
 }
 
 void SaleScreenTest::addGoods(const ShopGoods& g) {
-    exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue, ISActive, AQIS, "
-                        "Type, GType, ISFavorite, FavoriteTab) VALUES (:b, :name, :cost, :cost2, "
-                        ":tax, 1, :aqis, 0, 0, :fav, :tab)"),
+    exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, NameKey, Cost, Cost2, TaxValue, "
+                        "ISActive, AQIS, Type, GType, ISFavorite, FavoriteTab) VALUES (:b, :name, "
+                        ":key, :cost, :cost2, :tax, 1, :aqis, 0, 0, :fav, :tab)"),
          {{QStringLiteral(":b"), g.barcode},
           {QStringLiteral(":name"), g.name},
+          {QStringLiteral(":key"), GoodsSearchQuery::searchKey(g.name)},
           {QStringLiteral(":cost"), g.cost},
           {QStringLiteral(":cost2"), g.cost2},
           {QStringLiteral(":tax"), g.tax},

@@ -79,8 +79,15 @@ TEST_F(frmSaleKeysTest, EscapeClosesTheDetailPanelFirstThenStartsANewSale) {
     EXPECT_FALSE(screen().frmDetail->isVisible());
     EXPECT_EQ(lineCount(), 2);
 
+    // A sale with lines is dropped only when the cashier says so.
     QTest::keyClicks(screen().txtBarcode, QStringLiteral("62"));
+    messages().queueAnswer(false);
     press(Qt::Key_Escape);
+    EXPECT_EQ(messages().countOf(SaleTexts::unsavedSale()), 1);
+    EXPECT_EQ(lineCount(), 2);
+    messages().queueAnswer(true);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(messages().countOf(SaleTexts::unsavedSale()), 2);
     EXPECT_EQ(lineCount(), 0);
     EXPECT_EQ(totalShown(), QStringLiteral("0"));
     EXPECT_TRUE(screen().txtBarcode->text().isEmpty());

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
@@ -66,6 +67,65 @@ protected:
     test::RecordingMessageService messages;
 };
 
+TEST_F(frmSetUpTest, OnePageForEachPageOfTheCatalogue) {
+    const auto screen = openScreen();
+    const auto* pages = control<QListWidget>(*screen, QStringLiteral("lstPages"));
+    const auto* stack = control<QStackedWidget>(*screen, QStringLiteral("stkPages"));
+    ASSERT_NE(pages, nullptr);
+    ASSERT_NE(stack, nullptr);
+    EXPECT_EQ(pages->count(), 12);
+    EXPECT_EQ(stack->count(), pages->count());
+    EXPECT_EQ(pages->item(0)->text(), SettingsCatalogue::groupCaption(SettingGroup::Session));
+    EXPECT_EQ(screen->layoutDirection(), Qt::RightToLeft);
+    // The page list stands on the right of the pages.
+    EXPECT_GT(pages->mapTo(screen.get(), QPoint()).x(), stack->mapTo(screen.get(), QPoint()).x());
+}
+
+TEST_F(frmSetUpTest, ChoosingAPageShowsIt) {
+    const auto screen = openScreen();
+    auto* pages = control<QListWidget>(*screen, QStringLiteral("lstPages"));
+    auto* stack = control<QStackedWidget>(*screen, QStringLiteral("stkPages"));
+    auto* display = control<QCheckBox>(*screen, QStringLiteral("IsActivePoolDisplay/Enable"));
+    ASSERT_TRUE(pages && stack && display);
+    EXPECT_FALSE(display->isVisible());
+    pages->setCurrentRow(2);
+    EXPECT_EQ(stack->currentIndex(), 2);
+    EXPECT_TRUE(display->isVisible());
+}
+
+TEST_F(frmSetUpTest, EverySettingHasItsNamedEditor) {
+    const auto screen = openScreen();
+    for (const SettingDescriptor& row : SettingsCatalogue::all()) {
+        const QString name = row.section() + u'/' + row.name();
+        auto* editor = screen->findChild<QWidget*>(name);
+        // Who logged in last is the program's own record: not shown.
+        if (SettingsCatalogue::writtenByProgram(row.key)) {
+            EXPECT_EQ(editor, nullptr) << name.toStdString();
+            continue;
+        }
+        ASSERT_NE(editor, nullptr) << name.toStdString();
+        // A setting of a few values is chosen from a list.
+        if (!SettingsCatalogue::choices(row.key).isEmpty()) {
+            EXPECT_NE(qobject_cast<QComboBox*>(editor), nullptr) << name.toStdString();
+            continue;
+        }
+        switch (row.key.form) {
+            case SettingForm::Flag:
+                EXPECT_NE(qobject_cast<QCheckBox*>(editor), nullptr) << name.toStdString();
+                break;
+            case SettingForm::Number:
+                EXPECT_TRUE(qobject_cast<AmountEdit*>(editor) || qobject_cast<QSpinBox*>(editor))
+                    << name.toStdString();
+                break;
+            case SettingForm::Text:
+                // "True"/"False" switches are ticked rather than typed.
+                EXPECT_TRUE(qobject_cast<QLineEdit*>(editor) || qobject_cast<QCheckBox*>(editor))
+                    << name.toStdString();
+                break;
+        }
+    }
+}
+
 struct LoadCase {
     const char* section;
     const char* key;
@@ -86,6 +146,9 @@ TEST_F(frmSetUpTest, LoadingShowsTheKeptValueOrTheDefault) {
         {"LimitListQty", "Qty", nullptr, "100"},
         {"SaleOptions", "CustomerAboveAmount", "2500000", "2,500,000"},
         {"IsActivePoolDisplay", "Line", "3", "3"},
+        {"Receipt", "Output", nullptr, "printer"},
+        // A value that is none of the choices is shown and kept as it stands.
+        {"ThemeSetting", "TextColor", "12345", "12345"},
         {"PortNo", "No", "2", "2"},
         {"ISActivePoolDisplay", "Port", nullptr, "1"},
         {"Devices", "MSComm1", "/dev/ttyUSB0", "/dev/ttyUSB0"},
@@ -109,6 +172,8 @@ TEST_F(frmSetUpTest, LoadingShowsTheKeptValueOrTheDefault) {
             shown = QString::number(spin->value());
         } else if (auto* edit = qobject_cast<QLineEdit*>(editor)) {
             shown = edit->text();
+        } else if (auto* combo = qobject_cast<QComboBox*>(editor)) {
+            shown = combo->currentData().toString();
         }
         EXPECT_EQ(shown, QString::fromLatin1(c.shown)) << c.section << "/" << c.key;
         EXPECT_FALSE(screen->hasChanges());
@@ -181,6 +246,34 @@ TEST_F(frmSetUpTest, ARefusedWriteIsReported) {
     ASSERT_EQ(messages.messages().size(), 1);
     EXPECT_EQ(messages.messages()[0].style, MessageStyle::Critical);
     EXPECT_TRUE(screen.hasChanges());
+}
+
+TEST_F(frmSetUpTest, ChosenProgramIsKeptRelativeToTheProgramFolder) {
+    const QString programFolder = folder.filePath(QStringLiteral("shop"));
+    EXPECT_EQ(ProgramSettingField::pathToKeep(programFolder + QStringLiteral("/Program/Acc.exe"),
+                                              programFolder),
+              QStringLiteral("Program/Acc.exe"));
+    const QString outside = folder.filePath(QStringLiteral("other/Acc.exe"));
+    EXPECT_EQ(ProgramSettingField::pathToKeep(outside, programFolder), outside);
+    EXPECT_EQ(ProgramSettingField::pathToKeep(outside, QString()), outside);
+}
+
+TEST_F(frmSetUpTest, AChoiceIsWrittenAsItsValue) {
+    auto screen = openScreen();
+    auto* output = control<QComboBox>(*screen, QStringLiteral("Receipt/Output"));
+    auto* kind = control<QComboBox>(*screen, QStringLiteral("IsActivePoolDisplay/Line"));
+    ASSERT_TRUE(output && kind);
+    output->setCurrentIndex(output->findData(QStringLiteral("pdf")));
+    kind->setCurrentIndex(kind->findData(QStringLiteral("1")));
+    ASSERT_TRUE(screen->hasChanges());
+    QTest::mouseClick(control<QPushButton>(*screen, QStringLiteral("cmdSave")), Qt::LeftButton);
+    screen.reset();
+    retail.reset();
+    const QSettingsStore reopened(QStringLiteral("Retail"), retailIni());
+    EXPECT_EQ(reopened.read(QStringLiteral("Receipt"), QStringLiteral("Output")),
+              QStringLiteral("pdf"));
+    EXPECT_EQ(reopened.read(QStringLiteral("IsActivePoolDisplay"), QStringLiteral("Line")),
+              QStringLiteral("1"));
 }
 
 }  // namespace

@@ -6,12 +6,6 @@
 
 namespace sandogh {
 
-bool DiscountsRepository::countsAsGift(Session& session, int discountTypeId) {
-    return session.scalarInt64(
-               QStringLiteral("SELECT COALESCE(IsImpactGift,0) FROM DiscountType WHERE Id = :id"),
-               {{QStringLiteral(":id"), discountTypeId}}) > 0;
-}
-
 double DiscountsRepository::priceBreakPercent(Session& session, double amount, const QString& day) {
     const Dialect& d = session.dialect();
     SqlQuery q(session, QStringLiteral("SELECT ") + d.top(1) +

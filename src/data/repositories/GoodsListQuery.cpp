@@ -2,6 +2,7 @@
 
 #include "data/Database.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/GoodsSearchQuery.h"
 
 namespace sandogh {
 
@@ -76,7 +77,8 @@ QString GoodsListQuery::pageSql(bool atStart, int rows) const {
                        .arg(key);
             break;
         case SearchColumn::Name:
-            sql += QStringLiteral(" AND G.Name LIKE :pattern ESCAPE '\\'");
+            // The search form of the name (NameKey) against the typed text's.
+            sql += QStringLiteral(" AND G.NameKey LIKE :pattern ESCAPE '\\'");
             break;
         case SearchColumn::None:
             break;
@@ -113,8 +115,9 @@ GoodsListQuery::Page GoodsListQuery::fetch(const Position& after, int rows) {
             q.bind(QStringLiteral(":pattern"), escapeLike(m_text) + QLatin1Char('%'));
             break;
         case SearchColumn::Name:
-            q.bind(QStringLiteral(":pattern"),
-                   QLatin1Char('%') + escapeLike(m_text) + QLatin1Char('%'));
+            q.bind(QStringLiteral(":pattern"), QLatin1Char('%') +
+                                                   escapeLike(GoodsSearchQuery::searchKey(m_text)) +
+                                                   QLatin1Char('%'));
             break;
         case SearchColumn::None:
             break;

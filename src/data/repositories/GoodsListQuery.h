@@ -14,7 +14,8 @@ class Database;
 //   no search, or an empty text   every article by barcode
 //   barcode                        barcodes starting with the text, by barcode
 //   special code (Spec_Code)       Spec_Code starting with the text, by Spec_Code then ID
-//   name                           names holding the text anywhere, by name then ID
+//   name                           names holding the text anywhere, as typed (NameKey),
+//                                  by name then ID
 //
 // The prefix searches run as a range of the column's index; the name search walks the
 // name index in order and stops when the page is full.

@@ -10,6 +10,7 @@
 #include "data/repositories/CodeLevelsRepository.h"
 #include "data/repositories/GoodsMessages.h"
 #include "data/repositories/GoodsSavedHook.h"
+#include "data/repositories/GoodsSearchQuery.h"
 #include "settings/Clock.h"
 
 namespace sandogh {
@@ -31,6 +32,8 @@ procedures::ColumnValues articleColumns(const GoodsArticle& a) {
     procedures::ColumnValues values{
         {QStringLiteral("Spec_Code"), a.specCode},
         {QStringLiteral("Name"), a.name},
+        // The search form of the name: the goods searches compare it.
+        {QStringLiteral("NameKey"), GoodsSearchQuery::searchKey(a.name)},
         {QStringLiteral("C_In_Paket"), a.inPacket},
         {QStringLiteral("G_Min"), a.minimum},
         {QStringLiteral("G_Max"), a.maximum},

@@ -96,6 +96,9 @@ MigrationRenderer::Rendered MigrationRenderer::render(const MigrationStep& step)
         m_indexes[key(i.database, i.table)] << i;
     }
     out.statements << step.seedStatements;
+    for (const TextSearchDef& search : step.textSearches) {
+        out.statements << m_dialect.createTextSearch(search);
+    }
     return out;
 }
 

@@ -67,6 +67,19 @@ struct AddColumnDef {
     QString database;
 };
 
+// A word search over a text column: keyColumn holds the search form of sourceColumn
+// (folded as TextHelpers::searchKey folds, and in lower case), filled for the rows already
+// there, and indexed so that a word anywhere in it is found without reading the table:
+// a trigram index on PostgreSQL (pg_trgm), an FTS5 trigram table kept by triggers on SQLite
+// named after the search. idColumn is the table's integer key.
+struct TextSearchDef {
+    QString name;
+    QString table;
+    QString keyColumn;
+    QString sourceColumn;
+    QString idColumn;
+};
+
 // One numbered, append-only step of the schema. Steps are applied in order,
 // each in its own transaction, and SchemaVersion records the last one applied.
 struct MigrationStep {
@@ -76,7 +89,8 @@ struct MigrationStep {
     QList<AddColumnDef> addColumns;
     QList<IndexDef> indexes;
     QList<ForeignKeyDef> foreignKeys;
-    QStringList seedStatements;  // portable statements without values, run after the DDL
+    QStringList seedStatements;           // portable statements without values, run after the DDL
+    QList<TextSearchDef> textSearches{};  // after the seed statements
 };
 
 }  // namespace sandogh

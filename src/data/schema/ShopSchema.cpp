@@ -8,7 +8,8 @@ const QList<MigrationStep>& shopMigrations() {
     static const QList<MigrationStep> steps{
         shopschema::siteStep(),         shopschema::parametersStep(), shopschema::goodsStep(),
         shopschema::documentsStep(),    shopschema::accountsStep(),   shopschema::giftCardsStep(),
-        shopschema::scaleVendorsStep(), shopschema::lookupsStep(),    shopschema::userRightsStep(),
+        shopschema::scaleVendorsStep(), shopschema::lookupsStep(),    shopschema::goodsSearchStep(),
+        shopschema::userRightsStep(),
     };
     return steps;
 }

@@ -123,6 +123,7 @@ MigrationStep accountsStep();      // 5
 MigrationStep giftCardsStep();     // 6
 MigrationStep scaleVendorsStep();  // 7
 MigrationStep lookupsStep();       // 8
+MigrationStep goodsSearchStep();   // 11
 MigrationStep userRightsStep();    // 14
 
 }  // namespace sandogh::shopschema

@@ -13,6 +13,7 @@
 #include "settings/MachineSettings.h"
 #include "settings/MessageService.h"
 #include "settings/QSettingsStore.h"
+#include "settings/SettingKeys.h"
 
 namespace sandogh {
 
@@ -72,6 +73,13 @@ int runDemo(AdminCall& call) {
     }
     if (report.totalAdded() > 0 && !DatabaseStatistics::refresh(*setup.database)) {
         return ExitFailed;
+    }
+    // The demo shop keeps its amounts in rials: its receipts end the amount in words so,
+    // unless this desk has chosen already.
+    const QString rialSection = QString::fromLatin1(settingkeys::FishIsRial.section);
+    const QString rialKey = QString::fromLatin1(settingkeys::FishIsRial.key);
+    if (store.read(rialSection, rialKey).trimmed().isEmpty()) {
+        store.write(rialSection, rialKey, QStringLiteral("1"));
     }
     if (report.totalAdded() == 0) {
         call.out << "the demo shop is complete; nothing to add\n";

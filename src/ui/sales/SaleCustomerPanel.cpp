@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,7 +19,7 @@ namespace sandogh {
 
 namespace {
 
-constexpr int kResultRows = 4;
+constexpr int kResultRows = 5;
 
 QString amount(double value) {
     return QString::fromStdString(AmountText::formatWhole(value));
@@ -61,7 +62,6 @@ SaleCustomerPanel::SaleCustomerPanel(SaleSession& sale, Database& database,
     cmdCustomerSearch->setAutoDefault(false);
     lstCustomers->setObjectName(QStringLiteral("lstCustomers"));
     lstCustomers->setFocusPolicy(Qt::NoFocus);
-    lstCustomers->setVisible(false);
     txtCustomerName->setObjectName(QStringLiteral("txtCustomerName"));
     txtCustomerName->setReadOnly(true);
     txtCustomerName->setFocusPolicy(Qt::NoFocus);
@@ -95,7 +95,13 @@ void SaleCustomerPanel::buildLayout() {
     grid->setContentsMargins(6, 6, 6, 6);
     grid->addWidget(new QLabel(QStringLiteral("مشتری:"), this), 0, 0);
     grid->addWidget(txtAccountSearch, 0, 1);
-    grid->addWidget(cmbSearchKind, 0, 2);
+    auto* lblSearchKind = new QLabel(QStringLiteral("با:"), this);
+    lblSearchKind->setBuddy(cmbSearchKind);
+    auto* kind = new QHBoxLayout;
+    kind->setContentsMargins(0, 0, 0, 0);
+    kind->addWidget(lblSearchKind);
+    kind->addWidget(cmbSearchKind);
+    grid->addLayout(kind, 0, 2);
     grid->addWidget(cmdCustomerSearch, 0, 3);
     grid->addWidget(lstCustomers, 1, 1, 1, 3);
     grid->addWidget(new QLabel(QStringLiteral("نام:"), this), 2, 0);
@@ -104,7 +110,9 @@ void SaleCustomerPanel::buildLayout() {
     grid->addWidget(lblCredit, 3, 1, 1, 2);
     grid->addWidget(btnCustomerDetail, 3, 3);
     grid->setColumnStretch(1, 1);
-    lstCustomers->setMaximumHeight(fontMetrics().height() * 2 * kResultRows);
+    // The results always hold their room, five rows, so that nothing moves when they come.
+    lstCustomers->setFixedHeight(fontMetrics().lineSpacing() * kResultRows + 4 * kResultRows +
+                                 2 * lstCustomers->frameWidth() + 4);
 }
 
 int SaleCustomerPanel::search() {
@@ -124,7 +132,6 @@ int SaleCustomerPanel::search() {
         lstCustomers->addItem(line);
     }
     lstCustomers->blockSignals(false);
-    lstCustomers->setVisible(found > 1);
     if (found == 0) {
         m_search.clear();
         m_sale.clearCustomer();
@@ -165,7 +172,6 @@ void SaleCustomerPanel::showCustomer() {
 void SaleCustomerPanel::reset() {
     m_search.clear();
     lstCustomers->clear();
-    lstCustomers->setVisible(false);
     txtAccountSearch->clear();
     showCustomer();
 }

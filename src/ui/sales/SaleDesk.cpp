@@ -103,6 +103,9 @@ frmSale* SaleDesk::create(AppContext& context, GeneralPorts* generalPorts, QWidg
     screen->setTotalDisplay(desk->m_total.get());
     screen->setWeightService(desk->m_weight);
     desk->m_actions->showNewDocument();
+    // A return is numbered in its own run: switching shows the number it will get.
+    QObject::connect(&sale, &SaleSession::modeChanged, desk,
+                     [desk] { desk->m_actions->showNewDocument(); });
     return screen;
 }
 

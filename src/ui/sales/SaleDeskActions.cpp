@@ -104,6 +104,12 @@ bool SaleDeskActions::save() {
     m_card.reset();
     m_payments.clear();
     m_giftDiscount.reset();
+    // What was handed over and the change stay in sight after the boxes are cleared;
+    // nothing typed means the payable amount exactly.
+    const SaleTotalsPanel& totals = *m_screen.totalsPanel();
+    const QString handedOver = totals.txtReceivedPrice->text().trimmed();
+    m_screen.showSettled(handedOver.isEmpty() ? totals.txtSumReceived->text() : handedOver,
+                         handedOver.isEmpty() ? QStringLiteral("0") : totals.txtReturn->text());
     m_screen.session().newSale();
     showNewDocument();
     return true;

@@ -26,6 +26,7 @@ constexpr double kBarcodeScale = 2.1;
 constexpr double kGridScale = 1.3;
 constexpr double kButtonScale = 1.1;
 constexpr double kSaveScale = 1.3;
+constexpr double kSettledScale = 1.5;
 constexpr int kSideColumnWidth = 400;
 constexpr int kBarcodeMinWidth = 420;
 
@@ -54,10 +55,6 @@ QHBoxLayout* topBar(frmSale& s) {
     bar->addSpacing(16);
     bar->addWidget(s.lblDailyReceived);
     bar->addStretch(1);
-    bar->addWidget(s.lblPrevFactor);
-    bar->addSpacing(8);
-    bar->addWidget(s.lblPrevPrice);
-    bar->addSpacing(16);
     bar->addWidget(s.btnGoodDefinition);
     bar->addWidget(s.cmdNewSaleForm);
     bar->addWidget(s.btnDetail);
@@ -74,11 +71,46 @@ QHBoxLayout* barcodeRow(frmSale& s) {
     auto* label = new QLabel(QStringLiteral("بارکد:"), &s);
     label->setFont(scaled(s.font(), kCaptionScale, true));
     label->setBuddy(s.txtBarcode);
+    // The red line of an entry that matched nothing keeps its height while empty, so
+    // that nothing below moves when it appears.
+    s.lblBarcodeStatus->setStyleSheet(
+        QStringLiteral("QLabel { color: #b00020; font-weight: bold; }"));
+    s.lblBarcodeStatus->setFont(scaled(s.font(), kButtonScale, true));
+    s.lblBarcodeStatus->setMinimumHeight(s.lblBarcodeStatus->fontMetrics().height() + 4);
+    auto* entry = new QVBoxLayout;
+    auto* box = new QHBoxLayout;
+    box->addWidget(label);
+    box->addWidget(s.txtBarcode, 1);
+    box->addWidget(s.btnBarcodeSearch);
+    box->addWidget(s.btnGetScaleWeight);
+    entry->addLayout(box);
+    entry->addWidget(s.lblBarcodeStatus);
+
+    // The sale just saved: its number and amount, and what the customer handed over and
+    // gets back, large enough to read while counting out the change.
+    const QFont large = scaled(s.font(), kSettledScale, true);
+    s.lblLastReceived->setFont(large);
+    s.lblLastChange->setFont(large);
+    s.lblLastChange->setStyleSheet(QStringLiteral("QLabel { color: #1f5a38; }"));
+    auto* previous = new QHBoxLayout;
+    previous->addWidget(s.lblPrevFactor);
+    previous->addSpacing(8);
+    previous->addWidget(s.lblPrevPrice);
+    previous->addStretch(1);
+    auto* settled = new QVBoxLayout;
+    settled->setSpacing(0);
+    settled->addLayout(previous);
+    settled->addWidget(s.lblLastReceived);
+    settled->addWidget(s.lblLastChange);
+    auto* lastSale = new QWidget(&s);
+    lastSale->setObjectName(QStringLiteral("fraLastSale"));
+    lastSale->setLayout(settled);
+    lastSale->layout()->setContentsMargins(8, 0, 8, 0);
+    lastSale->setFixedWidth(kSideColumnWidth);
+
     auto* row = new QHBoxLayout;
-    row->addWidget(label);
-    row->addWidget(s.txtBarcode, 1);
-    row->addWidget(s.btnBarcodeSearch);
-    row->addWidget(s.btnGetScaleWeight);
+    row->addLayout(entry, 1);
+    row->addWidget(lastSale);
     return row;
 }
 

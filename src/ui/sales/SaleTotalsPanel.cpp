@@ -115,19 +115,30 @@ void SaleTotalsPanel::buildLayout() {
     grid->setColumnStretch(0, 2);
 
     int column = 1;
-    const auto addField = [&](const QString& caption, QWidget* field, QWidget* second = nullptr) {
+    // A second control beside a field gets its own caption when it is a list to choose from.
+    const auto addField = [&](const QString& caption, QWidget* field, QWidget* second = nullptr,
+                              const QString& secondCaption = {}) {
         auto* label = new QLabel(caption, this);
         label->setBuddy(field);
-        grid->addWidget(label, 0, column, 1, second ? 2 : 1);
+        const bool ownCaption = second != nullptr && !secondCaption.isEmpty();
+        grid->addWidget(label, 0, column, 1, second != nullptr && !ownCaption ? 2 : 1);
         grid->addWidget(field, 1, column);
         if (second != nullptr) {
-            grid->addWidget(second, 1, ++column);
+            ++column;
+            if (ownCaption) {
+                auto* secondLabel = new QLabel(secondCaption, this);
+                secondLabel->setBuddy(second);
+                grid->addWidget(secondLabel, 0, column);
+            }
+            grid->addWidget(second, 1, column);
         }
         ++column;
     };
     addField(QStringLiteral("تخفیف ٪"), txtDiscountPercent, DiscountButton);
-    addField(QStringLiteral("مبلغ تخفیف (Ctrl+J)"), txtDiscount, cmbDiscountType);
-    addField(QStringLiteral("هزینه اضافه (Ctrl+Z)"), txtOther, cmbOverhead);
+    addField(QStringLiteral("مبلغ تخفیف (Ctrl+J)"), txtDiscount, cmbDiscountType,
+             QStringLiteral("نوع تخفیف"));
+    addField(QStringLiteral("هزینه اضافه (Ctrl+Z)"), txtOther, cmbOverhead,
+             QStringLiteral("نوع هزینه"));
     addField(QStringLiteral("قابل پرداخت (Ctrl+B)"), txtSumReceived);
     grid->addWidget(lblReceivedPrice, 0, column);
     grid->addWidget(txtReceivedPrice, 1, column++);

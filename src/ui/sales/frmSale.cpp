@@ -21,6 +21,7 @@
 #include "sales/SaleKeyMap.h"
 #include "sales/SaleScreenLists.h"
 #include "sales/SaleSession.h"
+#include "sales/SaleTexts.h"
 #include "sales/SettlingPause.h"
 #include "settings/MachineSettings.h"
 #include "settings/MessageService.h"
@@ -32,6 +33,7 @@
 #include "ui/sales/SaleTotalsPanel.h"
 #include "ui/sales/frmAskQty.h"
 #include "ui/sales/frmChangeQty.h"
+#include "ui/sales/frmGoodsSearch.h"
 #include "ui/sales/frmSelectPrice.h"
 #include "ui/sales/frmUserSelect.h"
 #include "ui/widgets/AmountEdit.h"
@@ -110,6 +112,12 @@ void frmSale::buildControls() {
     lblPrevFactor->setObjectName(QStringLiteral("lblPrevFactor"));
     lblPrevPrice = new QLabel(this);
     lblPrevPrice->setObjectName(QStringLiteral("lblPrevPrice"));
+    lblLastReceived = new QLabel(this);
+    lblLastReceived->setObjectName(QStringLiteral("lblLastReceived"));
+    lblLastChange = new QLabel(this);
+    lblLastChange->setObjectName(QStringLiteral("lblLastChange"));
+    lblBarcodeStatus = new QLabel(this);
+    lblBarcodeStatus->setObjectName(QStringLiteral("lblBarcodeStatus"));
 
     m_customer = new SaleCustomerPanel(*m_sale, m_database, m_messages, this);
     m_totals = new SaleTotalsPanel(this);
@@ -152,6 +160,7 @@ void frmSale::buildControls() {
     m_askQty = new frmAskQty(this);
     m_changeQty = new frmChangeQty(this);
     m_selectPrice = new frmSelectPrice(this);
+    m_searchGoods = new frmGoodsSearch(m_database, this);
     m_userSelect = new frmUserSelect(this);
 }
 
@@ -257,7 +266,9 @@ void frmSale::enterBarcode() {
     if (text.trimmed().isEmpty()) {
         txtBarcode->clear();
     } else {
+        showSettled(QString(), QString());
         const EntryOutcome outcome = m_sale->enterText(text);
+        showEntryOutcome(outcome.boxText, outcome.notFound);
         if (outcome.clearBox) {
             txtBarcode->clear();
         } else {
@@ -428,10 +439,10 @@ void frmSale::changeQuantity() {
 }
 
 void frmSale::searchGoods() {
-    if (m_goodsSearch) {
-        if (const QString barcode = m_goodsSearch().trimmed(); !barcode.isEmpty()) {
-            m_sale->addGoods(barcode);
-        }
+    const QString barcode =
+        (m_goodsSearch ? m_goodsSearch() : m_searchGoods->chooseGoods()).trimmed();
+    if (!barcode.isEmpty()) {
+        m_sale->addGoods(barcode);
     }
     focusBarcode();
 }
@@ -475,6 +486,23 @@ void frmSale::showPreviousInvoice(const QString& docNo, double received) {
     lblPrevFactor->setText(QStringLiteral("فاکتور قبلی: ") + docNo);
     lblPrevPrice->setText(QStringLiteral("مبلغ: ") +
                           QString::fromStdString(AmountText::formatWhole(received)));
+}
+
+void frmSale::showSettled(const QString& received, const QString& change) {
+    const bool shown = !received.isEmpty() || !change.isEmpty();
+    lblLastReceived->setText(shown ? QStringLiteral("دریافتی: ") + received : QString());
+    lblLastChange->setText(
+        shown ? QStringLiteral("باقی‌مانده به مشتری: ") + change : QString());
+}
+
+void frmSale::showEntryOutcome(const QString& text, bool notFound) {
+    if (!notFound) {
+        lblBarcodeStatus->clear();
+        return;
+    }
+    // No dialog: the next scan goes on at once, and the text stays readable here.
+    lblBarcodeStatus->setText(SaleTexts::goodsNotFound() + QStringLiteral(": ") + text.trimmed());
+    QApplication::beep();
 }
 
 void frmSale::focusBarcode() {

@@ -30,6 +30,7 @@ class TotalDisplay;
 class WeightService;
 class frmAskQty;
 class frmChangeQty;
+class frmGoodsSearch;
 class frmSelectPrice;
 class frmUserSelect;
 
@@ -63,13 +64,15 @@ public:
     void setCustomerDisplay(CustomerDisplay* display);
     // btnGetScaleWeight reads the weight of the current line from this service.
     void setWeightService(WeightService* service);
-    // Ctrl+L: the goods search; returns the chosen article's barcode, or empty text.
+    // Ctrl+L: replaces the goods search dialog frmGoodsSearch; returns the chosen
+    // article's barcode, or empty text.
     void setGoodsSearch(std::function<QString()> search);
 
     SaleCustomerPanel* customerPanel() const { return m_customer; }
     SaleTotalsPanel* totalsPanel() const { return m_totals; }
     SaleDetailPanel* detailPanel() const { return frmDetail; }
     SaleFavouritesPanel* favouritesPanel() const { return m_favourites; }
+    frmGoodsSearch* goodsSearch() const { return m_searchGoods; }
 
     // Enter in the barcode box: the settling pause, then the sale resolves the text.
     void enterBarcode();
@@ -79,6 +82,9 @@ public:
     bool showDailyTotals();
     // The desk's previous invoice beside the number: its number and the amount received.
     void showPreviousInvoice(const QString& docNo, double received);
+    // The amount handed over and the change of the sale just saved, in large type until
+    // the next entry in the barcode box.
+    void showSettled(const QString& received, const QString& change);
 
     QLabel* lblCaption;
     QLineEdit* txtBarcode;
@@ -88,6 +94,10 @@ public:
     QLabel* lblDailyReceived;
     QLabel* lblPrevFactor;
     QLabel* lblPrevPrice;
+    QLabel* lblLastReceived;
+    QLabel* lblLastChange;
+    // Under the barcode box: what the last entry matched nothing with, in red.
+    QLabel* lblBarcodeStatus;
     SaleDetailPanel* frmDetail;
     QPushButton* btnDetail;
     QPushButton* btnBarcodeSearch;
@@ -135,6 +145,7 @@ private:
     void focusBarcode();
     void focusAmount(QLineEdit* box, bool selectText);
     void showMode();
+    void showEntryOutcome(const QString& text, bool notFound);
     void leave();
 
     Database& m_database;
@@ -148,6 +159,7 @@ private:
     frmAskQty* m_askQty = nullptr;
     frmChangeQty* m_changeQty = nullptr;
     frmSelectPrice* m_selectPrice = nullptr;
+    frmGoodsSearch* m_searchGoods = nullptr;
     frmUserSelect* m_userSelect = nullptr;
     CustomerDisplay* m_display = nullptr;
     WeightService* m_weight = nullptr;

@@ -14,6 +14,7 @@
 #include "settings/SettingKeys.h"
 #include "settings/SettingsCatalogue.h"
 #include "settings/SettingsStore.h"
+#include "ui/settings/ChoiceSettingField.h"
 #include "ui/settings/FlagSettingField.h"
 #include "ui/settings/NumberSettingField.h"
 #include "ui/settings/PortSettingField.h"
@@ -176,7 +177,9 @@ void frmSetUp::buildPages(const QString& programFolder) {
     for (SettingGroup group : kPages) {
         std::vector<SettingDescriptor> rows;
         for (const SettingDescriptor& row : SettingsCatalogue::inGroup(group)) {
-            if (storeFor(row) && !isPortDevice(row)) {
+            // Who logged in last is the program's own record, not for editing.
+            if (storeFor(row) && !isPortDevice(row) &&
+                !SettingsCatalogue::writtenByProgram(row.key)) {
                 rows.push_back(row);
             }
         }
@@ -231,6 +234,10 @@ std::unique_ptr<SettingField> frmSetUp::makeField(const SettingDescriptor& row,
     }
     if (isOneOf(row, kTrueFalseKeys)) {
         return std::make_unique<TrueFalseSettingField>(row, store, page);
+    }
+    if (QList<SettingsCatalogue::Choice> choices = SettingsCatalogue::choices(row.key);
+        !choices.isEmpty()) {
+        return std::make_unique<ChoiceSettingField>(row, std::move(choices), store, page);
     }
     switch (row.key.form) {
         case SettingForm::Flag:

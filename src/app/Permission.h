@@ -18,6 +18,8 @@ enum class Permission {
     Purchases,       // purchase invoices and stock documents
     Reports,         // reports and document lists
     Users,           // users and their permissions
+    DeleteSales,     // deleting saved documents, and the record of deletes and edits
+    EditSales,       // editing saved sales and returns
 };
 
 }  // namespace sandogh

@@ -8,7 +8,7 @@ const QList<MigrationStep>& shopMigrations() {
     static const QList<MigrationStep> steps{
         shopschema::siteStep(),         shopschema::parametersStep(), shopschema::goodsStep(),
         shopschema::documentsStep(),    shopschema::accountsStep(),   shopschema::giftCardsStep(),
-        shopschema::scaleVendorsStep(), shopschema::lookupsStep(),
+        shopschema::scaleVendorsStep(), shopschema::lookupsStep(),    shopschema::saleAuditStep(),
     };
     return steps;
 }

@@ -123,5 +123,6 @@ MigrationStep accountsStep();      // 5
 MigrationStep giftCardsStep();     // 6
 MigrationStep scaleVendorsStep();  // 7
 MigrationStep lookupsStep();       // 8
+MigrationStep saleAuditStep();     // 13
 
 }  // namespace sandogh::shopschema

@@ -12,6 +12,7 @@ int runSell(AdminCall& call);
 int runReceipt(AdminCall& call);
 int runReport(AdminCall& call);
 int runStockRepair(AdminCall& call);
+int runSales(AdminCall& call);
 
 const QList<AdminCommand>& adminCommands() {
     static const QList<AdminCommand> commands = {
@@ -31,6 +32,8 @@ const QList<AdminCommand>& adminCommands() {
         {"stock-repair",
          "stock-repair [BARCODE ...]  recompute the stock of articles (all without)",
          runStockRepair},
+        {"sales", "sales list|delete|reprint ...  saved documents: list, delete, reprint",
+         runSales},
     };
     return commands;
 }

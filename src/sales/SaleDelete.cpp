@@ -18,6 +18,10 @@ using namespace procedures;
 
 const QString kModule = QStringLiteral("frmDeleteFactor");
 
+// A deleted sale gives back one loyalty gift whatever number it took: kept as the shops have
+// always had it, though saving counts the gifts by the discount amount.
+constexpr int kGiftsGivenBack = 1;
+
 }  // namespace
 
 QString SaleDelete::notFoundText() {
@@ -95,6 +99,7 @@ SaleDelete::Outcome SaleDelete::deleteGroup(const QList<SaleDeleteRepository::Li
 
 bool SaleDelete::CanFactorDelete(Session& session, qint64 code, int transType, qint64 documentHId) {
     const qint64 movements = SaleDeleteRepository::movements(session, code, transType, documentHId);
+    m_hadMovements = movements > 0;
     if (movements < 0) {
         return false;
     }
@@ -128,11 +133,9 @@ bool SaleDelete::DelRoutine(Session& s, const SaleDeleteRepository::Found& docum
     if (!barcodes.isEmpty() && !sp_StockRepair(s, barcodes)) {
         return false;
     }
-    // One gift back whatever number of gifts the sale took: saving counts gifts by the
-    // amount, deleting gives back one, as the shops have always had it.
     if (document.companyId != 0 &&
         SaleDeleteRepository::isGiftDiscount(s, document.discountTypeId) &&
-        !SaleDeleteRepository::giveGiftBack(s, document.companyId)) {
+        !SaleDeleteRepository::giveGiftsBack(s, document.companyId, kGiftsGivenBack)) {
         return false;
     }
     if (!SaleDeleteRepository::deleteGiftCardItems(s, document.code)) {
@@ -158,15 +161,9 @@ SaleDelete::Outcome SaleDelete::deleteDocument(int transType,
         m_messages.show(Database::connectionFailureMessage(), MessageStyle::CriticalPlain);
         return Outcome::Failed;
     }
-    const qint64 movements =
-        SaleDeleteRepository::movements(s, document.code, transType, document.documentHId);
-    if (movements != 0) {
+    if (!CanFactorDelete(s, document.code, transType, document.documentHId)) {
         tx.rollback();
-        if (movements > 0) {
-            m_messages.show(movementsText(), MessageStyle::Critical);
-            return Outcome::HasMovements;
-        }
-        return Outcome::Failed;
+        return m_hadMovements ? Outcome::HasMovements : Outcome::Failed;
     }
     const bool deleted = DelRoutine(s, document) && tx.commit();
     if (!deleted) {

@@ -51,6 +51,7 @@ private:
     MessageService& m_messages;
     const Clock& m_clock;
     SaleAudit::Desk m_desk;
+    bool m_hadMovements = false;  // what the last CanFactorDelete found
 };
 
 }  // namespace sandogh

@@ -1,5 +1,7 @@
 #include "sales/SaleListModel.h"
 
+#include <algorithm>
+
 #include "common/AmountText.h"
 #include "data/Database.h"
 

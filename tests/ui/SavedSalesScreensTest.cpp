@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -51,7 +52,6 @@ protected:
             h.transType = kSale;
             h.docDate = QStringLiteral("1404/01/01");
             h.docSum = 1000 * i;
-            h.stationId = 1;
             if (i >= 2) {
                 h.companyId = 9001;
             }
@@ -116,8 +116,10 @@ TEST_F(SavedSalesScreensTest, TheSelectedDocumentIsDeletedFromTheList) {
 TEST_F(SavedSalesScreensTest, CtrlPOnTheSaleScreenOpensTheDeleteScreenWhenAllowed) {
     for (const PermissionLevel level : {PermissionLevel::Cashier, PermissionLevel::Administrator}) {
         frmMain window(app.context);
+        window.Form_Load();
         window.applyPermissions(Permissions(level));
         window.show();
+        QApplication::setActiveWindow(&window);
         window.command(QStringLiteral("mnuSale"))->trigger();
         auto* sale = qobject_cast<frmSale*>(window.mdiArea()->activeSubWindow()->widget());
         ASSERT_NE(sale, nullptr);

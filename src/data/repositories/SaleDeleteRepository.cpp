@@ -79,10 +79,11 @@ bool SaleDeleteRepository::isGiftDiscount(Session& session, int discountTypeId) 
                {{QStringLiteral(":id"), discountTypeId}}) != 0;
 }
 
-bool SaleDeleteRepository::giveGiftBack(Session& session, int customer) {
-    return session.exec(QStringLiteral("UPDATE Types SET DiscountTakenTotal = DiscountTakenTotal "
-                                       "- 1 WHERE Counter = :customer"),
-                        {{QStringLiteral(":customer"), customer}});
+bool SaleDeleteRepository::giveGiftsBack(Session& session, int customer, int gifts) {
+    return session.exec(
+        QStringLiteral("UPDATE Types SET DiscountTakenTotal = DiscountTakenTotal "
+                       "- :gifts WHERE Counter = :customer"),
+        {{QStringLiteral(":gifts"), gifts}, {QStringLiteral(":customer"), customer}});
 }
 
 bool SaleDeleteRepository::deleteGiftCardItems(Session& session, qint64 code) {

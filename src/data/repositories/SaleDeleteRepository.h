@@ -46,8 +46,8 @@ public:
     static qint64 movements(Session& session, qint64 code, int transType, qint64 documentHId);
     // Whether the discount kind is a loyalty gift (DiscountType.IsImpactGift).
     static bool isGiftDiscount(Session& session, int discountTypeId);
-    // One gift back to the customer.
-    static bool giveGiftBack(Session& session, int customer);
+    // Gifts given back to the customer (DiscountTakenTotal lowered).
+    static bool giveGiftsBack(Session& session, int customer, int gifts);
     // The gift card movements that paid the document.
     static bool deleteGiftCardItems(Session& session, qint64 code);
     // The documents of every kind dated `date` (all dates when empty), newest key first.

@@ -150,7 +150,12 @@ void frmSaleUpdate::cellChanged(int row, int column) {
         return;
     }
     l.recompute();
-    fillGrid();
+    // Only the computed cells are written: the edited item stays as it is.
+    m_filling = true;
+    Grid1->item(row, ColFee)->setText(amountText(l.fee));
+    Grid1->item(row, ColPrice)->setText(amountText(l.price));
+    m_filling = false;
+    showTotals();
 }
 
 void frmSaleUpdate::showTotals() {

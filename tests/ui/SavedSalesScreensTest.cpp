@@ -15,6 +15,7 @@
 #include <QTest>
 
 #include "ScreenTestContext.h"
+#include "TypeText.h"
 #include "app/Permissions.h"
 #include "data/Session.h"
 #include "data/Transaction.h"
@@ -86,8 +87,8 @@ TEST_F(SavedSalesScreensTest, TheChoiceAndTheFiltersTypedReachTheGrid) {
     choice->setCurrentIndex(2);  // all
     EXPECT_EQ(numbers(list), (QStringList{"3", "2", "1"}));
 
-    QTest::keyClicks(list.findChild<QLineEdit*>(QStringLiteral("txtCustomer")),
-                     QStringLiteral("اکبری"));
+    test::typeText(list.findChild<QLineEdit*>(QStringLiteral("txtCustomer")),
+                   QStringLiteral("اکبری"));
     QTest::mouseClick(list.findChild<QPushButton*>(QStringLiteral("cmdSearch")), Qt::LeftButton);
     EXPECT_EQ(numbers(list), (QStringList{"3", "2"}));
     auto* base = list.findChild<QLineEdit*>(QStringLiteral("txtBase"));

@@ -79,12 +79,13 @@ TEST(ExpressionIndexRendering, ShopNumberIndexesSpellTheNumberOneWay) {
         for (const IndexDef& i : step.indexes) {
             if (!i.expressions.isEmpty()) {
                 ++found;
-                EXPECT_EQ(i.expressions, QStringList{QStringLiteral("CAST(DocNo AS BIGINT)")});
+                // The number first; the list's pages add the key after it.
+                EXPECT_EQ(i.expressions.first(), QStringLiteral("CAST(DocNo AS BIGINT)"));
                 EXPECT_EQ(i.columns.first(), QStringLiteral("TransType"));
             }
         }
     }
-    EXPECT_EQ(found, 3);
+    EXPECT_EQ(found, 4);
 }
 
 }  // namespace

@@ -35,11 +35,16 @@ QString searchKeyOf(const QString& text) {
 
 }  // namespace
 
-QString SaleListQuery::searchKeySql(const QString& expression) {
-    // Fixed characters of the fold, not values: written into the statement as literals.
+QString SaleListQuery::searchKeySql(const QString& expression, const QString& key) {
+    // Fixed characters of the fold, not values: written into the statement as literals. A
+    // character is folded only when what it folds to is in the searched key (otherwise it
+    // cannot take part in a match); the zero-width non-joiner always goes. Each REPLACE costs
+    // a pass over every customer's name, so a name typed without digits takes three.
     QString sql = expression;
     for (const auto& [from, to] : foldPairs()) {
-        sql = QStringLiteral("REPLACE(%1, '%2', '%3')").arg(sql, from, to);
+        if (to.isEmpty() || key.contains(to)) {
+            sql = QStringLiteral("REPLACE(%1, '%2', '%3')").arg(sql, from, to);
+        }
     }
     return sql;
 }
@@ -76,7 +81,8 @@ QString SaleListQuery::statement(Session& session, const Filter& filter, bool de
             d.concat({QStringLiteral("COALESCE(C.Name, '')"), QStringLiteral("' '"),
                       QStringLiteral("COALESCE(C.Value1, '')")});
         sql += QStringLiteral(" AND H.CompanyID IN (SELECT C.Counter FROM Types C WHERE ") +
-               searchKeySql(name) + QStringLiteral(" LIKE :customer)");
+               searchKeySql(name, searchKeyOf(filter.customer)) +
+               QStringLiteral(" LIKE :customer)");
     }
     if (!filter.base.trimmed().isEmpty()) {
         sql += QStringLiteral(" AND H.Base LIKE :base");

@@ -56,8 +56,9 @@ public:
     // The statement page() runs for these choices (for the benchmarks' query plans).
     static QString statement(Session& session, const Filter& filter, bool descending, bool atStart,
                              int rows);
-    // The search key form of a column expression, in SQL (nested REPLACEs).
-    static QString searchKeySql(const QString& expression);
+    // The search key form of a column expression, in SQL (nested REPLACEs), for comparing
+    // with `key` (already a search key).
+    static QString searchKeySql(const QString& expression, const QString& key);
 };
 
 }  // namespace sandogh

@@ -24,6 +24,8 @@ enum class Permission {
     Backup,          // backing up and restoring the shop
     FiscalYear,      // opening a new fiscal year
     SwitchUser,      // back to the login without leaving; every user
+    DeleteSales,     // deleting saved documents, and the record of deletes and edits
+    EditSales,       // editing saved sales and returns
 };
 
 // Every permission, in the order the permissions screen lists them.

@@ -109,6 +109,18 @@ std::optional<VoucherHeader> sp_tblDocumentH_SelectRow(Session& session, qint64 
     return header;
 }
 
+bool sp_tblDocumentH_Update(Session& session, const VoucherHeader& header) {
+    SqlBinds binds{{QStringLiteral(":ID"), header.id}, {QStringLiteral(":Code"), header.code}};
+    QStringList sets{QStringLiteral("Code = :Code")};
+    for (const auto& [column, value] : headerValues(header)) {
+        sets << column + QStringLiteral(" = :") + column;
+        binds.append({QLatin1Char(':') + column, value});
+    }
+    return session.exec(QStringLiteral("UPDATE tblDocumentH SET ") +
+                            sets.join(QStringLiteral(", ")) + QStringLiteral(" WHERE ID = :ID"),
+                        binds);
+}
+
 bool sp_tblDocumentH_DeleteRow(Session& session, qint64 id) {
     return session.exec(QStringLiteral("DELETE FROM tblDocumentH WHERE ID = :id"),
                         {{QStringLiteral(":id"), id}});

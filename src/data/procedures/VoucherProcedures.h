@@ -31,6 +31,10 @@ bool sp_tblDocumentD_InsertRows(Session& session, qint64 documentHId,
 // sp_tblDocumentH_SelectRow (@ID): the voucher header, or nothing.
 std::optional<VoucherHeader> sp_tblDocumentH_SelectRow(Session& session, qint64 id);
 
+// sp_tblDocumentH_Update (@ID, @Code, @Date, @Time, @UserID, @Transfer, @Permanent,
+// @Serial, @Note): writes the header's values again over the row header.id.
+bool sp_tblDocumentH_Update(Session& session, const VoucherHeader& header);
+
 // sp_tblDocumentH_DeleteRow (@ID): removes the voucher header.
 bool sp_tblDocumentH_DeleteRow(Session& session, qint64 id);
 

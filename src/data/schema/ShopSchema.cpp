@@ -10,6 +10,7 @@ const QList<MigrationStep>& shopMigrations() {
         shopschema::documentsStep(),    shopschema::accountsStep(),   shopschema::giftCardsStep(),
         shopschema::scaleVendorsStep(), shopschema::lookupsStep(),    shopschema::goodsSearchStep(),
         shopschema::userRightsStep(),
+        shopschema::scaleVendorsStep(), shopschema::lookupsStep(),    shopschema::saleAuditStep(),
     };
     return steps;
 }

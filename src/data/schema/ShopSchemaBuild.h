@@ -125,5 +125,6 @@ MigrationStep scaleVendorsStep();  // 7
 MigrationStep lookupsStep();       // 8
 MigrationStep goodsSearchStep();   // 11
 MigrationStep userRightsStep();    // 14
+MigrationStep saleAuditStep();     // 13
 
 }  // namespace sandogh::shopschema

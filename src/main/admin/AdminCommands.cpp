@@ -15,6 +15,7 @@ int runStockRepair(AdminCall& call);
 int runBackup(AdminCall& call);
 int runRestore(AdminCall& call);
 int runNewYear(AdminCall& call);
+int runSales(AdminCall& call);
 
 const QList<AdminCommand>& adminCommands() {
     static const QList<AdminCommand> commands = {
@@ -39,6 +40,8 @@ const QList<AdminCommand>& adminCommands() {
          runRestore},
         {"new-year", "new-year --name NAME        open the next fiscal year as database NAME",
          runNewYear},
+        {"sales", "sales list|delete|reprint ...  saved documents: list, delete, reprint",
+         runSales},
     };
     return commands;
 }

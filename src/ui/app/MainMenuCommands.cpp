@@ -5,6 +5,7 @@
 #include "ui/admin/frmNewYear.h"
 #include "ui/admin/frmPermissions.h"
 #include "ui/admin/frmUsers.h"
+#include "app/Permissions.h"
 #include "ui/app/frmMain.h"
 #include "ui/catalog/CatalogScreens.h"
 #include "ui/catalog/frmCodeParameters.h"
@@ -13,6 +14,12 @@
 #include "ui/parties/frmCustomerGroup.h"
 #include "ui/parties/frmParties.h"
 #include "ui/sales/SaleDesk.h"
+#include "ui/sales/frmDeleteFactor.h"
+#include "ui/sales/frmDeleteFactorGroup.h"
+#include "ui/sales/frmRePrint.h"
+#include "ui/sales/frmSaleAudit.h"
+#include "ui/sales/frmSaleList.h"
+#include "ui/sales/frmSaleUpdate.h"
 #include "ui/sales/frmShift.h"
 #include "ui/settings/frmSetUp.h"
 
@@ -49,6 +56,28 @@ void openBackup(frmMain& main) {
         QObject::connect(screen, &frmBackup::restored, &main, &frmMain::ExitApplication,
                          Qt::QueuedConnection);
         return screen;
+    });
+}
+
+// The saved documents of one kind; a sale or return opens in frmSaleUpdate from there
+// when the user may edit.
+void openSaleList(frmMain& main, int transType) {
+    main.openChild(QStringLiteral("frmSaleList/%1").arg(transType), [&main, transType] {
+        auto* list = new frmSaleList(main.context(), transType);
+        QObject::connect(
+            list, &frmSaleList::editRequested, &main,
+            [&main](qint64 code, const QString& name, int counter) {
+                if (!Permissions(main.context().user().level).allows(Permission::EditSales)) {
+                    return;
+                }
+                auto* editor = qobject_cast<frmSaleUpdate*>(
+                    main.openChild(QStringLiteral("frmSaleUpdate"),
+                                   [&main] { return new frmSaleUpdate(main.context()); }));
+                if (editor != nullptr) {
+                    editor->frmSaleUdateSetup(code, name, QString::number(counter));
+                }
+            });
+        return list;
     });
 }
 
@@ -128,6 +157,30 @@ QList<MainMenuCommand> MainMenuCommands::all() {
          Permission::Shift,
          child(QStringLiteral("frmShift"),
                [](AppContext& c) { return new frmShift(c.database(), c.messages()); })},
+        {QStringLiteral("mnuSaleList"), QStringLiteral("فهرست فاکتورهای فروش"), MainMenu::Sales,
+         Permission::Reports, [](frmMain& main) { openSaleList(main, 2); }},
+        {QStringLiteral("mnuSaleReturnList"),
+         QStringLiteral("فهرست مرجوعی‌های فروش"), MainMenu::Sales,
+         Permission::Reports, [](frmMain& main) { openSaleList(main, 3); }},
+        {QStringLiteral("mnuRePrint"), QStringLiteral("چاپ مجدد فاکتور"), MainMenu::Sales,
+         Permission::Sale,
+         child(QStringLiteral("frmRePrint"), [](AppContext& c) { return new frmRePrint(c); })},
+        {QStringLiteral("mnuDeleteFactor"), QStringLiteral("حذف فاکتور"), MainMenu::Sales,
+         Permission::DeleteSales,
+         child(QStringLiteral("frmDeleteFactor"),
+               [](AppContext& c) { return new frmDeleteFactor(c); })},
+        {QStringLiteral("mnuDeleteFactorGroup"), QStringLiteral("حذف گروهی فاکتورها"),
+         MainMenu::Sales, Permission::DeleteSales,
+         child(QStringLiteral("frmDeleteFactorGroup"),
+               [](AppContext& c) { return new frmDeleteFactorGroup(c); })},
+        {QStringLiteral("mnuSaleAudit"), QStringLiteral("سوابق حذف و ویرایش فاکتورها"),
+         MainMenu::Sales, Permission::DeleteSales,
+         child(QStringLiteral("frmSaleAudit"), [](AppContext& c) { return new frmSaleAudit(c); })},
+        {QStringLiteral("mnuBuyList"), QStringLiteral("فهرست فاکتورهای خرید"), MainMenu::Purchases,
+         Permission::Reports, [](frmMain& main) { openSaleList(main, 1); }},
+        {QStringLiteral("mnuBuyReturnList"),
+         QStringLiteral("فهرست مرجوعی‌های خرید"), MainMenu::Purchases,
+         Permission::Reports, [](frmMain& main) { openSaleList(main, 4); }},
         {QStringLiteral("mnuGoodsList"), QStringLiteral("فهرست کالاها"), MainMenu::Goods,
          Permission::Goods,
          child(QStringLiteral("frmGoodsList"),

@@ -1,5 +1,7 @@
 #include "ui/sales/SaleDesk.h"
 
+#include <QAction>
+
 #include "app/AppContext.h"
 #include "devices/CompanionHandOff.h"
 #include "devices/CustomerDisplay.h"
@@ -130,6 +132,12 @@ frmSale* SaleDesk::openNamed(frmMain& main, const QString& name) {
         // The drawer goes through the main window's one entry.
         desk->m_actions->setDrawer([&main] { main.mnuOpenCash_Click(); });
         connect(screen, &frmSale::newSaleFormRequested, &main, [&main] { openAnother(main); });
+        // Ctrl+P: frmDeleteFactor through its menu command, which carries its permission.
+        connect(screen, &frmSale::deleteInvoiceRequested, &main, [&main] {
+            if (QAction* a = main.command(QStringLiteral("mnuDeleteFactor")); a && a->isEnabled()) {
+                a->trigger();
+            }
+        });
         connect(screen, &frmSale::goodDefinitionRequested, &main, [&main] {
             main.openChild(QStringLiteral("frmGood"),
                            [&main] { return CatalogScreens::good(main.context()); });

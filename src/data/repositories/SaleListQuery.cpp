@@ -1,0 +1,165 @@
+#include "data/repositories/SaleListQuery.h"
+
+#include "common/TextHelpers.h"
+#include "data/Dialect.h"
+#include "data/Session.h"
+#include "data/SqlQuery.h"
+
+namespace sandogh {
+
+namespace {
+
+// The number as the index orders it (spelled as the schema's index spells it).
+const QString kNumber = QStringLiteral("CAST(DocNo AS BIGINT)");
+
+// What TextHelpers::searchKey folds, as pairs of (from, to): Arabic yeh, alef maksura and
+// Arabic kaf to the Persian letters, Persian and Arabic-Indic digits to ASCII, and the
+// zero-width non-joiner removed.
+QList<QPair<QString, QString>> foldPairs() {
+    QList<QPair<QString, QString>> pairs{
+        {QString(QChar(0x064A)), QString(QChar(0x06CC))},
+        {QString(QChar(0x0649)), QString(QChar(0x06CC))},
+        {QString(QChar(0x0643)), QString(QChar(0x06A9))},
+        {QString(QChar(0x200C)), QString()},
+    };
+    for (int d = 0; d < 10; ++d) {
+        pairs.append({QString(QChar(0x06F0 + d)), QString::number(d)});
+        pairs.append({QString(QChar(0x0660 + d)), QString::number(d)});
+    }
+    return pairs;
+}
+
+QString searchKeyOf(const QString& text) {
+    return QString::fromStdString(TextHelpers::searchKey(text.trimmed().toStdString()));
+}
+
+}  // namespace
+
+QString SaleListQuery::searchKeySql(const QString& expression, const QString& key) {
+    // Fixed characters of the fold, not values: written into the statement as literals. A
+    // character is folded only when what it folds to is in the searched key (otherwise it
+    // cannot take part in a match); the zero-width non-joiner always goes. Each REPLACE costs
+    // a pass over every customer's name, so a name typed without digits takes three.
+    QString sql = expression;
+    for (const auto& [from, to] : foldPairs()) {
+        if (to.isEmpty() || key.contains(to)) {
+            sql = QStringLiteral("REPLACE(%1, '%2', '%3')").arg(sql, from, to);
+        }
+    }
+    return sql;
+}
+
+QString SaleListQuery::statement(Session& session, const Filter& filter, bool descending,
+                                 bool atStart, int rows) {
+    const Dialect& d = session.dialect();
+    const QString customerName =
+        d.concat({QStringLiteral("COALESCE(T.Name, '')"), QStringLiteral("' '"),
+                  QStringLiteral("COALESCE(T.Value1, '')")});
+    QString sql = QStringLiteral("SELECT ") + d.top(rows) + QStringLiteral("H.DocNo, H.DocDate, ") +
+                  customerName +
+                  QStringLiteral(
+                      ", H.DocSum, H.Base, V.Code, H.Code, H.DocumentHID, "
+                      "H.CompanyID, ") +
+                  kNumber +
+                  QStringLiteral(
+                      " FROM Whs_QTYDocH H LEFT OUTER JOIN Types T ON "
+                      "H.CompanyID = T.Counter LEFT OUTER JOIN tblDocumentH V ON "
+                      "V.ID = H.DocumentHID WHERE H.TransType = :transType AND "
+                      "H.DocType IS NULL");
+    if (!filter.docNo.trimmed().isEmpty()) {
+        sql += QStringLiteral(" AND H.DocNo = :docNo");
+    }
+    if (!filter.docDate.trimmed().isEmpty()) {
+        sql += filter.docDate.trimmed() == QLatin1String(SqlQuery::kEmptyDate)
+                   ? QStringLiteral(
+                         " AND (H.DocDate IS NULL OR H.DocDate = '' OR "
+                         "H.DocDate = :docDate)")
+                   : QStringLiteral(" AND H.DocDate = :docDate");
+    }
+    if (!filter.customer.trimmed().isEmpty()) {
+        const QString name =
+            d.concat({QStringLiteral("COALESCE(C.Name, '')"), QStringLiteral("' '"),
+                      QStringLiteral("COALESCE(C.Value1, '')")});
+        sql += QStringLiteral(" AND H.CompanyID IN (SELECT C.Counter FROM Types C WHERE ") +
+               searchKeySql(name, searchKeyOf(filter.customer)) +
+               QStringLiteral(" LIKE :customer)");
+    }
+    if (!filter.base.trimmed().isEmpty()) {
+        sql += QStringLiteral(" AND H.Base LIKE :base");
+    }
+    if (!atStart) {
+        const QString cmp = descending ? QStringLiteral("<") : QStringLiteral(">");
+        if (session.backend() == Backend::SqlServer) {
+            sql += QStringLiteral(
+                       " AND (%1 %2 :afterNumber OR (%1 = :afterNumber2 AND H.Code "
+                       "%2 :afterCode))")
+                       .arg(kNumber, cmp);
+        } else {
+            sql +=
+                QStringLiteral(" AND (%1, H.Code) %2 (:afterNumber, :afterCode)").arg(kNumber, cmp);
+        }
+    }
+    const QString order = descending ? QStringLiteral(" DESC") : QString();
+    sql += QStringLiteral(" ORDER BY ") + kNumber + order + QStringLiteral(", H.Code") + order +
+           d.limit(rows);
+    return sql;
+}
+
+QList<SaleListQuery::Row> SaleListQuery::page(Session& session, const Filter& filter,
+                                              bool descending, const Position& after, int rows) {
+    QList<Row> result;
+    if (rows <= 0) {
+        return result;
+    }
+    SqlQuery q(session, statement(session, filter, descending, after.atStart, rows));
+    q.bind(QStringLiteral(":transType"), filter.transType);
+    if (!filter.docNo.trimmed().isEmpty()) {
+        q.bind(QStringLiteral(":docNo"), filter.docNo.trimmed());
+    }
+    if (!filter.docDate.trimmed().isEmpty()) {
+        q.bind(QStringLiteral(":docDate"), filter.docDate.trimmed());
+    }
+    if (!filter.customer.trimmed().isEmpty()) {
+        q.bind(QStringLiteral(":customer"),
+               QLatin1Char('%') + searchKeyOf(filter.customer) + QLatin1Char('%'));
+    }
+    if (!filter.base.trimmed().isEmpty()) {
+        q.bind(QStringLiteral(":base"),
+               QLatin1Char('%') + filter.base.trimmed() + QLatin1Char('%'));
+    }
+    if (!after.atStart) {
+        q.bind(QStringLiteral(":afterNumber"), after.number);
+        q.bind(QStringLiteral(":afterCode"), after.code);
+        if (session.backend() == Backend::SqlServer) {
+            q.bind(QStringLiteral(":afterNumber2"), after.number);
+        }
+    }
+    if (!q.exec()) {
+        return result;
+    }
+    while (q.next()) {
+        Row r;
+        r.docNo = q.text(0);
+        r.docDate = q.date(1);
+        r.customerName = q.text(2).trimmed();
+        r.docSum = q.number(3);
+        r.base = q.text(4);
+        r.voucherCode = q.int64(5);
+        r.code = q.int64(6);
+        r.documentHId = q.int64(7);
+        r.customerId = q.integer(8);
+        r.number = q.int64(9);
+        result << r;
+    }
+    return result;
+}
+
+SaleListQuery::Position SaleListQuery::positionAfter(const QList<Row>& rows,
+                                                     const Position& after) {
+    if (rows.isEmpty()) {
+        return after;
+    }
+    return {false, rows.last().number, rows.last().code};
+}
+
+}  // namespace sandogh

@@ -1,0 +1,116 @@
+// Editing a saved sale on both backends: lines removed and changed leave the stock and the
+// voucher equal to the new lines, the checks refuse without writing, and the audit record
+// keeps the document as it was.
+
+#include <gtest/gtest.h>
+
+#include "SavedSalesTest.h"
+#include "sales/SaleAudit.h"
+#include "sales/SaleEdit.h"
+#include "sales/SaleTexts.h"
+
+namespace sandogh::test {
+namespace {
+
+class SaleEditTest : public SavedSalesTest {
+protected:
+    SaleEdit editor() { return SaleEdit(db(), settings(), messages(), clock(), {7, 1}); }
+    // Debit and credit of the voucher's rows.
+    std::pair<double, double> voucherTotals(qint64 voucher) {
+        Session s = db().session();
+        SqlQuery q(s, QStringLiteral("SELECT COALESCE(SUM(Debt), 0), COALESCE(SUM(Credit), 0) "
+                                     "FROM tblDocumentD WHERE DocumentHID = :v"));
+        q.bind(QStringLiteral(":v"), voucher);
+        EXPECT_TRUE(q.exec() && q.next());
+        return {q.number(0), q.number(1)};
+    }
+};
+
+TEST_P(SaleEditTest, RemovingOneLineAndChangingAnotherLeavesStockAndVoucherOnTheNewLines) {
+    const SaleSaveResult r = sell({{QStringLiteral("2222"), 2}, {QStringLiteral("3333"), 5}});
+    ASSERT_EQ(stock(QStringLiteral("3333")), 45);
+    std::optional<SaleEditDocument> doc = editor().load(r.code);
+    ASSERT_TRUE(doc);
+    ASSERT_EQ(doc->lines.size(), 2);
+    EXPECT_EQ(doc->received, 200000 + 10000);
+
+    doc->lines.removeFirst();  // the rice goes
+    SaleEditLine& tea = doc->lines.first();
+    tea.qty = 3;
+    tea.mFee = 2000;
+    tea.discount = 10;
+    tea.recompute();  // 1,800 a unit, 5,400 the line
+    doc->header.discount = 400;
+    doc->received = doc->payable();
+    ASSERT_EQ(editor().save(*doc), SaleEdit::Refusal::None);
+
+    for (const QString& barcode : {QStringLiteral("2222"), QStringLiteral("3333")}) {
+        EXPECT_EQ(stock(barcode), stockOfLines(barcode)) << barcode.toStdString();
+    }
+    EXPECT_EQ(stock(QStringLiteral("2222")), 50);
+    EXPECT_EQ(stock(QStringLiteral("3333")), 47);
+    Session s = db().session();
+    SqlQuery line(s, QStringLiteral("SELECT Qty, MFee, Discount, Fee, Price, UserID FROM "
+                                    "Whs_QTYDocD WHERE Code = :c"));
+    line.bind(QStringLiteral(":c"), r.code);
+    ASSERT_TRUE(line.exec() && line.next());
+    EXPECT_EQ(line.number(0), 3);
+    EXPECT_EQ(line.number(1), 2000);
+    EXPECT_EQ(line.number(2), 10);
+    EXPECT_EQ(line.number(3), 1800);
+    EXPECT_EQ(line.number(4), 5400);
+    EXPECT_TRUE(line.isNull(5));
+    EXPECT_FALSE(line.next());
+    EXPECT_EQ(s.scalarNumber(QStringLiteral("SELECT DocSum - Discount FROM Whs_QTYDocH WHERE "
+                                            "Code = :c"),
+                             {{QStringLiteral(":c"), r.code}}),
+              5000);
+    EXPECT_EQ(voucherTotals(r.voucherId), std::make_pair(5000.0, 5000.0));
+    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Note FROM tblDocumentH WHERE ID = :v"),
+                           {{QStringLiteral(":v"), r.voucherId}}),
+              SaleSaveTexts::saleVoucherNote() + r.docNo + QStringLiteral(" مورخ : 1404/01/01"));
+
+    const auto records = SaleAudit::list(db(), {}, {}, 0);
+    ASSERT_EQ(records.size(), 1);
+    EXPECT_EQ(records.first().action, SaleAuditRepository::Edit);
+    EXPECT_TRUE(records.first().document.contains(QStringLiteral("\"EAN_Code\":\"2222\"")));
+}
+
+TEST_P(SaleEditTest, TheChecksRefuseWithTheirMessagesAndWriteNothing) {
+    const SaleSaveResult r = sell({{QStringLiteral("2222"), 2}});
+    setFlag("IsExistQty", "Enable", true);
+    const SaleEditDocument saved = *editor().load(r.code);
+
+    SaleEditDocument doc = saved;
+    doc.header.discount = 300000;
+    doc.received = 0;
+    EXPECT_EQ(editor().save(doc), SaleEdit::Refusal::NegativeTotal);
+    EXPECT_EQ(messages().countOf(SaleSaveTexts::negativeTotal()), 1);
+
+    doc = saved;
+    doc.lines.first().qty = 1;
+    doc.lines.first().recompute();
+    EXPECT_EQ(editor().save(doc), SaleEdit::Refusal::ReceivedMore);
+    EXPECT_EQ(messages().countOf(SaleSaveTexts::receivedMore()), 1);
+
+    // 48 are left: 2 more are taken from them, 49 more are not there.
+    doc = saved;
+    doc.lines.first().qty = 51;
+    doc.lines.first().recompute();
+    doc.received = doc.payable();
+    EXPECT_EQ(editor().save(doc), SaleEdit::Refusal::Stock);
+    EXPECT_EQ(messages().countOf(SaleTexts::quantityNotAllowed()), 1);
+    EXPECT_EQ(stock(QStringLiteral("2222")), 48);
+    EXPECT_EQ(count(QStringLiteral("tblSaleAudit")), 0);
+
+    doc.lines.first().qty = 50;
+    doc.lines.first().recompute();
+    doc.received = doc.payable();
+    EXPECT_EQ(editor().save(doc), SaleEdit::Refusal::None);
+    EXPECT_EQ(stock(QStringLiteral("2222")), 0);
+}
+
+SANDOGH_INSTANTIATE_BACKENDS(SaleEditTest);
+
+}  // namespace
+}  // namespace sandogh::test

@@ -1,0 +1,114 @@
+#pragma once
+
+// A shop with two articles in stock, a plain and a gift discount kind, the chart's cash,
+// income and return accounts, and a customer with their own account, where sales are
+// saved through SaleSaver so that the saved-sales services meet the rows a real sale
+// leaves: header, lines, voucher, gift card movement, stock and loyalty gifts.
+
+#include <QPair>
+#include <memory>
+
+#include "SaleShopTest.h"
+#include "data/Database.h"
+#include "data/SqlQuery.h"
+#include "sales/SaleSaveResult.h"
+#include "sales/SaleSaveTexts.h"
+#include "sales/SaleSaver.h"
+#include "sales/SaleSettlement.h"
+
+namespace sandogh::test {
+
+class SavedSalesTest : public SaleShopTest {
+protected:
+    static constexpr int kCustomer = 501;
+
+    void SetUp() override {
+        SaleShopTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        addStation(1);
+        sale().setStation(1);
+        addGoods({QStringLiteral("2222"), 100000, 0, QStringLiteral("Rice")});
+        addGoods({QStringLiteral("3333"), 2000, 0, QStringLiteral("Tea")});
+        addDocument(1, 1, QStringLiteral("1"), QStringLiteral("2222"), 50, 90000);
+        addDocument(2, 1, QStringLiteral("2"), QStringLiteral("3333"), 50, 1500);
+        exec(
+            QStringLiteral("INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES "
+                           "(1, 'Off', 0), (5, 'Gift', 1)"));
+        exec(QStringLiteral("INSERT INTO tblAccountingGroup (Code, ParentCode, Name) VALUES "
+                            "(101, 10, :cash), (601, 60, :income), (602, 60, :back), "
+                            "(1201, 12, 'Customer 501')"),
+             {{QStringLiteral(":cash"), SaleSaveTexts::cashBoxAccount()},
+              {QStringLiteral(":income"), SaleSaveTexts::salesIncomeAccount()},
+              {QStringLiteral(":back"), SaleSaveTexts::salesReturnAccount()}});
+        // Stored with the Arabic letter forms, as older data has them.
+        exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, Active, "
+                            "AccountingGroupID, DiscountTakenTotal) SELECT 501, 10, 'C-1', :name, "
+                            ":family, 1, ID, 0 FROM tblAccountingGroup WHERE Code = 1201"),
+             {{QStringLiteral(":name"), QStringLiteral("علي")},
+              {QStringLiteral(":family"), QStringLiteral("كريمي")}});
+        saver = std::make_unique<SaleSaver>(db(), settings(), messages(), clock());
+    }
+    void TearDown() override {
+        saver.reset();
+        SaleShopTest::TearDown();
+    }
+
+    // Saves a sale (or return) of these lines; fails the test when it is not saved.
+    SaleSaveResult sell(const QList<QPair<QString, double>>& lines, SaleSettlement st = {},
+                        int customer = 0) {
+        sale().newSale();
+        if (customer != 0) {
+            EXPECT_TRUE(sale().selectCustomer(customer));
+        }
+        for (const auto& [barcode, qty] : lines) {
+            EXPECT_TRUE(sale().addGoods(barcode, qty));
+        }
+        st.payType = 1;
+        st.printReceipt = false;
+        const SaleSaveResult r = saver->save(sale(), st);
+        EXPECT_TRUE(r.saved);
+        return r;
+    }
+
+    qint64 count(const QString& table, const QString& where = {}, const SqlBinds& binds = {}) {
+        Session s = db().session();
+        return s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM ") + table +
+                                 (where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + where),
+                             binds, -1);
+    }
+    double stock(const QString& barcode) {
+        Session s = db().session();
+        return s.scalarNumber(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = :b"),
+                              {{QStringLiteral(":b"), barcode}}, -1);
+    }
+    // What the lines still in the documents make of an article: in less out.
+    double stockOfLines(const QString& barcode) {
+        Session s = db().session();
+        return s.scalarNumber(
+            QStringLiteral("SELECT COALESCE(SUM(CASE WHEN H.TransType IN (1, 3) THEN D.Qty ELSE "
+                           "-D.Qty END), 0) FROM Whs_QTYDocD D INNER JOIN Whs_QTYDocH H ON "
+                           "H.Code = D.Code WHERE D.EAN_Code = :b"),
+            {{QStringLiteral(":b"), barcode}});
+    }
+    // Makes every statement on `table` of the given kind ("DELETE") fail.
+    void refuse(const QString& table, const QString& kind) {
+        if (backend() == Backend::SQLite) {
+            exec(QStringLiteral("CREATE TRIGGER refuse_it BEFORE %1 ON %2 BEGIN "
+                                "SELECT RAISE(ABORT, 'refused'); END")
+                     .arg(kind, table));
+        } else {
+            exec(
+                QStringLiteral("CREATE FUNCTION refuse_it() RETURNS trigger AS $$ BEGIN RAISE "
+                               "EXCEPTION 'refused'; END $$ LANGUAGE plpgsql"));
+            exec(QStringLiteral("CREATE TRIGGER refuse_it BEFORE %1 ON %2 FOR EACH ROW EXECUTE "
+                                "FUNCTION refuse_it()")
+                     .arg(kind, table.toLower()));
+        }
+    }
+
+    std::unique_ptr<SaleSaver> saver;
+};
+
+}  // namespace sandogh::test

@@ -5,6 +5,7 @@
 #include <QSaveFile>
 
 #include "app/DemoCatalogue.h"
+#include "app/DemoPurchases.h"
 #include "app/DemoSeeder.h"
 #include "app/PasswordHasher.h"
 #include "data/ConnectionFile.h"
@@ -264,7 +265,7 @@ DemoShop::Report DemoShop::seed() {
         report.createdUsers.clear();
         return report;
     }
-    report.ok = true;
+    report.ok = DemoPurchases(m_database).seed(report);
     return report;
 }
 

@@ -1,5 +1,7 @@
 #include "purchase/PurchaseLinesModel.h"
 
+#include <QRegularExpression>
+
 #include "common/AmountText.h"
 #include "purchase/PurchaseTotals.h"
 
@@ -94,7 +96,10 @@ QVariant PurchaseLinesModel::data(const QModelIndex& index, int role) const {
         return number ? QVariant(PurchaseTotals::format(value.toDouble())) : value;
     }
     if (role == Qt::EditRole) {
-        return value;
+        // Text, so that the grid edits it in a line box that takes any amount.
+        return number ? QVariant(QString::number(value.toDouble(), 'f', 3)
+                                     .remove(QRegularExpression(QStringLiteral("\\.?0+$"))))
+                      : value;
     }
     if (role == Qt::TextAlignmentRole && number) {
         return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignLeft);

@@ -30,6 +30,8 @@ public:
     static QString forbidden() { return QStringLiteral("دسترسي شما به اين بخش محدود شده است!"); }
     // An invoice number with anything but digits.
     static QString docNoNotANumber() { return QStringLiteral("شماره فاکتور بايد عدد باشد"); }
+    // No pre-invoice or document under the number given.
+    static QString sourceNotFound() { return QStringLiteral("سندي با اين شماره يافت نشد"); }
     // A supplier's invoice number already saved for the same supplier: refused.
     static QString docNoRepeatedForSupplier() {
         return QStringLiteral("اين شماره فاکتور براي همين تأمين کننده قبلاً ثبت شده است");

@@ -5,6 +5,7 @@
 #include <QSaveFile>
 
 #include "app/DemoCatalogue.h"
+#include "app/DemoPurchases.h"
 #include "app/PasswordHasher.h"
 #include "data/ConnectionFile.h"
 #include "data/Database.h"
@@ -266,7 +267,7 @@ DemoShop::Report DemoShop::seed() {
         report.createdUsers.clear();
         return report;
     }
-    report.ok = true;
+    report.ok = DemoPurchases(m_database).seed(report);
     return report;
 }
 

@@ -9,6 +9,7 @@ int runDevice(AdminCall& call);
 int runInitDb(AdminCall& call);
 int runDemo(AdminCall& call);
 int runSell(AdminCall& call);
+int runBuy(AdminCall& call);
 int runReceipt(AdminCall& call);
 int runReport(AdminCall& call);
 int runStockRepair(AdminCall& call);
@@ -29,6 +30,7 @@ const QList<AdminCommand>& adminCommands() {
         {"demo", "demo                       a demo shop (Provider.txt, database, goods, users)",
          runDemo},
         {"sell", "sell [--customer N] [--return] --dry-run ENTRY...  ring up a sale", runSell},
+        {"buy", "buy --supplier N --group ID [--return] LINE...  save a purchase", runBuy},
         {"receipt", "receipt CODE [--pdf FILE]  the receipt of a saved sale (command or PDF)",
          runReceipt},
         {"report", "report daily [YYYY/MM/DD]   the day's sales and returns summary", runReport},

@@ -13,6 +13,7 @@
 #include "ui/catalog/frmParameters.h"
 #include "ui/parties/frmCustomerGroup.h"
 #include "ui/parties/frmParties.h"
+#include "ui/purchase/frmBuy.h"
 #include "ui/sales/SaleDesk.h"
 #include "ui/sales/frmDeleteFactor.h"
 #include "ui/sales/frmDeleteFactorGroup.h"
@@ -205,6 +206,13 @@ QList<MainMenuCommand> MainMenuCommands::all() {
          MainMenu::Customers, Permission::Customers,
          child(QStringLiteral("frmCustomerGroup"),
                [](AppContext& c) { return CatalogScreens::customerGroups(c); })},
+        {QStringLiteral("mnuBuy"), QStringLiteral("خريد کالا"), MainMenu::Purchases,
+         Permission::Purchases,
+         child(QStringLiteral("frmBuy"), [](AppContext& c) { return frmBuy::create(c, false); })},
+        {QStringLiteral("mnuBuyReturn"), QStringLiteral("برگشت از خريد"), MainMenu::Purchases,
+         Permission::Purchases,
+         child(QStringLiteral("frmBuy/Return"),
+               [](AppContext& c) { return frmBuy::create(c, true); })},
         {QStringLiteral("mnuScale"), QStringLiteral("برنامه ترازو"), MainMenu::Tools,
          Permission::ScaleProgram, [](frmMain& main) { main.mnuScale_Click(); }},
     };

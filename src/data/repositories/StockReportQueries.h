@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <optional>
+
+#include "data/repositories/ReportRows.h"
+
+namespace sandogh {
+
+class Session;
+
+// The stock of every article on hand now (Stock.Stock, as sp_StockRepair keeps it) and as
+// it stood at the end of a past Jalali date: the quantity now less what the documents
+// dated after that day moved (ordinary documents with DocType NULL and internal ones, in
+// for 1 and 3, out for 2 and 4, as the repair counts them). Reading back from now only
+// touches the documents after the date, so a recent date costs little however old the shop.
+class StockReportQueries {
+public:
+    // Every article with a Stock row, of one goods group when given.
+    static std::optional<QList<reportrows::ArticleStock>> onHand(Session& session,
+                                                                 std::optional<int> goodsGroup);
+    // The signed quantity moved per article by the documents dated after asOf.
+    static std::optional<QList<reportrows::ArticleStock>> movedAfter(Session& session,
+                                                                     const QString& asOf);
+    // Ordinary purchases dated up to asOf, per article: quantity and landed value.
+    static std::optional<QList<reportrows::PurchaseCost>> purchaseCosts(Session& session,
+                                                                        const QString& asOf);
+};
+
+}  // namespace sandogh

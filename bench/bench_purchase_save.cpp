@@ -16,10 +16,10 @@
 #include <cstdio>
 #include <memory>
 
-#include "data/Clock.h"
+#include "settings/Clock.h"
 #include "data/ConnectionSettings.h"
 #include "data/Database.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockProcedures.h"
 #include "purchase/PurchaseSaver.h"

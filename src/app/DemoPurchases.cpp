@@ -6,9 +6,9 @@
 
 #include "app/DemoGoods.h"
 #include "app/JalaliDay.h"
-#include "data/Clock.h"
+#include "settings/Clock.h"
 #include "data/Database.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "data/procedures/PaymentProcedures.h"
 #include "data/procedures/StockDocumentHeader.h"
 #include "data/repositories/DocumentNumbering.h"

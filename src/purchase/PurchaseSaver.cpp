@@ -3,10 +3,10 @@
 #include <QDateTime>
 #include <QStringList>
 
-#include "data/Clock.h"
+#include "settings/Clock.h"
 #include "data/Database.h"
 #include "data/Dialect.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockDocumentWriter.h"
 #include "data/procedures/StockProcedures.h"

@@ -5,8 +5,8 @@
 
 #include "common/JalaliCalendar.h"
 #include "common/PlatformDate.h"
-#include "data/Clock.h"
-#include "data/MessageService.h"
+#include "settings/Clock.h"
+#include "settings/MessageService.h"
 #include "data/procedures/StockDocumentHeader.h"
 #include "data/repositories/DocumentNumbering.h"
 #include "data/repositories/PurchaseDocuments.h"

@@ -6,7 +6,7 @@
 #include <chrono>
 
 #include "common/JalaliCalendar.h"
-#include "data/Clock.h"
+#include "settings/Clock.h"
 #include "data/Database.h"
 #include "data/procedures/StockDocumentProcedures.h"
 #include "data/repositories/SaleEditRepository.h"

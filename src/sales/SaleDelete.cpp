@@ -3,7 +3,7 @@
 #include <QSet>
 
 #include "data/Database.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockDocumentWriter.h"
 #include "data/procedures/StockProcedures.h"

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "data/Database.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockDocumentProcedures.h"
 #include "data/procedures/StockDocumentWriter.h"

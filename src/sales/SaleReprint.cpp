@@ -1,7 +1,7 @@
 #include "sales/SaleReprint.h"
 
 #include "data/Database.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "data/repositories/SaleReprintRepository.h"
 #include "sales/ReceiptOptions.h"
 #include "sales/ReceiptReader.h"

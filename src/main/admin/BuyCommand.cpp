@@ -5,7 +5,7 @@
 #include "AdminShop.h"
 #include "common/AmountText.h"
 #include "common/JalaliCalendar.h"
-#include "data/Clock.h"
+#include "settings/Clock.h"
 #include "data/repositories/ActiveUsers.h"
 #include "purchase/PurchaseSaver.h"
 #include "purchase/PurchaseSession.h"

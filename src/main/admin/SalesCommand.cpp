@@ -3,7 +3,7 @@
 #include "AdminArgs.h"
 #include "AdminCommand.h"
 #include "AdminShop.h"
-#include "data/Clock.h"
+#include "settings/Clock.h"
 #include "devices/ProgramLauncher.h"
 #include "sales/ReceiptOptions.h"
 #include "sales/ReceiptReader.h"

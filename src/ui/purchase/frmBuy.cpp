@@ -13,7 +13,7 @@
 #include <QVBoxLayout>
 
 #include "app/AppContext.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "data/procedures/StockDocumentHeader.h"
 #include "data/repositories/PartiesRepository.h"
 #include "data/repositories/PurchaseDocuments.h"

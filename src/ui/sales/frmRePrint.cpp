@@ -7,7 +7,7 @@
 #include <QPushButton>
 
 #include "app/AppContext.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "data/repositories/SaleDeleteRepository.h"
 #include "sales/SaleReceipt.h"
 #include "sales/SaleReprint.h"

@@ -9,8 +9,7 @@ const QList<MigrationStep>& shopMigrations() {
         shopschema::siteStep(),         shopschema::parametersStep(), shopschema::goodsStep(),
         shopschema::documentsStep(),    shopschema::accountsStep(),   shopschema::giftCardsStep(),
         shopschema::scaleVendorsStep(), shopschema::lookupsStep(),    shopschema::goodsSearchStep(),
-        shopschema::userRightsStep(),
-        shopschema::scaleVendorsStep(), shopschema::lookupsStep(),    shopschema::saleAuditStep(),
+        shopschema::saleAuditStep(),    shopschema::userRightsStep(),
     };
     return steps;
 }

@@ -123,8 +123,8 @@ MigrationStep accountsStep();      // 5
 MigrationStep giftCardsStep();     // 6
 MigrationStep scaleVendorsStep();  // 7
 MigrationStep lookupsStep();       // 8
-MigrationStep goodsSearchStep();   // 11
-MigrationStep userRightsStep();    // 14
-MigrationStep saleAuditStep();     // 13
+MigrationStep goodsSearchStep();   // 9
+MigrationStep saleAuditStep();     // 10
+MigrationStep userRightsStep();    // 11
 
 }  // namespace sandogh::shopschema

@@ -1,4 +1,4 @@
-// Step 13: the record of every deleted or edited sale document, and the index the saved
+// Step 10: the record of every deleted or edited sale document, and the index the saved
 // sales list pages through.
 
 #include "data/schema/ShopSchemaBuild.h"
@@ -31,7 +31,7 @@ TableDef saleAudit() {
 
 MigrationStep saleAuditStep() {
     MigrationStep step;
-    step.version = 13;
+    step.version = 10;
     step.description = QStringLiteral("Record of deleted and edited sales; saved sales paging");
     step.tables = {saleAudit()};
     IndexDef pages = index(QStringLiteral("Whs_QTYDocH"), {QStringLiteral("TransType")});

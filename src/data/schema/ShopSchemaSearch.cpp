@@ -1,4 +1,4 @@
-// Step 11: the goods found by a word anywhere in the name, as people type it, and by the
+// Step 9: the goods found by a word anywhere in the name, as people type it, and by the
 // structured code: the search form of the name (NameKey) with its word index, and an index
 // on ComplexCode.
 
@@ -8,7 +8,7 @@ namespace sandogh::shopschema {
 
 MigrationStep goodsSearchStep() {
     MigrationStep step;
-    step.version = 11;
+    step.version = 9;
     step.description = QStringLiteral("Goods found by a word of the name and by structured code");
     const QString g = QStringLiteral("Goods");
     step.addColumns = {{g, nameText(QStringLiteral("NameKey")), {}}};

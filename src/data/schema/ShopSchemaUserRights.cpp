@@ -1,4 +1,4 @@
-// Step 14: what each user may do beyond the role: the cash desks a user may sell at and the
+// Step 11: what each user may do beyond the role: the cash desks a user may sell at and the
 // permission lists of roles and users.
 
 #include "data/schema/ShopSchemaBuild.h"
@@ -38,7 +38,7 @@ TableDef userPermission() {
 
 MigrationStep userRightsStep() {
     MigrationStep step;
-    step.version = 14;
+    step.version = 11;
     step.description = QStringLiteral("Cash desks of users, permission lists of roles and users");
     step.tables = {userStation(), userPermission()};
     step.indexes = {

@@ -8,6 +8,7 @@
 #include "ui/catalog/frmParameters.h"
 #include "ui/parties/frmCustomerGroup.h"
 #include "ui/parties/frmParties.h"
+#include "ui/reports/frmReports.h"
 #include "ui/sales/SaleDesk.h"
 #include "ui/sales/frmShift.h"
 #include "ui/settings/frmSetUp.h"
@@ -109,6 +110,15 @@ QList<MainMenuCommand> MainMenuCommands::all() {
          MainMenu::Customers, Permission::Customers,
          child(QStringLiteral("frmCustomerGroup"),
                [](AppContext& c) { return CatalogScreens::customerGroups(c); })},
+        {QStringLiteral("mnuReports"), QStringLiteral("گزارش‌های فروشگاه"),
+         MainMenu::Reports, Permission::Reports,
+         child(QStringLiteral("frmReports"),
+               [](AppContext& c) {
+                   return new frmReports(
+                       c.database(), c.messages(), &c.errorLog(), c.launcher(),
+                       c.machineSettings().companionProgramPath(c.programFolder()),
+                       c.todayJalali());
+               })},
         {QStringLiteral("mnuScale"), QStringLiteral("برنامه ترازو"), MainMenu::Tools,
          Permission::ScaleProgram, [](frmMain& main) { main.mnuScale_Click(); }},
     };

@@ -11,30 +11,28 @@ ReportRun::ReportRun(const ConnectionSettings& settings, MessageService& message
     : QObject(parent), m_settings(settings), m_messages(messages, this), m_errorLog(errorLog) {}
 
 ReportRun::~ReportRun() {
-    if (m_thread != nullptr) {
-        m_thread->wait();
-        delete m_thread;
+    if (m_thread.joinable()) {
+        m_thread.join();
     }
 }
 
 bool ReportRun::isRunning() const {
-    return m_thread != nullptr && m_thread->isRunning();
+    return m_running;
 }
 
 bool ReportRun::start(ReportKind kind, const ReportFilter& filter, const QString& today) {
-    if (isRunning()) {
+    if (m_running) {
         return false;
     }
-    if (m_thread != nullptr) {
-        m_thread->wait();
-        delete m_thread;
-        m_thread = nullptr;
+    if (m_thread.joinable()) {
+        m_thread.join();
     }
     if (!m_database) {
         m_database = std::make_unique<Database>(m_settings, &m_messages, m_errorLog);
     }
     Database* database = m_database.get();
-    m_thread = QThread::create([this, database, kind, filter, today] {
+    m_running = true;
+    m_thread = std::thread([this, database, kind, filter, today] {
         std::optional<ReportTable> table;
         {
             Session session =
@@ -43,10 +41,10 @@ bool ReportRun::start(ReportKind kind, const ReportFilter& filter, const QString
                 table = ReportBuilder::build(session, kind, filter, today);
             }
         }
+        m_running = false;
         QMetaObject::invokeMethod(
             this, [this, table] { emit finished(table); }, Qt::QueuedConnection);
     });
-    m_thread->start();
     return true;
 }
 

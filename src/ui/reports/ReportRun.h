@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QObject>
-#include <QThread>
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <thread>
 
 #include "data/ConnectionSettings.h"
 #include "data/repositories/ReportFilter.h"
@@ -42,7 +43,10 @@ private:
     QueuedMessages m_messages;
     ErrorLog* m_errorLog;
     std::unique_ptr<Database> m_database;  // used by the worker only
-    QThread* m_thread = nullptr;
+    // A plain thread: joining it waits for its thread-local connections to close too, so
+    // the database may end right after.
+    std::thread m_thread;
+    std::atomic<bool> m_running{false};
 };
 
 }  // namespace sandogh

@@ -152,7 +152,8 @@ std::optional<ReportTable> ReportBuilder::build(Session& session, ReportKind kin
         case ReportKind::WorstByQuantity:
         case ReportKind::WorstByAmount:
         case ReportKind::Profit: {
-            const auto articles = reports.articles(filter);
+            // Only the profit needs the purchases behind the articles.
+            const auto articles = reports.articles(filter, kind == ReportKind::Profit);
             if (!articles) {
                 return std::nullopt;
             }

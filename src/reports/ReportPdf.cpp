@@ -43,7 +43,8 @@ double niceStep(double span) {
 }
 
 void drawRtl(QPainter& p, const QRectF& r, const QString& text, Qt::Alignment align) {
-    QTextOption option(align);
+    // Left and right mean the page's edges, whatever the direction of the text.
+    QTextOption option(align | Qt::AlignAbsolute);
     option.setTextDirection(Qt::RightToLeft);
     option.setWrapMode(QTextOption::NoWrap);
     p.drawText(r, text, option);
@@ -144,7 +145,6 @@ bool ReportPdf::write(const ReportTable& t, const QString& path) {
     if (!p.begin(&writer)) {
         return false;
     }
-    p.setLayoutDirection(Qt::RightToLeft);
     const QRectF page(QPointF(0, 0), QSizeF(writer.width(), writer.height()));
 
     double y = 0;
@@ -190,8 +190,11 @@ bool ReportPdf::write(const ReportTable& t, const QString& path) {
             headerRow();
         }
         for (int c = 0; c < columns; ++c) {
-            const Qt::Alignment align = t.columns.at(c).amount ? Qt::AlignLeft | Qt::AlignVCenter
-                                                               : Qt::AlignRight | Qt::AlignVCenter;
+            const bool number =
+                t.columns.at(c).amount || t.rows.at(r).value(c).typeId() != QMetaType::QString;
+            // Numbers centred in their column, text from the right.
+            const Qt::Alignment align =
+                (number ? Qt::AlignHCenter : Qt::AlignRight) | Qt::AlignVCenter;
             drawRtl(p, cellRect(c).adjusted(4, 0, -4, 0), t.cellText(r, c), align);
         }
         p.setPen(QPen(Qt::lightGray, 0.5));

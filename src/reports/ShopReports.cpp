@@ -94,16 +94,19 @@ QList<Period> ShopReports::months(const QList<Period>& days) {
     return months;
 }
 
-std::optional<QList<Article>> ShopReports::articles(const ReportFilter& filter) {
+std::optional<QList<Article>> ShopReports::articles(const ReportFilter& filter, bool withCost) {
     const auto sold = SalesReportQueries::articles(m_session, filter);
     if (!sold) {
         return std::nullopt;
     }
-    const auto costs = SalesReportQueries::purchaseCosts(m_session, filter);
-    if (!costs) {
-        return std::nullopt;
+    QHash<QString, double> cost;
+    if (withCost) {
+        const auto costs = SalesReportQueries::purchaseCosts(m_session, filter);
+        if (!costs) {
+            return std::nullopt;
+        }
+        cost = unitCosts(*costs);
     }
-    const QHash<QString, double> cost = unitCosts(*costs);
     QList<Article> articles;
     articles.reserve(sold->size());
     for (const reportrows::ArticleSales& s : *sold) {

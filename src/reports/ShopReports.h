@@ -21,8 +21,10 @@ public:
     std::optional<QList<reportfigures::Period>> days(const ReportFilter& filter);
     // The days summed per month, every month of the range.
     static QList<reportfigures::Period> months(const QList<reportfigures::Period>& days);
-    // Every article sold or returned in the range with its profit, in no set order.
-    std::optional<QList<reportfigures::Article>> articles(const ReportFilter& filter);
+    // Every article sold or returned in the range, in no set order; with its landed unit
+    // cost (and so its profit) when withCost.
+    std::optional<QList<reportfigures::Article>> articles(const ReportFilter& filter,
+                                                          bool withCost = true);
     // Articles on hand at the end of asOf (today: the quantities kept now), of one goods
     // group when given, valued at the landed cost of their purchases up to that day.
     std::optional<QList<reportfigures::StockLine>> stock(const QString& asOf, const QString& today,

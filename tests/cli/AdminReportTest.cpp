@@ -1,4 +1,5 @@
-// sandogh-admin report daily and stock-repair on the shop database of the program folder.
+// sandogh-admin report (the daily summary and the range reports) and stock-repair on the shop
+// database of the program folder.
 
 #include <gtest/gtest.h>
 
@@ -122,6 +123,46 @@ TEST_P(AdminReportTest, StockRepairRecomputesTheArticlesAskedOrAll) {
 
     const AdminProcess::Result bad = admin({QStringLiteral("stock-repair"), QStringLiteral("--x")});
     EXPECT_EQ(bad.exitCode, 2);
+}
+
+TEST_P(AdminReportTest, RangeReportsPrintEveryDayOrWriteAFile) {
+    addHeader(1, 2, QStringLiteral("1404/01/05"), 125000);
+    addHeader(2, 3, QStringLiteral("1404/01/07"), 7000);
+    const AdminProcess::Result r =
+        admin({QStringLiteral("report"), QStringLiteral("sales"), QStringLiteral("--from"),
+               QStringLiteral("1404/1/5"), QStringLiteral("--to"), QStringLiteral("1404/01/07")});
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    const QStringList lines = r.outText().split(u'\n', Qt::SkipEmptyParts);
+    // Title, range, column titles and one line per day, the empty day included.
+    ASSERT_EQ(lines.size(), 6) << r.outText().toStdString();
+    EXPECT_TRUE(lines[3].startsWith(QStringLiteral("1404/01/05\t1\t126,000\t125,000\t0")));
+    EXPECT_TRUE(lines[4].startsWith(QStringLiteral("1404/01/06\t0\t0\t0\t0")));
+    EXPECT_TRUE(lines[5].endsWith(QStringLiteral("\t-8,000")));
+
+    const QString csv = QDir(dir()).filePath(QStringLiteral("desks.csv"));
+    const AdminProcess::Result file =
+        admin({QStringLiteral("report"), QStringLiteral("desks"), QStringLiteral("--from"),
+               QStringLiteral("1404/01/01"), QStringLiteral("--to"), QStringLiteral("1404/01/31"),
+               QStringLiteral("--csv"), csv});
+    ASSERT_EQ(file.exitCode, 0) << file.err.toStdString();
+    QFile written(csv);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_EQ(written.readAll().count("\r\n"), 2);  // the column titles and the one desk
+
+    for (const QStringList& bad :
+         {QStringList{QStringLiteral("report"), QStringLiteral("sales"), QStringLiteral("--from"),
+                      QStringLiteral("1404/02/31x")},
+          QStringList{QStringLiteral("report"), QStringLiteral("stock"), QStringLiteral("--csv"),
+                      QStringLiteral("a"), QStringLiteral("--pdf"), QStringLiteral("b")},
+          QStringList{QStringLiteral("report"), QStringLiteral("top"), QStringLiteral("--from"),
+                      QStringLiteral("1404/02/01"), QStringLiteral("--to"),
+                      QStringLiteral("1404/01/01")},
+          QStringList{QStringLiteral("report"), QStringLiteral("desks"),
+                      QStringLiteral("--station"), QStringLiteral("one")}}) {
+        const AdminProcess::Result u = admin(bad);
+        EXPECT_EQ(u.exitCode, 2) << bad.join(u' ').toStdString();
+        EXPECT_TRUE(u.err.contains("usage:"));
+    }
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(AdminReportTest);

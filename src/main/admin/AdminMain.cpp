@@ -43,7 +43,8 @@ QString takeProgramDir(QStringList& args, bool& ok) {
 
 // Commands that lay text out with fonts need the GUI application, offscreen by default.
 bool needsFonts(int argc, char** argv) {
-    return argc > 1 && std::strcmp(argv[1], "receipt") == 0;
+    return argc > 1 &&
+           (std::strcmp(argv[1], "receipt") == 0 || std::strcmp(argv[1], "report") == 0);
 }
 
 }  // namespace

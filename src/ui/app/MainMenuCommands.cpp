@@ -14,6 +14,7 @@
 #include "ui/parties/frmCustomerGroup.h"
 #include "ui/parties/frmParties.h"
 #include "ui/purchase/frmBuy.h"
+#include "ui/reports/frmReports.h"
 #include "ui/sales/SaleDesk.h"
 #include "ui/sales/frmDeleteFactor.h"
 #include "ui/sales/frmDeleteFactorGroup.h"
@@ -213,6 +214,15 @@ QList<MainMenuCommand> MainMenuCommands::all() {
          Permission::Purchases,
          child(QStringLiteral("frmBuy/Return"),
                [](AppContext& c) { return frmBuy::create(c, true); })},
+        {QStringLiteral("mnuReports"), QStringLiteral("گزارش‌های فروشگاه"),
+         MainMenu::Reports, Permission::Reports,
+         child(QStringLiteral("frmReports"),
+               [](AppContext& c) {
+                   return new frmReports(
+                       c.database(), c.messages(), &c.errorLog(), c.launcher(),
+                       c.machineSettings().companionProgramPath(c.programFolder()),
+                       c.todayJalali());
+               })},
         {QStringLiteral("mnuScale"), QStringLiteral("برنامه ترازو"), MainMenu::Tools,
          Permission::ScaleProgram, [](frmMain& main) { main.mnuScale_Click(); }},
     };

@@ -109,6 +109,10 @@ QString migrate(const ConnectionSettings& nextSettings, const DatabaseOptions& o
     }
     ConnectionSettings staged = nextSettings;
     staged.sqliteFolder = work.path();
+    QString error;
+    if (DatabaseProvisioner::ensureExists(staged, &error) == DatabaseProvisioner::Outcome::Failed) {
+        return error;
+    }
     {
         Database next(staged, nullptr, nullptr, options);
         const Migrator::Result migrated = Migrator(next).apply(shopMigrations());
@@ -116,7 +120,6 @@ QString migrate(const ConnectionSettings& nextSettings, const DatabaseOptions& o
             return migrated.message;
         }
     }
-    QString error;
     if (!SqliteFileCopy::checkpoint(staged.sqliteFile(), &error)) {
         return error;
     }

@@ -39,10 +39,10 @@ const QString& UsersService::passwordRequiredMessage() {
 }
 
 const QString& UsersService::lastAdministratorMessage() {
-    static const QString text = QStringLiteral(
-        "این تنها مدیر فعال سیستم است و نمی‌توان آن را غیرفعال کرد یا از "
-        "مدیری "
-        "برداشت.");
+    static const QString text =
+        QStringLiteral("این تنها مدیر فعال سیستم است؛ ") +
+        QStringLiteral(
+            "نمی‌توان آن را غیرفعال کرد یا از مدیری برداشت.");
     return text;
 }
 

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "app/DemoGoods.h"
-#include "app/JalaliDay.h"
+#include "data/JalaliDay.h"
 #include "settings/Clock.h"
 #include "data/Database.h"
 #include "settings/MessageService.h"

@@ -3,7 +3,7 @@
 #include "AdminArgs.h"
 #include "AdminCommand.h"
 #include "AdminShop.h"
-#include "app/JalaliDay.h"
+#include "data/JalaliDay.h"
 #include "app/NewFiscalYear.h"
 
 namespace sandogh {

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QPointer>
 
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -17,7 +17,7 @@
 #include <QVBoxLayout>
 
 #include "data/Database.h"
-#include "data/MessageService.h"
+#include "settings/MessageService.h"
 #include "data/repositories/ReportFilter.h"
 #include "devices/CompanionHandOff.h"
 #include "reports/ReportCsv.h"

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -37,6 +38,10 @@ class ServerRestartTest : public SaleShopTest {
 protected:
     void SetUp() override {
         ASSERT_TRUE(m_serverDir.isValid());
+        // The server may run as another user (postgres when the tests run as root).
+        QFile::setPermissions(m_serverDir.path(), QFile::ReadOwner | QFile::WriteOwner |
+                                                      QFile::ExeOwner | QFile::ReadOther |
+                                                      QFile::ExeOther);
         m_serverPath = m_serverDir.path() + QStringLiteral("/pg");
         const QString port = pgServer(QStringLiteral("start"), m_serverPath);
         ASSERT_FALSE(port.isEmpty());

@@ -236,28 +236,28 @@ SANDOGH_INSTANTIATE_BACKENDS(MigratorTest);
 
 // Every backend reads back the same tables and columns after the same steps.
 TEST(MigratorBackends, SqliteAndPostgresEndAlike) {
-    bool skip = false;
-    auto sqlite = test::createOrReport(Backend::SQLite, &skip);
-    ASSERT_NE(sqlite, nullptr);
-    auto postgres = test::createOrReport(Backend::PostgreSQL, &skip);
-    if (skip) {
-        GTEST_SKIP() << "PostgreSQL is not configured; this comparison did NOT run";
-    }
-    ASSERT_NE(postgres, nullptr);
-
+    // Each list on databases of its own: a shop step may change a table of an earlier one.
     for (const QList<MigrationStep>& steps : {testSteps(), shopMigrations()}) {
+        bool skip = false;
+        auto sqlite = test::createOrReport(Backend::SQLite, &skip);
+        ASSERT_NE(sqlite, nullptr);
+        auto postgres = test::createOrReport(Backend::PostgreSQL, &skip);
+        if (skip) {
+            GTEST_SKIP() << "PostgreSQL is not configured; this comparison did NOT run";
+        }
+        ASSERT_NE(postgres, nullptr);
         ASSERT_TRUE(Migrator(sqlite->database()).apply(steps).ok);
         ASSERT_TRUE(Migrator(postgres->database()).apply(steps).ok);
-    }
-    Session a = sqlite->database().session();
-    Session b = postgres->database().session();
-    const auto shopA = SchemaReader::tables(a);
-    EXPECT_GT(shopA.size(), 10);
-    EXPECT_EQ(shopA, SchemaReader::tables(b));
-    for (const QString& other : Migrator::otherDatabasesOf(testSteps() + shopMigrations())) {
-        const auto tablesA = SchemaReader::tables(a, other);
-        EXPECT_FALSE(tablesA.isEmpty()) << other.toStdString();
-        EXPECT_EQ(tablesA, SchemaReader::tables(b, other)) << other.toStdString();
+        Session a = sqlite->database().session();
+        Session b = postgres->database().session();
+        const auto tables = SchemaReader::tables(a);
+        EXPECT_FALSE(tables.isEmpty());
+        EXPECT_EQ(tables, SchemaReader::tables(b));
+        for (const QString& other : Migrator::otherDatabasesOf(steps)) {
+            const auto tablesA = SchemaReader::tables(a, other);
+            EXPECT_FALSE(tablesA.isEmpty()) << other.toStdString();
+            EXPECT_EQ(tablesA, SchemaReader::tables(b, other)) << other.toStdString();
+        }
     }
 }
 

@@ -10,9 +10,11 @@ namespace {
 QMap<QString, QStringList> readSqlite(Session& session, const QString& database) {
     QMap<QString, QStringList> result;
     const QString schema = database.isEmpty() ? QStringLiteral("main") : database;
-    SqlQuery names(session, QStringLiteral("SELECT name FROM %1.sqlite_master WHERE type = :type "
-                                           "AND name NOT LIKE :internal")
-                                .arg(session.dialect().quote(schema)));
+    // Ordinary tables only: a word index (FTS5) is a virtual table with shadow tables of
+    // its own, which the other backends do not have.
+    SqlQuery names(session, QStringLiteral("SELECT name FROM pragma_table_list WHERE schema = "
+                                           ":schema AND type = :type AND name NOT LIKE :internal"));
+    names.bind(QStringLiteral(":schema"), schema);
     names.bind(QStringLiteral(":type"), QStringLiteral("table"));
     names.bind(QStringLiteral(":internal"), QStringLiteral("sqlite%"));
     if (!names.exec()) {

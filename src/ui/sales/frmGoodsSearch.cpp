@@ -87,7 +87,7 @@ void frmGoodsSearch::search(const QString& typed) {
         grdGoods->setItem(r, kCodes, cell(codes));
     }
     if (!m_rows.isEmpty()) {
-        grdGoods->selectRow(0);
+        grdGoods->setCurrentCell(0, kName);
     }
     if (!found.ok) {
         lblStatus->setText(QStringLiteral("جستجو انجام نشد."));
@@ -112,7 +112,7 @@ void frmGoodsSearch::moveRow(int step) {
     }
     const int row =
         std::clamp(grdGoods->currentRow() + step, 0, static_cast<int>(m_rows.size()) - 1);
-    grdGoods->selectRow(row);
+    grdGoods->setCurrentCell(row, kName);
 }
 
 void frmGoodsSearch::choose() {

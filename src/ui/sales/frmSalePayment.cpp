@@ -19,6 +19,8 @@ namespace sandogh {
 
 namespace {
 
+constexpr int kVisiblePaymentRows = 5;
+
 enum Column { KindColumn, AccountColumn, PosColumn, AmountColumn, ColumnCount };
 
 QString amountText(double value) {
@@ -84,6 +86,11 @@ frmSalePayment::frmSalePayment(QList<AccountChoice> accounts, MessageService& me
     grdPayments->setSelectionMode(QAbstractItemView::SingleSelection);
     grdPayments->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     grdPayments->verticalHeader()->setVisible(false);
+    // Room for five rows of the split before it scrolls.
+    grdPayments->setMinimumHeight(grdPayments->horizontalHeader()->sizeHint().height() +
+                                  kVisiblePaymentRows *
+                                      grdPayments->verticalHeader()->defaultSectionSize() +
+                                  2 * grdPayments->frameWidth());
 
     connect(cmbAccount, &QComboBox::currentIndexChanged, this, [this] { showPosId(); });
     connect(btnAdd, &QPushButton::clicked, this, [this] { addEnteredRow(); });

@@ -30,11 +30,9 @@
 #include <thread>
 #include <vector>
 
-#include "settings/Clock.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
 #include "data/DatabaseStatistics.h"
-#include "settings/MessageService.h"
 #include "data/RoundTrips.h"
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
@@ -43,7 +41,9 @@
 #include "sales/SaleSaver.h"
 #include "sales/SaleSession.h"
 #include "sales/SaleSettlement.h"
+#include "settings/Clock.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 #include "settings/QSettingsStore.h"
 
 namespace {

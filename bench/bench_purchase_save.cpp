@@ -16,14 +16,14 @@
 #include <cstdio>
 #include <memory>
 
-#include "settings/Clock.h"
 #include "data/ConnectionSettings.h"
 #include "data/Database.h"
-#include "settings/MessageService.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockProcedures.h"
 #include "purchase/PurchaseSaver.h"
 #include "purchase/PurchaseSession.h"
+#include "settings/Clock.h"
+#include "settings/MessageService.h"
 
 namespace {
 

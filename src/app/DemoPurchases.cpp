@@ -5,10 +5,8 @@
 #include <cmath>
 
 #include "app/DemoGoods.h"
-#include "data/JalaliDay.h"
-#include "settings/Clock.h"
 #include "data/Database.h"
-#include "settings/MessageService.h"
+#include "data/JalaliDay.h"
 #include "data/procedures/PaymentProcedures.h"
 #include "data/procedures/StockDocumentHeader.h"
 #include "data/repositories/DocumentNumbering.h"
@@ -16,6 +14,8 @@
 #include "data/repositories/PurchaseDocuments.h"
 #include "purchase/PurchaseSaver.h"
 #include "purchase/PurchaseSession.h"
+#include "settings/Clock.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -4,9 +4,9 @@
 
 #include "data/ConnectionPool.h"
 #include "data/ErrorLog.h"
-#include "settings/MessageService.h"
 #include "data/RoundTrips.h"
 #include "data/SqlQuery.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -3,10 +3,8 @@
 #include <QDateTime>
 #include <QStringList>
 
-#include "settings/Clock.h"
 #include "data/Database.h"
 #include "data/Dialect.h"
-#include "settings/MessageService.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockDocumentWriter.h"
 #include "data/procedures/StockProcedures.h"
@@ -16,6 +14,8 @@
 #include "data/repositories/PurchaseDocuments.h"
 #include "purchase/PurchaseSession.h"
 #include "purchase/PurchaseTexts.h"
+#include "settings/Clock.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -5,12 +5,12 @@
 
 #include "common/JalaliCalendar.h"
 #include "common/PlatformDate.h"
-#include "settings/Clock.h"
-#include "settings/MessageService.h"
 #include "data/procedures/StockDocumentHeader.h"
 #include "data/repositories/DocumentNumbering.h"
 #include "data/repositories/PurchaseDocuments.h"
 #include "purchase/PurchaseTexts.h"
+#include "settings/Clock.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

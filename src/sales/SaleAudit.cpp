@@ -6,10 +6,10 @@
 #include <chrono>
 
 #include "common/JalaliCalendar.h"
-#include "settings/Clock.h"
 #include "data/Database.h"
 #include "data/procedures/StockDocumentProcedures.h"
 #include "data/repositories/SaleEditRepository.h"
+#include "settings/Clock.h"
 
 namespace sandogh {
 

@@ -3,12 +3,12 @@
 #include <QSet>
 
 #include "data/Database.h"
-#include "settings/MessageService.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockDocumentWriter.h"
 #include "data/procedures/StockProcedures.h"
 #include "data/procedures/VoucherProcedures.h"
 #include "data/repositories/SaleEditRepository.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

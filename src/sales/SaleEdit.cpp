@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "data/Database.h"
-#include "settings/MessageService.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockDocumentProcedures.h"
 #include "data/procedures/StockDocumentWriter.h"
@@ -17,6 +16,7 @@
 #include "sales/SaleTexts.h"
 #include "sales/SaleVoucher.h"
 #include "settings/MachineSettings.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

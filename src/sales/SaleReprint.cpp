@@ -1,11 +1,11 @@
 #include "sales/SaleReprint.h"
 
 #include "data/Database.h"
-#include "settings/MessageService.h"
 #include "data/repositories/SaleReprintRepository.h"
 #include "sales/ReceiptOptions.h"
 #include "sales/ReceiptReader.h"
 #include "sales/SaleReceipt.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -5,10 +5,10 @@
 #include "AdminShop.h"
 #include "common/AmountText.h"
 #include "common/JalaliCalendar.h"
-#include "settings/Clock.h"
 #include "data/repositories/ActiveUsers.h"
 #include "purchase/PurchaseSaver.h"
 #include "purchase/PurchaseSession.h"
+#include "settings/Clock.h"
 
 namespace sandogh {
 

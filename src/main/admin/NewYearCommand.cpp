@@ -3,8 +3,8 @@
 #include "AdminArgs.h"
 #include "AdminCommand.h"
 #include "AdminShop.h"
-#include "data/JalaliDay.h"
 #include "app/NewFiscalYear.h"
+#include "data/JalaliDay.h"
 
 namespace sandogh {
 

@@ -3,7 +3,6 @@
 #include "AdminArgs.h"
 #include "AdminCommand.h"
 #include "AdminShop.h"
-#include "settings/Clock.h"
 #include "devices/ProgramLauncher.h"
 #include "sales/ReceiptOptions.h"
 #include "sales/ReceiptReader.h"
@@ -12,6 +11,7 @@
 #include "sales/SaleListModel.h"
 #include "sales/SaleReceipt.h"
 #include "sales/SaleReprint.h"
+#include "settings/Clock.h"
 
 namespace sandogh {
 

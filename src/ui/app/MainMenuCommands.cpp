@@ -1,11 +1,11 @@
 #include "ui/app/MainMenuCommands.h"
 
 #include "app/AppContext.h"
+#include "app/Permissions.h"
 #include "ui/admin/frmBackup.h"
 #include "ui/admin/frmNewYear.h"
 #include "ui/admin/frmPermissions.h"
 #include "ui/admin/frmUsers.h"
-#include "app/Permissions.h"
 #include "ui/app/frmMain.h"
 #include "ui/catalog/CatalogScreens.h"
 #include "ui/catalog/frmCodeParameters.h"

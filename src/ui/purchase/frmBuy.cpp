@@ -13,12 +13,12 @@
 #include <QVBoxLayout>
 
 #include "app/AppContext.h"
-#include "settings/MessageService.h"
 #include "data/procedures/StockDocumentHeader.h"
 #include "data/repositories/PartiesRepository.h"
 #include "data/repositories/PurchaseDocuments.h"
 #include "purchase/PurchaseSaver.h"
 #include "purchase/PurchaseTexts.h"
+#include "settings/MessageService.h"
 #include "ui/widgets/AmountEdit.h"
 #include "ui/widgets/JalaliDateEdit.h"
 

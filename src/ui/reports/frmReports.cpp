@@ -17,11 +17,11 @@
 #include <QVBoxLayout>
 
 #include "data/Database.h"
-#include "settings/MessageService.h"
 #include "data/repositories/ReportFilter.h"
 #include "devices/CompanionHandOff.h"
 #include "reports/ReportCsv.h"
 #include "reports/ReportPdf.h"
+#include "settings/MessageService.h"
 #include "ui/reports/ReportChart.h"
 #include "ui/reports/ReportRun.h"
 #include "ui/widgets/JalaliDateEdit.h"

@@ -7,10 +7,10 @@
 #include <QPushButton>
 
 #include "app/AppContext.h"
-#include "settings/MessageService.h"
 #include "data/repositories/SaleDeleteRepository.h"
 #include "sales/SaleReceipt.h"
 #include "sales/SaleReprint.h"
+#include "settings/MessageService.h"
 
 namespace sandogh {
 

@@ -37,6 +37,7 @@ protected:
                  "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'D1'), (2, 'D2'), "
                  "(3, 'D3'), (4, 'D4'), (5, 'D5'), (6, 'D6'), (7, 'D7'), (8, 'D8')",
                  "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
+                 "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
              }) {
             ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
         }

@@ -158,7 +158,7 @@ std::vector<ProviderCase> providerCases() {
          0,
          {},
          {},
-         QStringLiteral("port")},
+         QStringLiteral("70000")},
         {"NoCatalog",
          QStringLiteral("Provider=SQLite;Data Source=Data;"),
          false,

@@ -90,6 +90,16 @@ void PrintTo(const TimeCase& c, std::ostream* os) {
 
 class ErrTimeTest : public ::testing::TestWithParam<TimeCase> {};
 
+TEST_P(ErrTimeTest, ThirdFieldIsTheDayOfTheMonth) {
+    QTemporaryDir dir;
+    test::FixedClock clock(GetParam().now);
+    ErrorLog log(dir.path(), nullptr, clock, QStringLiteral("1404/01/01"), QString());
+    const QString record = log.formatRecord({}, {}, {});
+    EXPECT_TRUE(record.contains(
+        QStringLiteral("ErrTime : 1404/01/01  %1\r\n").arg(QLatin1String(GetParam().field))))
+        << record.toStdString();
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Times, ErrTimeTest,
     ::testing::Values(TimeCase{QDateTime(QDate(2025, 3, 5), QTime(23, 59, 58)), "23:59:05"},

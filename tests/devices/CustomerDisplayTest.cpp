@@ -110,6 +110,13 @@ struct LoadCase {
 
 class SaleScreenLoad : public DisplayOnPty, public ::testing::WithParamInterface<LoadCase> {};
 
+TEST_P(SaleScreenLoad, OpensOnlyAnActivePriceDisplay) {
+    GeneralPorts ports(portsConfig(true));
+    CustomerDisplay display(displayConfig(GetParam().kind, GetParam().enabled), ports);
+    display.saleScreenLoaded();
+    EXPECT_EQ(display.MSCommCustomerDisplay().isOpen(), GetParam().opens);
+}
+
 INSTANTIATE_TEST_SUITE_P(Kinds, SaleScreenLoad,
                          ::testing::Values(LoadCase{3, true, true}, LoadCase{3, false, false},
                                            LoadCase{1, true, false}, LoadCase{2, true, false}));
@@ -129,6 +136,17 @@ struct SilentCase {
 };
 
 class SilentDisplay : public DisplayOnPty, public ::testing::WithParamInterface<SilentCase> {};
+
+TEST_P(SilentDisplay, SendsNothing) {
+    const SilentCase& c = GetParam();
+    GeneralPorts ports(portsConfig(c.portsActive));
+    ASSERT_TRUE(ports.MSComm1().open());  // open even so: the switches decide
+    CustomerDisplay display(displayConfig(c.kind, c.enabled), ports);
+    display.SetMSCommCustomerDisplay();
+    display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
+    EXPECT_EQ(general.readAllFor(100), QByteArray()) << c.name;
+    EXPECT_EQ(price.readAllFor(10), QByteArray()) << c.name;
+}
 
 INSTANTIATE_TEST_SUITE_P(Switches, SilentDisplay,
                          ::testing::Values(SilentCase{"single-line, ports off", 1, true, false},

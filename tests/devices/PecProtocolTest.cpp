@@ -30,6 +30,11 @@ struct EncodeCase {
 
 class Cp1256Encode : public ::testing::TestWithParam<EncodeCase> {};
 
+TEST_P(Cp1256Encode, GivesTheBytesOfThePage) {
+    EXPECT_EQ(hex(Cp1256::encode(QString::fromUtf16(GetParam().text))),
+              QByteArray(GetParam().bytes));
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Texts, Cp1256Encode,
     ::testing::Values(
@@ -100,6 +105,18 @@ struct LengthCase {
 };
 
 class PecLengths : public ::testing::TestWithParam<LengthCase> {};
+
+TEST_P(PecLengths, FollowTheCharacterCounts) {
+    const LengthCase& c = GetParam();
+    const QByteArray bytes =
+        PecRequest::build(QString::fromLatin1(c.amount), QString::fromLatin1(c.saleNo));
+    EXPECT_EQ(bytes.left(9), QByteArray(c.head));
+    EXPECT_TRUE(bytes.contains(QByteArray(c.am))) << c.am;
+    EXPECT_TRUE(bytes.contains(QByteArray(c.r1Length) + QByteArray::fromHex("DDC798")))
+        << c.r1Length;
+    EXPECT_EQ(bytes.size(), c.size);
+    EXPECT_TRUE(bytes.endsWith("R2000T1000T2000SV000SG000AD000PD0011"));
+}
 
 INSTANTIATE_TEST_SUITE_P(
     Widths, PecLengths,

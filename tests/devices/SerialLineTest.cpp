@@ -37,6 +37,19 @@ struct DefaultCase {
 
 class PortDefaults : public ::testing::TestWithParam<DefaultCase> {};
 
+TEST_P(PortDefaults, AreTheBuiltInOnes) {
+    const DefaultCase& c = GetParam();
+    SerialLine line(c.config);
+    EXPECT_EQ(line.commPort(), c.commPort) << c.name;
+    EXPECT_EQ(line.settings(), QString::fromLatin1(c.settings)) << c.name;
+    EXPECT_EQ(line.inBufferSize(), 1024) << c.name;
+    EXPECT_EQ(line.outBufferSize(), 512) << c.name;
+    EXPECT_EQ(line.inputLen(), 0) << c.name;
+    EXPECT_EQ(line.rThreshold(), 0) << c.name;
+    EXPECT_FALSE(line.rtsEnable()) << c.name;
+    EXPECT_FALSE(line.isOpen()) << c.name;
+}
+
 INSTANTIATE_TEST_SUITE_P(
     FourPorts, PortDefaults,
     ::testing::Values(DefaultCase{"MSComm1", SerialPortConfig::MSComm1(), 1, "9600,n,8,1"},

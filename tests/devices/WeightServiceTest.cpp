@@ -133,6 +133,11 @@ struct UrlCase {
 
 class WeightUrl : public ::testing::TestWithParam<UrlCase> {};
 
+TEST_P(WeightUrl, PutsThePathOnTheConfiguredHost) {
+    WeightService service(WeightServiceConfig{QString::fromLatin1(GetParam().host), 1000});
+    EXPECT_EQ(service.url().toString(), QString::fromLatin1(GetParam().url));
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Hosts, WeightUrl,
     ::testing::Values(UrlCase{"192.168.1.20", "http://192.168.1.20/ScaleTools/GetWeight"},

@@ -10,7 +10,11 @@ function(sandogh_warnings target)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow=local
                                               -Wnon-virtual-dtor -Woverloaded-virtual)
     if(SANDOGH_WERROR)
-      target_compile_options(${target} PRIVATE -Werror)
+      # The flow-analysis warnings of an optimised GCC build stay warnings: they depend on
+      # inlining and are known to fire on sound code (std::optional, Qt containers).
+      target_compile_options(${target} PRIVATE -Werror -Wno-error=maybe-uninitialized
+                                               -Wno-error=array-bounds
+                                               -Wno-error=stringop-overflow)
     endif()
   endif()
 endfunction()

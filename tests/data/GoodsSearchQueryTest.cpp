@@ -75,7 +75,7 @@ TEST_P(GoodsSearchQueryTest, FindsWhatPeopleTypeWhicheverLettersAndDigitsTheyUse
         {QStringLiteral("چای گل"), {QStringLiteral("6260001")}},
         {QStringLiteral("100"), {QStringLiteral("6260003")}},
         {QStringLiteral("۱۰۰ gr"), {QStringLiteral("6260003")}},
-        // Codes come first: a barcode prefix, the specification code, the structured code.
+        // Codes come first: a barcode prefix, the Spec_Code, the structured code.
         {QStringLiteral("۶۲۶۰۰۰۱"), {QStringLiteral("6260001"), QStringLiteral("6260004")}},
         {QStringLiteral("12"), {QStringLiteral("6260002")}},
         {QStringLiteral("010"), {QStringLiteral("6260003")}},

@@ -116,7 +116,7 @@ bool GoodsSearchQuery::findNames(Session& session, const QStringList& words, int
 bool GoodsSearchQuery::findCodes(Session& session, const QString& code, int rows, QList<Row>& out) {
     const Dialect& d = session.dialect();
     // Barcodes and structured codes by prefix, as a range of their index; the
-    // specification code whole.
+    // Spec_Code whole.
     for (const QString& column : {QStringLiteral("G.EAN_Code"), QStringLiteral("G.ComplexCode")}) {
         SqlQuery q(session,
                    QStringLiteral("SELECT ") + d.top(rows) + kColumns +

@@ -10,7 +10,7 @@ class Database;
 class Session;
 
 // The goods search of the till: the active articles whose barcode or structured code
-// (ComplexCode) starts with the typed text, whose specification code is the typed text,
+// (ComplexCode) starts with the typed text, whose Spec_Code is the typed text,
 // or whose name holds every typed word anywhere, as people type them (TextHelpers::
 // searchKey on both sides, through the NameKey column). Code matches come first, then
 // names in name order, at most a screenful.

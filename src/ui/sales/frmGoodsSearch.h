@@ -14,7 +14,7 @@ namespace sandogh {
 class Database;
 
 // The goods search of the till (btnBarcodeSearch, Ctrl+L): the cashier types a word of
-// the name, a barcode, a specification code or a structured code and the list follows
+// the name, a barcode, a Spec_Code or a structured code and the list follows
 // each keystroke; Up and Down move in the list without leaving the box, Enter (or a
 // double click) takes the chosen article, Escape none.
 class frmGoodsSearch : public QDialog {

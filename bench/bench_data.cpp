@@ -23,6 +23,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "BenchShop.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
 #include "data/DatabaseStatistics.h"
@@ -42,58 +43,10 @@ using namespace sandogh;
 const QString kBenchFolder = QStringLiteral("/tmp/sandogh-bench");
 constexpr qint64 kDocumentsPerArticle = 50;
 
-QString env(const char* bench, const char* test) {
-    const QString value = qEnvironmentVariable(bench).trimmed();
-    return value.isEmpty() ? qEnvironmentVariable(test).trimmed() : value;
-}
-
-bool postgresConfigured() {
-    return !env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty();
-}
-
 ConnectionSettings settingsFor(Backend backend, qint64 documents) {
-    QString text;
-    if (backend == Backend::SQLite) {
-        // A folder per shop: the scale vendors' databases are files beside the shop's.
-        text = QStringLiteral(
-                   "Provider=SQLite;Data Source=shop_%1;Initial Catalog=shop;"
-                   "User ID=;Password=;")
-                   .arg(documents);
-    } else {
-        QString source = env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST");
-        const QString port = env("SANDOGH_BENCH_PG_PORT", "SANDOGH_TEST_PG_PORT");
-        if (!port.isEmpty()) {
-            source += QLatin1Char(',') + port;
-        }
-        text = QStringLiteral(
-                   "Provider=PostgreSQL;Data Source=%1;Initial Catalog=sandogh_bench_%2;"
-                   "User ID=%3;Password=%4;")
-                   .arg(source)
-                   .arg(documents)
-                   .arg(env("SANDOGH_BENCH_PG_USER", "SANDOGH_TEST_PG_USER"),
-                        env("SANDOGH_BENCH_PG_PASSWORD", "SANDOGH_TEST_PG_PASSWORD"));
-    }
-    ConnectionSettings settings;
-    QString error;
-    if (!ConnectionSettings::parse(text, kBenchFolder, settings, &error)) {
-        std::fprintf(stderr, "bench_data: %s\n", qPrintable(error));
-    }
-    return settings;
-}
-
-// The row source 1..:rows of each backend.
-QString numbers(Backend backend) {
-    return backend == Backend::PostgreSQL
-               ? QStringLiteral("generate_series(1, CAST(:rows AS BIGINT)) AS n(i)")
-               : QStringLiteral("n");
-}
-
-QString withNumbers(Backend backend) {
-    return backend == Backend::PostgreSQL
-               ? QString()
-               : QStringLiteral(
-                     "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
-                     "WHERE i < :rows) ");
+    return bench::shopSettings(backend, QStringLiteral("shop_%1").arg(documents),
+                               QStringLiteral("sandogh_bench_%1").arg(documents), kBenchFolder,
+                               "bench_data");
 }
 
 // A Jalali date of 1403 spread over the year by the row's place among :span rows.
@@ -121,23 +74,23 @@ bool generate(Database& database, qint64 documents) {
     const QString transType = QStringLiteral(
         "CASE WHEN i % 20 < 4 THEN 1 WHEN i % 20 = 4 THEN 3 WHEN i % 20 = 5 THEN 4 ELSE 2 END");
     const QString statements[] = {
-        withNumbers(b) + QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost) SELECT ") +
+        bench::withNumbers(b) + QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost) SELECT ") +
             barcodeOf(QStringLiteral("i - 1")) +
             QStringLiteral(", 'article ' || CAST(i AS VARCHAR(20)), 1000 + i % 500 FROM ") +
-            numbers(b),
-        withNumbers(b) +
+            bench::numbers(b),
+        bench::withNumbers(b) +
             QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, DocSum, "
                            "DocType) SELECT i, CAST(i AS VARCHAR(20)), ") +
             transType + QStringLiteral(", ") + dateOf(QStringLiteral("i")) +
             QStringLiteral(", 1000 * (i % 13), CASE WHEN i % 100 = 0 THEN 2 END FROM ") +
-            numbers(b),
-        withNumbers(b) +
+            bench::numbers(b),
+        bench::withNumbers(b) +
             QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Discount, Fee, "
                            "Price, TaxValue) SELECT (i + 1) / 2, ") +
             barcodeOf(QStringLiteral("((i * i * 7919 + i * 31) % 1000003) % :articles")) +
             QStringLiteral(", 1 + i % 5, 1100 + i % 97 * 10, 0, 1000 + i % 97 * 10, "
                            "(1 + i % 5) * (1000 + i % 97 * 10), 9 FROM ") +
-            numbers(b),
+            bench::numbers(b),
     };
     const qint64 counts[] = {articles, documents, documents * 2};
     for (int t = 0; t < 3; ++t) {
@@ -300,7 +253,7 @@ int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     std::vector<std::unique_ptr<Shop>> shops;
     QList<Backend> backends{Backend::SQLite};
-    if (postgresConfigured()) {
+    if (bench::postgresConfigured()) {
         backends << Backend::PostgreSQL;
     } else {
         std::fprintf(stderr, "bench_data: PostgreSQL not configured, SQLite only\n");

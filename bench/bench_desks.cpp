@@ -30,6 +30,7 @@
 #include <thread>
 #include <vector>
 
+#include "BenchShop.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
 #include "data/DatabaseStatistics.h"
@@ -54,39 +55,14 @@ constexpr int kLines = 20;
 constexpr int kArticles = 40;
 const QString kBenchFolder = QStringLiteral("/tmp/sandogh-bench/desks");
 
-QString env(const char* bench, const char* test) {
-    const QString value = qEnvironmentVariable(bench).trimmed();
-    return value.isEmpty() ? qEnvironmentVariable(test).trimmed() : value;
-}
-
 qint64 history() {
     const qint64 n = qEnvironmentVariable("SANDOGH_BENCH_HISTORY").toLongLong();
     return n > 0 ? n : 100000;
 }
 
 ConnectionSettings settingsFor(Backend backend) {
-    QString text;
-    if (backend == Backend::SQLite) {
-        text = QStringLiteral(
-            "Provider=SQLite;Data Source=shop;Initial Catalog=shop;User ID=;Password=;");
-    } else {
-        QString source = env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST");
-        const QString port = env("SANDOGH_BENCH_PG_PORT", "SANDOGH_TEST_PG_PORT");
-        if (!port.isEmpty()) {
-            source += QLatin1Char(',') + port;
-        }
-        text = QStringLiteral(
-                   "Provider=PostgreSQL;Data Source=%1;Initial Catalog="
-                   "sandogh_bench_desks;User ID=%2;Password=%3;")
-                   .arg(source, env("SANDOGH_BENCH_PG_USER", "SANDOGH_TEST_PG_USER"),
-                        env("SANDOGH_BENCH_PG_PASSWORD", "SANDOGH_TEST_PG_PASSWORD"));
-    }
-    ConnectionSettings settings;
-    QString error;
-    if (!ConnectionSettings::parse(text, kBenchFolder, settings, &error)) {
-        std::fprintf(stderr, "bench_desks: %s\n", qPrintable(error));
-    }
-    return settings;
+    return bench::shopSettings(backend, QStringLiteral("shop"),
+                               QStringLiteral("sandogh_bench_desks"), kBenchFolder, "bench_desks");
 }
 
 QString barcode(int k) {
@@ -275,7 +251,7 @@ int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     QList<Backend> backends{Backend::SQLite};
-    if (!env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
+    if (!bench::env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
         backends << Backend::PostgreSQL;
     } else {
         std::fprintf(stderr, "bench_desks: PostgreSQL not configured, SQLite only\n");

@@ -16,6 +16,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "BenchShop.h"
 #include "data/ConnectionSettings.h"
 #include "data/Database.h"
 #include "data/Transaction.h"
@@ -32,11 +33,6 @@ using namespace sandogh;
 constexpr int kLines = 1000;
 constexpr int kSupplier = 900000001;
 
-QString env(const char* bench, const char* test) {
-    const QString value = qEnvironmentVariable(bench).trimmed();
-    return value.isEmpty() ? qEnvironmentVariable(test).trimmed() : value;
-}
-
 QString providerOf(Backend backend, qint64 documents) {
     if (backend == Backend::SQLite) {
         return QStringLiteral(
@@ -44,8 +40,8 @@ QString providerOf(Backend backend, qint64 documents) {
                    "Password=;")
             .arg(documents);
     }
-    QString source = env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST");
-    const QString port = env("SANDOGH_BENCH_PG_PORT", "SANDOGH_TEST_PG_PORT");
+    QString source = bench::env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST");
+    const QString port = bench::env("SANDOGH_BENCH_PG_PORT", "SANDOGH_TEST_PG_PORT");
     if (!port.isEmpty()) {
         source += QLatin1Char(',') + port;
     }
@@ -54,8 +50,8 @@ QString providerOf(Backend backend, qint64 documents) {
                "User ID=%3;Password=%4;")
         .arg(source)
         .arg(documents)
-        .arg(env("SANDOGH_BENCH_PG_USER", "SANDOGH_TEST_PG_USER"),
-             env("SANDOGH_BENCH_PG_PASSWORD", "SANDOGH_TEST_PG_PASSWORD"));
+        .arg(bench::env("SANDOGH_BENCH_PG_USER", "SANDOGH_TEST_PG_USER"),
+             bench::env("SANDOGH_BENCH_PG_PASSWORD", "SANDOGH_TEST_PG_PASSWORD"));
 }
 
 class QuietMessages final : public MessageService {
@@ -170,7 +166,7 @@ int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     QList<Backend> backends{Backend::SQLite};
-    if (!env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
+    if (!bench::env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
         backends << Backend::PostgreSQL;
     } else {
         std::fprintf(stderr, "bench_purchase_save: PostgreSQL not configured, SQLite only\n");

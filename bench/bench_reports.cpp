@@ -21,6 +21,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "BenchShop.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
 #include "data/SqlQuery.h"
@@ -37,52 +38,10 @@ using namespace sandogh;
 const QString kBenchFolder = QStringLiteral("/tmp/sandogh-bench");
 constexpr qint64 kDocumentsPerArticle = 50;
 
-QString env(const char* bench, const char* test) {
-    const QString value = qEnvironmentVariable(bench).trimmed();
-    return value.isEmpty() ? qEnvironmentVariable(test).trimmed() : value;
-}
-
 ConnectionSettings settingsFor(Backend backend, qint64 documents) {
-    QString text;
-    if (backend == Backend::SQLite) {
-        text = QStringLiteral(
-                   "Provider=SQLite;Data Source=reports_%1;Initial Catalog=shop;"
-                   "User ID=;Password=;")
-                   .arg(documents);
-    } else {
-        QString source = env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST");
-        const QString port = env("SANDOGH_BENCH_PG_PORT", "SANDOGH_TEST_PG_PORT");
-        if (!port.isEmpty()) {
-            source += QLatin1Char(',') + port;
-        }
-        text = QStringLiteral(
-                   "Provider=PostgreSQL;Data Source=%1;Initial "
-                   "Catalog=sandogh_bench_reports_%2;User ID=%3;Password=%4;")
-                   .arg(source)
-                   .arg(documents)
-                   .arg(env("SANDOGH_BENCH_PG_USER", "SANDOGH_TEST_PG_USER"),
-                        env("SANDOGH_BENCH_PG_PASSWORD", "SANDOGH_TEST_PG_PASSWORD"));
-    }
-    ConnectionSettings settings;
-    QString error;
-    if (!ConnectionSettings::parse(text, kBenchFolder, settings, &error)) {
-        std::fprintf(stderr, "bench_reports: %s\n", qPrintable(error));
-    }
-    return settings;
-}
-
-QString numbers(Backend backend) {
-    return backend == Backend::PostgreSQL
-               ? QStringLiteral("generate_series(1, CAST(:rows AS BIGINT)) AS n(i)")
-               : QStringLiteral("n");
-}
-
-QString withNumbers(Backend backend) {
-    return backend == Backend::PostgreSQL
-               ? QString()
-               : QStringLiteral(
-                     "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
-                     "WHERE i < :rows) ");
+    return bench::shopSettings(backend, QStringLiteral("reports_%1").arg(documents),
+                               QStringLiteral("sandogh_bench_reports_%1").arg(documents),
+                               kBenchFolder, "bench_reports");
 }
 
 // A Jalali date of 1403 spread over its 360 first days by the row's place among :span rows.
@@ -108,30 +67,30 @@ bool generate(Database& database, qint64 documents) {
     const QString transType = QStringLiteral(
         "CASE WHEN i % 20 < 4 THEN 1 WHEN i % 20 = 4 THEN 3 WHEN i % 20 = 5 THEN 4 ELSE 2 END");
     const QString statements[] = {
-        withNumbers(b) +
+        bench::withNumbers(b) +
             QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost, Spec_Group) SELECT ") +
             barcodeOf(QStringLiteral("i - 1")) +
             QStringLiteral(", 'article ' || CAST(i AS VARCHAR(20)), 1000 + i % 500, i % 10 FROM ") +
-            numbers(b),
-        withNumbers(b) +
+            bench::numbers(b),
+        bench::withNumbers(b) +
             QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, DocSum, "
                            "ReceivedPrice, StationID, ShiftCode, UserID, DocumentHID, DocType) "
                            "SELECT i, CAST(i AS VARCHAR(20)), ") +
             transType + QStringLiteral(", ") + dateOf(QStringLiteral("i")) +
             QStringLiteral(", 1000 * (i % 13), 1000 * (i % 13) - (i % 3) * 100, i % 4 + 1, "
                            "i % 2 + 1, i % 5 + 1, i, CASE WHEN i % 100 = 0 THEN 2 END FROM ") +
-            numbers(b),
-        withNumbers(b) +
+            bench::numbers(b),
+        bench::withNumbers(b) +
             QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Discount, Fee, "
                            "Price, TaxValue) SELECT (i + 1) / 2, ") +
             barcodeOf(QStringLiteral("((i * i * 7919 + i * 31) % 1000003) % :articles")) +
             QStringLiteral(", 1 + i % 5, 1100 + i % 97 * 10, 0, 1000 + i % 97 * 10, "
                            "(1 + i % 5) * (1000 + i % 97 * 10), 9 FROM ") +
-            numbers(b),
-        withNumbers(b) +
+            bench::numbers(b),
+        bench::withNumbers(b) +
             QStringLiteral("INSERT INTO tblDocumentD (DocumentHID, AccountingGroupID, Debt, "
                            "Credit) SELECT i, 10 + i % 3, 1000 * (i % 13), 0 FROM ") +
-            numbers(b),
+            bench::numbers(b),
     };
     // The desks (their foreign key) and shifts the documents name.
     for (int desk = 1; desk <= 4; ++desk) {
@@ -246,7 +205,7 @@ int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     std::vector<std::unique_ptr<Database>> shops;
     QList<Backend> backends{Backend::SQLite};
-    if (!env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
+    if (!bench::env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
         backends << Backend::PostgreSQL;
     }
     const struct {

@@ -22,6 +22,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "BenchShop.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
 #include "data/SqlQuery.h"
@@ -38,52 +39,10 @@ const QString kFolder = QStringLiteral("/tmp/sandogh-bench-list");
 constexpr qint64 kDocumentsPerCustomer = 20;
 constexpr int kPage = 100;
 
-QString env(const char* bench, const char* test) {
-    const QString value = qEnvironmentVariable(bench).trimmed();
-    return value.isEmpty() ? qEnvironmentVariable(test).trimmed() : value;
-}
-
 ConnectionSettings settingsFor(Backend backend, qint64 documents) {
-    QString text;
-    if (backend == Backend::SQLite) {
-        text = QStringLiteral(
-                   "Provider=SQLite;Data Source=list_%1;Initial Catalog=shop;"
-                   "User ID=;Password=;")
-                   .arg(documents);
-    } else {
-        QString source = env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST");
-        const QString port = env("SANDOGH_BENCH_PG_PORT", "SANDOGH_TEST_PG_PORT");
-        if (!port.isEmpty()) {
-            source += QLatin1Char(',') + port;
-        }
-        text = QStringLiteral(
-                   "Provider=PostgreSQL;Data Source=%1;Initial "
-                   "Catalog=sandogh_bench_list_%2;User ID=%3;Password=%4;")
-                   .arg(source)
-                   .arg(documents)
-                   .arg(env("SANDOGH_BENCH_PG_USER", "SANDOGH_TEST_PG_USER"),
-                        env("SANDOGH_BENCH_PG_PASSWORD", "SANDOGH_TEST_PG_PASSWORD"));
-    }
-    ConnectionSettings settings;
-    QString error;
-    if (!ConnectionSettings::parse(text, kFolder, settings, &error)) {
-        std::fprintf(stderr, "bench_sale_list: %s\n", qPrintable(error));
-    }
-    return settings;
-}
-
-QString numbers(Backend backend) {
-    return backend == Backend::PostgreSQL
-               ? QStringLiteral("generate_series(1, CAST(:rows AS BIGINT)) AS n(i)")
-               : QStringLiteral("n");
-}
-
-QString withNumbers(Backend backend) {
-    return backend == Backend::PostgreSQL
-               ? QString()
-               : QStringLiteral(
-                     "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
-                     "WHERE i < :rows) ");
+    return bench::shopSettings(backend, QStringLiteral("list_%1").arg(documents),
+                               QStringLiteral("sandogh_bench_list_%1").arg(documents), kFolder,
+                               "bench_sale_list");
 }
 
 // A Jalali date of 1403 spread over the year by the row's place among :rows rows.
@@ -105,12 +64,12 @@ bool generate(Database& database, qint64 documents) {
     const QString transType = QStringLiteral(
         "CASE WHEN i % 20 < 4 THEN 1 WHEN i % 20 = 4 THEN 3 WHEN i % 20 = 5 THEN 4 ELSE 2 END");
     const QString statements[] = {
-        withNumbers(b) +
+        bench::withNumbers(b) +
             QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, Active) "
                            "SELECT i, 10, CAST(i AS VARCHAR(20)), 'name ' || CAST(i AS "
                            "VARCHAR(20)), 'family ' || CAST(i AS VARCHAR(20)), 1 FROM ") +
-            numbers(b),
-        withNumbers(b) +
+            bench::numbers(b),
+        bench::withNumbers(b) +
             QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, CompanyID, DocDate, "
                            "DocSum, Base, DocType) SELECT i, CAST(1 + (i / 20) % 3000 AS "
                            "VARCHAR(20)), ") +
@@ -118,7 +77,7 @@ bool generate(Database& database, qint64 documents) {
             dateOf(QStringLiteral("i")) +
             QStringLiteral(", 1000 * (i % 13), 'B-' || CAST(i % 1000 AS VARCHAR(10)), CASE WHEN "
                            "i % 100 = 0 THEN 2 END FROM ") +
-            numbers(b),
+            bench::numbers(b),
     };
     const qint64 counts[] = {customers, documents};
     for (int t = 0; t < 2; ++t) {
@@ -230,7 +189,7 @@ int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     std::vector<std::unique_ptr<Database>> shops;
     QList<Backend> backends{Backend::SQLite};
-    if (!env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
+    if (!bench::env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
         backends << Backend::PostgreSQL;
     }
     for (const Backend backend : backends) {

@@ -4,6 +4,8 @@
 
 #include <optional>
 
+#include "data/repositories/DocumentFamily.h"
+
 namespace sandogh {
 
 // How one receipt is printed: the switches of the sale screen and what only the caller
@@ -16,6 +18,8 @@ struct ReceiptOptions {
     // What the customer handed over; the change is this less the amount received.
     // Unknown on a reprint: then no change line is printed.
     std::optional<double> handedOver;
+    // Whether `code` is a key of the ordinary or of the internal headers.
+    DocumentFamily family = DocumentFamily::Ordinary;
 };
 
 }  // namespace sandogh

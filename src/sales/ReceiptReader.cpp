@@ -4,6 +4,7 @@
 #include "data/Database.h"
 #include "data/Dialect.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/InternalReceiptRepository.h"
 #include "data/repositories/ReceiptPayments.h"
 #include "settings/MessageService.h"
 
@@ -70,6 +71,41 @@ ReceiptReader::Status ReceiptReader::read(qint64 code, bool isRial, ReceiptData&
         receipt.payments.append({part.account, part.amount});
     }
     receipt.giftCard = split->giftCard;
+    readShop(receipt);
+    receipt.sentence = sentenceOfTheDay();
+    return Status::Ok;
+}
+
+ReceiptReader::Status ReceiptReader::readInternal(qint64 code, bool isRial, ReceiptData& receipt) {
+    Session session = m_database.session(kModule, QStringLiteral("ReadInternal"));
+    bool failed = false;
+    const std::optional<InternalReceiptRepository::Header> header =
+        InternalReceiptRepository::header(session, code, failed);
+    if (!header) {
+        return failed ? Status::Failed : Status::NotFound;
+    }
+    const std::optional<QList<InternalReceiptRepository::Line>> lines =
+        InternalReceiptRepository::lines(session, code);
+    if (!lines) {
+        return Status::Failed;
+    }
+    receipt.code = header->code;
+    receipt.docNo = header->docNo;
+    receipt.docDate = header->docDate;
+    receipt.docTime = header->docTime;
+    receipt.transType = header->transType;
+    receipt.customerId = header->branchId;
+    receipt.customerName = header->branchName;
+    receipt.docSum = header->docSum;
+    receipt.discount = header->discount;
+    receipt.overhead = header->overhead;
+    receipt.received = header->received;
+    receipt.totalInWords = totalInWords(header->docSum, isRial);
+    receipt.lines.clear();
+    for (const InternalReceiptRepository::Line& l : *lines) {
+        receipt.lines.append(ReceiptLine{l.barcode, l.name, l.quantity, l.fee, l.price});
+    }
+    receipt.payments.clear();
     readShop(receipt);
     receipt.sentence = sentenceOfTheDay();
     return Status::Ok;

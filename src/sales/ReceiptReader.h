@@ -33,6 +33,9 @@ public:
 
     // Fills receipt from the sale Code = code. isRial picks the currency word.
     Status read(qint64 code, bool isRial, ReceiptData& receipt);
+    // The same from the internal document Code = code: the branch stands as the party, and
+    // there is no payment split, discount kind or overhead to show.
+    Status readInternal(qint64 code, bool isRial, ReceiptData& receipt);
 
     // DocSum read again by Code; std::nullopt when there is no row, or when the read
     // failed (failed set, the connection message shown).

@@ -7,6 +7,7 @@
 #include "data/procedures/StockDocumentWriter.h"
 #include "data/procedures/StockProcedures.h"
 #include "data/procedures/VoucherProcedures.h"
+#include "data/repositories/InternalSaleDeleteRepository.h"
 #include "data/repositories/SaleEditRepository.h"
 #include "settings/MessageService.h"
 
@@ -17,6 +18,7 @@ namespace {
 using namespace procedures;
 
 const QString kModule = QStringLiteral("frmDeleteFactor");
+const QString kInternalModule = QStringLiteral("frmDeleteFactorInternal");
 
 // A deleted sale gives back one loyalty gift whatever number it took: kept as the shops have
 // always had it, though saving counts the gifts by the discount amount.
@@ -39,6 +41,10 @@ QString SaleDelete::doneText() {
 
 QString SaleDelete::nothingTickedText() {
     return QStringLiteral("هيچ موردي براي حذف يافت نشد ");
+}
+
+QString SaleDelete::internalDoneText() {
+    return QStringLiteral("فاكتور مورد نظر حذف گرديد.");
 }
 
 SaleDelete::SaleDelete(Database& database, MessageService& messages, const Clock& clock,
@@ -94,6 +100,45 @@ SaleDelete::Outcome SaleDelete::deleteGroup(const QList<SaleDeleteRepository::Li
         }
     }
     m_messages.show(doneText(), MessageStyle::Information);
+    return Outcome::Deleted;
+}
+
+SaleDelete::Outcome SaleDelete::deleteInternal(int transType, const QString& docNo) {
+    Session s = m_database.session(kInternalModule, QStringLiteral("cmdDelete"));
+    if (!s) {
+        return Outcome::Failed;
+    }
+    // The look-up runs inside the transaction with the deletes, so what is deleted is what
+    // was found; any failed step rolls the whole document back.
+    Transaction tx(s);
+    if (!tx.isActive()) {
+        m_messages.show(Database::connectionFailureMessage(), MessageStyle::CriticalPlain);
+        return Outcome::Failed;
+    }
+    bool failed = false;
+    const std::optional<qint64> code =
+        InternalSaleDeleteRepository::find(s, transType, docNo.trimmed(), failed);
+    if (!failed && !code) {
+        tx.rollback();
+        m_messages.show(notFoundText(), MessageStyle::Critical);
+        return Outcome::NotFound;
+    }
+    std::optional<QStringList> barcodes;
+    if (!failed) {
+        barcodes = InternalSaleDeleteRepository::barcodes(s, *code);
+    }
+    // Without lines there is nothing to recompute (an empty list would repair every article).
+    const bool deleted = !failed && barcodes &&
+                         StockDocumentWriter::deleteInternalDocument(s, *code) &&
+                         (barcodes->isEmpty() || sp_StockRepair(s, *barcodes)) && tx.commit();
+    if (!deleted) {
+        if (tx.isActive()) {
+            tx.rollback();
+        }
+        m_messages.show(Database::connectionFailureMessage(), MessageStyle::CriticalPlain);
+        return Outcome::Failed;
+    }
+    m_messages.show(internalDoneText(), MessageStyle::Information);
     return Outcome::Deleted;
 }
 

@@ -20,6 +20,10 @@ class Session;
 // discount was a gift (whatever number of gifts the sale took), its gift card movements,
 // the rows and header of its voucher, and the audit record of what was deleted. Each
 // document is deleted in one transaction: a failure part way leaves it whole.
+//
+// frmDeleteFactorInternal (deleteInternal) is the same over the internal documents: found by
+// kind and number only, no movements check, no voucher, gift or audit record; its lines,
+// its header and the stock of its articles go in one transaction.
 class SaleDelete {
 public:
     enum class Outcome { Deleted, NotFound, HasMovements, NothingTicked, Failed };
@@ -28,6 +32,8 @@ public:
     static QString movementsText();
     static QString doneText();
     static QString nothingTickedText();
+    // What frmDeleteFactorInternal reports after the delete.
+    static QString internalDoneText();
 
     SaleDelete(Database& database, MessageService& messages, const Clock& clock,
                SaleAudit::Desk desk);
@@ -37,6 +43,9 @@ public:
     // frmDeleteFactorGroup: each ticked document in turn, each in its own transaction; the
     // first with movements stops the rest with the movements message.
     Outcome deleteGroup(const QList<SaleDeleteRepository::ListRow>& ticked);
+    // frmDeleteFactorInternal: the internal document of the kind (2 or 3) with this number
+    // looked up, deleted, and the message shown.
+    Outcome deleteInternal(int transType, const QString& docNo);
 
     // CanFactorDelete: false (with the message shown) when the document has movements or
     // the check could not be read.

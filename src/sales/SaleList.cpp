@@ -18,11 +18,16 @@ QStringList SaleList::choiceNames() {
     return {choiceName(Choice::Last500), choiceName(Choice::First500), choiceName(Choice::All)};
 }
 
-QStringList SaleList::columnNames() {
-    return {
+QStringList SaleList::columnNames(DocumentFamily family) {
+    QStringList names{
         QStringLiteral("شماره"),     QStringLiteral("تاريخ"),  QStringLiteral("نام و نام خانوادگي"),
         QStringLiteral("مبلغ"),      QStringLiteral("مبنا"),   QStringLiteral("شماره سند"),
         QStringLiteral("کد فاکتور"), QStringLiteral("کد سند"), QStringLiteral("کد مشتري")};
+    if (family == DocumentFamily::Internal) {
+        names[2] = QStringLiteral("شعبه");
+        names[8] = QStringLiteral("کد شعبه");
+    }
+    return names;
 }
 
 QString SaleList::printCommand(int transType) {

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "data/repositories/DocumentFamily.h"
+
 namespace sandogh {
 
 // The choices and captions of the saved sales list (frmSaleList).
@@ -26,8 +28,9 @@ public:
     static int limit(Choice choice) { return choice == Choice::All ? 0 : kBoundedRows; }
 
     // The grid's column captions: number, date, customer, total, Base, voucher number,
-    // document key, voucher key, customer Counter.
-    static QStringList columnNames();
+    // document key, voucher key, customer Counter. The internal documents' list names the
+    // branch instead of the customer (frmSaleInterList).
+    static QStringList columnNames(DocumentFamily family = DocumentFamily::Ordinary);
 
     // The companion program's command word of the print button: "mnuRptSaleFactor," for
     // sales and their returns, "mnuRptBuyFactor," for purchases and theirs.

@@ -4,11 +4,15 @@
 
 #include "common/AmountText.h"
 #include "data/Database.h"
+#include "data/repositories/InternalSaleListQuery.h"
 
 namespace sandogh {
 
 SaleListModel::SaleListModel(Database& database, QObject* parent)
-    : QAbstractTableModel(parent), m_database(database) {}
+    : SaleListModel(database, DocumentFamily::Ordinary, parent) {}
+
+SaleListModel::SaleListModel(Database& database, DocumentFamily family, QObject* parent)
+    : QAbstractTableModel(parent), m_database(database), m_family(family) {}
 
 void SaleListModel::load(SaleList::Choice choice, const SaleListQuery::Filter& filter) {
     beginResetModel();
@@ -69,7 +73,7 @@ QVariant SaleListModel::data(const QModelIndex& index, int role) const {
 QVariant SaleListModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0 &&
         section < ColumnCount) {
-        return SaleList::columnNames().at(section);
+        return SaleList::columnNames(m_family).at(section);
     }
     return QAbstractTableModel::headerData(section, orientation, role);
 }
@@ -87,8 +91,13 @@ void SaleListModel::fetchMore(const QModelIndex& parent) {
         limit > 0 ? std::min<int>(SaleList::kPageRows, limit - m_rows.size()) : SaleList::kPageRows;
     QList<SaleListQuery::Row> page;
     {
-        Session s = m_database.session(QStringLiteral("frmSaleList"), QStringLiteral("FillGrid"));
-        page = SaleListQuery::page(s, m_filter, SaleList::descending(m_choice), m_position, wanted);
+        const bool internal = m_family == DocumentFamily::Internal;
+        Session s = m_database.session(
+            internal ? QStringLiteral("frmSaleInterList") : QStringLiteral("frmSaleList"),
+            QStringLiteral("FillGrid"));
+        const bool descending = SaleList::descending(m_choice);
+        page = internal ? InternalSaleListQuery::page(s, m_filter, descending, m_position, wanted)
+                        : SaleListQuery::page(s, m_filter, descending, m_position, wanted);
     }
     m_atEnd = page.size() < wanted || (limit > 0 && m_rows.size() + page.size() >= limit);
     if (page.isEmpty()) {

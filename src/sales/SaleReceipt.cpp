@@ -45,7 +45,10 @@ namespace {
 bool readReceipt(Database& database, MessageService& messages, bool isRial, qint64 code,
                  const ReceiptOptions& options, ReceiptData& receipt) {
     ReceiptReader reader(database, messages);
-    switch (reader.read(code, isRial, receipt)) {
+    const ReceiptReader::Status status = options.family == DocumentFamily::Internal
+                                             ? reader.readInternal(code, isRial, receipt)
+                                             : reader.read(code, isRial, receipt);
+    switch (status) {
         case ReceiptReader::Status::Ok:
             break;
         case ReceiptReader::Status::NotFound:

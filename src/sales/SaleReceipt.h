@@ -33,7 +33,8 @@ public:
                 ProgramLauncher& launcher, QString programFolder, RawPrinter* rawPrinter,
                 ReceiptPagePrinter* pagePrinter);
 
-    // Prints the receipt of the Whs_QTYDocH row Code = code. False when nothing was printed.
+    // Prints the receipt of the Whs_QTYDocH row Code = code (of Whs_QTYDocHInternal with the
+    // internal family in options). False when nothing was printed.
     bool print(qint64 code, const ReceiptOptions& options = {});
 
     // The receipt command of a saved sale (what the companion program gets); empty when the

@@ -9,26 +9,24 @@
 
 namespace sandogh {
 
-namespace {
-
-const QString kModule = QStringLiteral("frmRePrint");
-
-}  // namespace
-
-SaleReprint::SaleReprint(Database& database, MessageService& messages)
-    : m_database(database), m_messages(messages) {}
+SaleReprint::SaleReprint(Database& database, MessageService& messages, DocumentFamily family)
+    : m_database(database)
+    , m_messages(messages)
+    , m_family(family)
+    , m_module(family == DocumentFamily::Internal ? QStringLiteral("frmRePrintInter")
+                                                  : QStringLiteral("frmRePrint")) {}
 
 QString SaleReprint::lastNumber(int transType, int stationId) {
-    Session s = m_database.session(kModule, QStringLiteral("LastNumber"));
-    return SaleReprintRepository::lastDocNo(s, transType, stationId);
+    Session s = m_database.session(m_module, QStringLiteral("LastNumber"));
+    return SaleReprintRepository::lastDocNo(s, transType, stationId, m_family);
 }
 
 SaleReprint::Lookup SaleReprint::find(int transType, const QString& docNo, const QString& docDate) {
     Lookup lookup;
-    Session s = m_database.session(kModule, QStringLiteral("Find"));
+    Session s = m_database.session(m_module, QStringLiteral("Find"));
     bool failed = false;
     const QList<qint64> all =
-        SaleReprintRepository::codes(s, transType, docNo.trimmed(), {}, failed);
+        SaleReprintRepository::codes(s, transType, docNo.trimmed(), {}, failed, m_family);
     if (failed) {
         lookup.status = Lookup::Status::Failed;
         return lookup;
@@ -39,8 +37,8 @@ SaleReprint::Lookup SaleReprint::find(int transType, const QString& docNo, const
             lookup.status = Lookup::Status::NeedsDate;
             return lookup;
         }
-        codes =
-            SaleReprintRepository::codes(s, transType, docNo.trimmed(), docDate.trimmed(), failed);
+        codes = SaleReprintRepository::codes(s, transType, docNo.trimmed(), docDate.trimmed(),
+                                             failed, m_family);
         if (failed) {
             lookup.status = Lookup::Status::Failed;
             return lookup;
@@ -56,8 +54,9 @@ SaleReprint::Lookup SaleReprint::find(int transType, const QString& docNo, const
     return lookup;
 }
 
-bool SaleReprint::print(SaleReceipt& receipt, qint64 code, bool a4) {
+bool SaleReprint::print(SaleReceipt& receipt, qint64 code, bool a4, DocumentFamily family) {
     ReceiptOptions options;
+    options.family = family;
     options.title = ReceiptReader::reprintTitle();
     options.a4 = a4;
     return receipt.print(code, options);

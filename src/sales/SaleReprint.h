@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "data/repositories/DocumentFamily.h"
+
 namespace sandogh {
 
 class Database;
@@ -10,7 +12,8 @@ class SaleReceipt;
 
 // frmRePrint without its widgets: the last number of a kind at this cash desk proposed,
 // the number looked up (with its date when the number occurs more than once), and the
-// receipt printed again through the receipt path under the title "چاپ مجدد".
+// receipt printed again through the receipt path under the title "چاپ مجدد". The internal
+// family is frmRePrintInter: the same over the internal headers, the branch as the party.
 class SaleReprint {
 public:
     struct Lookup {
@@ -19,7 +22,8 @@ public:
         qint64 code = 0;
     };
 
-    SaleReprint(Database& database, MessageService& messages);
+    SaleReprint(Database& database, MessageService& messages,
+                DocumentFamily family = DocumentFamily::Ordinary);
 
     // The number of the newest document of the kind written at this station; empty: none.
     QString lastNumber(int transType, int stationId);
@@ -27,11 +31,14 @@ public:
     // `docDate` (NeedsDate while no date is given). NotFound shows the message.
     Lookup find(int transType, const QString& docNo, const QString& docDate = {});
     // The receipt of the document again, titled as a reprint. False when nothing printed.
-    static bool print(SaleReceipt& receipt, qint64 code, bool a4 = false);
+    static bool print(SaleReceipt& receipt, qint64 code, bool a4 = false,
+                      DocumentFamily family = DocumentFamily::Ordinary);
 
 private:
     Database& m_database;
     MessageService& m_messages;
+    DocumentFamily m_family;
+    QString m_module;
 };
 
 }  // namespace sandogh

@@ -6,12 +6,14 @@
 
 namespace sandogh {
 
-QString SaleReprintRepository::lastDocNo(Session& session, int transType, int stationId) {
+QString SaleReprintRepository::lastDocNo(Session& session, int transType, int stationId,
+                                         DocumentFamily family) {
     const Dialect& d = session.dialect();
     SqlQuery q(session, QStringLiteral("SELECT ") + d.top(1) +
-                            QStringLiteral("COALESCE(DocNo, '0') FROM Whs_QTYDocH WHERE "
+                            QStringLiteral("COALESCE(DocNo, '0') FROM %1 WHERE "
                                            "TransType = :transType AND StationID = :station "
-                                           "ORDER BY Code DESC") +
+                                           "ORDER BY Code DESC")
+                                .arg(headerTableOf(family)) +
                             d.limit(1));
     q.bind(QStringLiteral(":transType"), transType).bind(QStringLiteral(":station"), stationId);
     if (q.exec() && q.next()) {
@@ -21,10 +23,12 @@ QString SaleReprintRepository::lastDocNo(Session& session, int transType, int st
 }
 
 QList<qint64> SaleReprintRepository::codes(Session& session, int transType, const QString& docNo,
-                                           const QString& docDate, bool& failed) {
+                                           const QString& docDate, bool& failed,
+                                           DocumentFamily family) {
     QList<qint64> result;
-    QString sql = QStringLiteral(
-        "SELECT Code FROM Whs_QTYDocH WHERE DocNo = :docNo AND TransType = :transType");
+    QString sql =
+        QStringLiteral("SELECT Code FROM %1 WHERE DocNo = :docNo AND TransType = :transType")
+            .arg(headerTableOf(family));
     if (!docDate.isEmpty()) {
         sql += QStringLiteral(" AND DocDate = :docDate");
     }

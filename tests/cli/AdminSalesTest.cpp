@@ -5,6 +5,7 @@
 
 #include "AdminShopTest.h"
 #include "data/Database.h"
+#include "data/repositories/CenterBranchesRepository.h"
 
 namespace sandogh {
 namespace {
@@ -59,6 +60,25 @@ TEST_P(AdminSalesTest, ListsDeletesAndReprints) {
     EXPECT_EQ(db().session().scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 2);
 }
 
+TEST_P(AdminSalesTest, TheInternalSwitchListsAndDeletesInternalDocuments) {
+    Session s = db().session();
+    const int branch = CenterBranchesRepository::add(s, QStringLiteral("شعبه ۲"),
+                                                     CenterBranchesRepository::kBranch);
+    ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Whs_QTYDocHInternal (Code, DocNo, TransType, "
+                                      "CompanyID, DocDate, DocSum) VALUES (1, '1', 2, :b, "
+                                      "'1404/01/01', 700)"),
+                       {{QStringLiteral(":b"), branch}}));
+    AdminProcess::Result r = sales({QStringLiteral("list"), QStringLiteral("--internal")});
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.outText(),
+              QStringLiteral("1\t1404/01/01\tشعبه ۲\t700\t\t0\t1\t0\t%1\n").arg(branch));
+    r = sales({QStringLiteral("delete"), QStringLiteral("--internal"), QStringLiteral("--number"),
+               QStringLiteral("1")});
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocHInternal")), 0);
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 3);
+}
+
 TEST_P(AdminSalesTest, BadArgumentsAreRefused) {
     const struct {
         QStringList words;
@@ -69,6 +89,9 @@ TEST_P(AdminSalesTest, BadArgumentsAreRefused) {
         {{QStringLiteral("list"), QStringLiteral("--all"), QStringLiteral("--first")}, "one of"},
         {{QStringLiteral("delete"), QStringLiteral("--number"), QStringLiteral("1")}, "--date"},
         {{QStringLiteral("reprint")}, "--number"},
+        {{QStringLiteral("list"), QStringLiteral("--internal"), QStringLiteral("--kind"),
+          QStringLiteral("1")},
+         "--kind 2 or 3"},
     };
     for (const auto& c : cases) {
         const AdminProcess::Result r = sales(c.words);

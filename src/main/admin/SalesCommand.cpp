@@ -22,6 +22,8 @@ const char* const kUsage =
     "                                [--customer TEXT] [--base TEXT]\n"
     "       sandogh-admin sales delete --kind N --number N --date D [--user ID]\n"
     "       sandogh-admin sales reprint --kind N --number N [--date D] [--pdf FILE]\n"
+    "With --internal the internal documents handed to branches (kind 2 or 3; the branch in\n"
+    "the customer's column, --customer matches its name; a delete needs no --date).\n"
     "Saved documents of a kind (1 purchase, 2 sale, 3 sale return, 4 purchase return; 2 when\n"
     "not given): the list as tab-separated rows (number, date, customer, total, Base, voucher\n"
     "number, document key, voucher key, customer), a delete, or a reprint (the companion\n"
@@ -39,7 +41,7 @@ int usage(AdminCall& call, const QString& problem) {
     return ExitUsage;
 }
 
-int list(AdminCall& call, const AdminArgs& args, int kind, AdminShop& shop) {
+int list(AdminCall& call, const AdminArgs& args, int kind, DocumentFamily family, AdminShop& shop) {
     int choices = 0;
     SaleList::Choice choice = SaleList::Choice::Last500;
     if (args.flag(QStringLiteral("first"))) {
@@ -62,7 +64,7 @@ int list(AdminCall& call, const AdminArgs& args, int kind, AdminShop& shop) {
     filter.docDate = args.value(QStringLiteral("date"));
     filter.customer = args.value(QStringLiteral("customer"));
     filter.base = args.value(QStringLiteral("base"));
-    SaleListModel model(shop.database());
+    SaleListModel model(shop.database(), family);
     model.load(choice, filter);
     int written = 0;
     for (;;) {
@@ -89,7 +91,8 @@ int runSales(AdminCall& call) {
                          {QStringLiteral("kind"), QStringLiteral("number"), QStringLiteral("date"),
                           QStringLiteral("customer"), QStringLiteral("base"), QStringLiteral("pdf"),
                           QStringLiteral("user")},
-                         {QStringLiteral("last"), QStringLiteral("first"), QStringLiteral("all")});
+                         {QStringLiteral("last"), QStringLiteral("first"), QStringLiteral("all"),
+                          QStringLiteral("internal")});
     if (!args.ok()) {
         return usage(call, args.error());
     }
@@ -101,6 +104,11 @@ int runSales(AdminCall& call) {
     const int kind = args.value(QStringLiteral("kind"), QStringLiteral("2")).toInt(&ok);
     if (!ok || kind < 1 || kind > 4) {
         return usage(call, QStringLiteral("--kind is 1, 2, 3 or 4"));
+    }
+    const DocumentFamily family =
+        args.flag(QStringLiteral("internal")) ? DocumentFamily::Internal : DocumentFamily::Ordinary;
+    if (family == DocumentFamily::Internal && kind != 2 && kind != 3) {
+        return usage(call, QStringLiteral("internal documents are of --kind 2 or 3"));
     }
     const int user = args.value(QStringLiteral("user"), QStringLiteral("0")).toInt(&ok);
     if (!ok) {
@@ -115,7 +123,7 @@ int runSales(AdminCall& call) {
     if (action != QLatin1String("list") && number.isEmpty()) {
         return usage(call, QStringLiteral("--number is needed"));
     }
-    if (action == QLatin1String("delete") && date.isEmpty()) {
+    if (action == QLatin1String("delete") && date.isEmpty() && family == DocumentFamily::Ordinary) {
         return usage(call, QStringLiteral("--date is needed"));
     }
     if (args.has(QStringLiteral("pdf")) && args.value(QStringLiteral("pdf")).isEmpty()) {
@@ -127,16 +135,18 @@ int runSales(AdminCall& call) {
         return ExitFailed;
     }
     if (action == QLatin1String("list")) {
-        return list(call, args, kind, shop);
+        return list(call, args, kind, family, shop);
     }
     if (action == QLatin1String("delete")) {
         SystemClock clock;
         SaleDelete deleter(shop.database(), shop.messages(), clock,
                            {user, shop.settings().stationId()});
-        return deleter.deleteOne(kind, number, date) == SaleDelete::Outcome::Deleted ? ExitOk
-                                                                                     : ExitFailed;
+        const SaleDelete::Outcome outcome = family == DocumentFamily::Internal
+                                                ? deleter.deleteInternal(kind, number)
+                                                : deleter.deleteOne(kind, number, date);
+        return outcome == SaleDelete::Outcome::Deleted ? ExitOk : ExitFailed;
     }
-    SaleReprint reprint(shop.database(), shop.messages());
+    SaleReprint reprint(shop.database(), shop.messages(), family);
     const SaleReprint::Lookup found = reprint.find(kind, number, date);
     if (found.status == SaleReprint::Lookup::Status::NeedsDate) {
         call.err << "sandogh-admin sales: number " << number
@@ -151,6 +161,7 @@ int runSales(AdminCall& call) {
                         call.programDir, nullptr, nullptr);
     ReceiptOptions options;
     options.title = ReceiptReader::reprintTitle();
+    options.family = family;
     if (args.has(QStringLiteral("pdf"))) {
         const QString path = args.value(QStringLiteral("pdf"));
         if (!receipt.writePdf(found.code, path, options)) {

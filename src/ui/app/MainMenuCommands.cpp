@@ -18,8 +18,11 @@
 #include "ui/sales/SaleDesk.h"
 #include "ui/sales/frmDeleteFactor.h"
 #include "ui/sales/frmDeleteFactorGroup.h"
+#include "ui/sales/frmDeleteFactorInternal.h"
 #include "ui/sales/frmRePrint.h"
+#include "ui/sales/frmRePrintInter.h"
 #include "ui/sales/frmSaleAudit.h"
+#include "ui/sales/frmSaleInterList.h"
 #include "ui/sales/frmSaleList.h"
 #include "ui/sales/frmSaleUpdate.h"
 #include "ui/sales/frmShift.h"
@@ -175,6 +178,25 @@ QList<MainMenuCommand> MainMenuCommands::all() {
          MainMenu::Sales, Permission::DeleteSales,
          child(QStringLiteral("frmDeleteFactorGroup"),
                [](AppContext& c) { return new frmDeleteFactorGroup(c); })},
+        // The internal documents handed to the branches, under the same permissions as the
+        // ordinary ones.
+        {QStringLiteral("mnuSaleInterList"), QStringLiteral("فهرست فاکتورهای فروش داخلی"),
+         MainMenu::Sales, Permission::Reports,
+         child(QStringLiteral("frmSaleInterList/2"),
+               [](AppContext& c) { return new frmSaleInterList(c, 2); })},
+        {QStringLiteral("mnuSaleInterReturnList"),
+         QStringLiteral("فهرست مرجوعی‌های فروش داخلی"), MainMenu::Sales,
+         Permission::Reports,
+         child(QStringLiteral("frmSaleInterList/3"),
+               [](AppContext& c) { return new frmSaleInterList(c, 3); })},
+        {QStringLiteral("mnuRePrintInter"), QStringLiteral("چاپ مجدد فاکتور داخلی"),
+         MainMenu::Sales, Permission::Sale,
+         child(QStringLiteral("frmRePrintInter"),
+               [](AppContext& c) { return new frmRePrintInter(c); })},
+        {QStringLiteral("mnuDeleteFactorInternal"), QStringLiteral("حذف فاکتور داخلی"),
+         MainMenu::Sales, Permission::DeleteSales,
+         child(QStringLiteral("frmDeleteFactorInternal"),
+               [](AppContext& c) { return new frmDeleteFactorInternal(c); })},
         {QStringLiteral("mnuSaleAudit"), QStringLiteral("سوابق حذف و ویرایش فاکتورها"),
          MainMenu::Sales, Permission::DeleteSales,
          child(QStringLiteral("frmSaleAudit"), [](AppContext& c) { return new frmSaleAudit(c); })},

@@ -12,15 +12,21 @@
 namespace sandogh {
 
 frmDeleteFactor::frmDeleteFactor(AppContext& context, QWidget* parent)
-    : QWidget(parent), m_context(context) {
-    setObjectName(QStringLiteral("frmDeleteFactor"));
+    : frmDeleteFactor(context, DocumentFamily::Ordinary, parent) {}
+
+frmDeleteFactor::frmDeleteFactor(AppContext& context, DocumentFamily family, QWidget* parent)
+    : QWidget(parent), m_context(context), m_family(family) {
+    const bool internal = family == DocumentFamily::Internal;
+    setObjectName(internal ? QStringLiteral("frmDeleteFactorInternal")
+                           : QStringLiteral("frmDeleteFactor"));
     setLayoutDirection(Qt::RightToLeft);
     cmbType = new QComboBox(this);
     cmbType->setObjectName(QStringLiteral("cmbType"));
-    for (int kind = 1; kind <= 4; ++kind) {
+    // Internal documents are sales (2) and returns (3) only.
+    for (int kind = internal ? 2 : 1; kind <= (internal ? 3 : 4); ++kind) {
         cmbType->addItem(SaleDeleteRepository::kindName(kind), kind);
     }
-    cmbType->setCurrentIndex(1);  // a sale
+    cmbType->setCurrentIndex(cmbType->findData(2));  // a sale
     txtNo = new QLineEdit(this);
     txtNo->setObjectName(QStringLiteral("txtNo"));
     txtDate = new QLineEdit(context.todayJalali(), this);
@@ -32,14 +38,20 @@ frmDeleteFactor::frmDeleteFactor(AppContext& context, QWidget* parent)
     layout->addRow(QStringLiteral("شماره"), txtNo);
     layout->addRow(QStringLiteral("تاريخ"), txtDate);
     layout->addRow(cmdDelete);
+    // An internal document is found by its kind and number alone.
+    layout->setRowVisible(txtDate, !internal);
     connect(cmdDelete, &QPushButton::clicked, this, &frmDeleteFactor::cmdDelete_Click);
 }
 
 bool frmDeleteFactor::cmdDelete_Click() {
     SaleDelete deleter(m_context.database(), m_context.messages(), m_context.clock(),
                        {m_context.user().id, m_context.station().id});
-    const bool deleted = deleter.deleteOne(cmbType->currentData().toInt(), txtNo->text(),
-                                           txtDate->text()) == SaleDelete::Outcome::Deleted;
+    const int kind = cmbType->currentData().toInt();
+    const SaleDelete::Outcome outcome =
+        m_family == DocumentFamily::Internal
+            ? deleter.deleteInternal(kind, txtNo->text())
+            : deleter.deleteOne(kind, txtNo->text(), txtDate->text());
+    const bool deleted = outcome == SaleDelete::Outcome::Deleted;
     if (deleted) {
         txtNo->clear();
     }

@@ -14,15 +14,21 @@
 
 namespace sandogh {
 
-frmRePrint::frmRePrint(AppContext& context, QWidget* parent) : QWidget(parent), m_context(context) {
-    setObjectName(QStringLiteral("frmRePrint"));
+frmRePrint::frmRePrint(AppContext& context, QWidget* parent)
+    : frmRePrint(context, DocumentFamily::Ordinary, parent) {}
+
+frmRePrint::frmRePrint(AppContext& context, DocumentFamily family, QWidget* parent)
+    : QWidget(parent), m_context(context), m_family(family) {
+    const bool internal = family == DocumentFamily::Internal;
+    setObjectName(internal ? QStringLiteral("frmRePrintInter") : QStringLiteral("frmRePrint"));
     setLayoutDirection(Qt::RightToLeft);
     cmbType = new QComboBox(this);
     cmbType->setObjectName(QStringLiteral("cmbType"));
-    for (int kind = 1; kind <= 4; ++kind) {
+    // Internal documents are sales (2) and returns (3) only.
+    for (int kind = internal ? 2 : 1; kind <= (internal ? 3 : 4); ++kind) {
         cmbType->addItem(SaleDeleteRepository::kindName(kind), kind);
     }
-    cmbType->setCurrentIndex(1);
+    cmbType->setCurrentIndex(cmbType->findData(2));
     txtNo = new QLineEdit(this);
     txtNo->setObjectName(QStringLiteral("txtNo"));
     lblDate = new QLabel(QStringLiteral("تاريخ"), this);
@@ -47,14 +53,14 @@ frmRePrint::frmRePrint(AppContext& context, QWidget* parent) : QWidget(parent), 
 }
 
 void frmRePrint::proposeNumber() {
-    txtNo->setText(SaleReprint(m_context.database(), m_context.messages())
+    txtNo->setText(SaleReprint(m_context.database(), m_context.messages(), m_family)
                        .lastNumber(cmbType->currentData().toInt(), m_context.station().id));
     lblDate->hide();
     txtDate->hide();
 }
 
 bool frmRePrint::cmdPrint_Click() {
-    SaleReprint reprint(m_context.database(), m_context.messages());
+    SaleReprint reprint(m_context.database(), m_context.messages(), m_family);
     const QString date = txtDate->isHidden() ? QString() : txtDate->text();
     const SaleReprint::Lookup found =
         reprint.find(cmbType->currentData().toInt(), txtNo->text(), date);
@@ -71,7 +77,7 @@ bool frmRePrint::cmdPrint_Click() {
     SaleReceipt receipt(m_context.database(), m_context.machineSettings(), m_context.messages(),
                         m_context.launcher(), m_context.programFolder(), &m_context.rawPrinter(),
                         nullptr);
-    return SaleReprint::print(receipt, found.code);
+    return SaleReprint::print(receipt, found.code, false, m_family);
 }
 
 }  // namespace sandogh

@@ -34,8 +34,15 @@ QPushButton* button(QWidget* parent, const char* name, const QString& caption) {
 }  // namespace
 
 frmSaleList::frmSaleList(AppContext& context, int transType, QWidget* parent)
-    : QWidget(parent), m_context(context), m_model(new SaleListModel(context.database(), this)) {
-    setObjectName(QStringLiteral("frmSaleList"));
+    : frmSaleList(context, transType, DocumentFamily::Ordinary, parent) {}
+
+frmSaleList::frmSaleList(AppContext& context, int transType, DocumentFamily family, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+    , m_family(family)
+    , m_model(new SaleListModel(context.database(), family, this)) {
+    const bool internal = family == DocumentFamily::Internal;
+    setObjectName(internal ? QStringLiteral("frmSaleInterList") : QStringLiteral("frmSaleList"));
     setLayoutDirection(Qt::RightToLeft);
     cmbChoice = new QComboBox(this);
     cmbChoice->setObjectName(QStringLiteral("cmbChoice"));
@@ -60,8 +67,16 @@ frmSaleList::frmSaleList(AppContext& context, int transType, QWidget* parent)
     filters->addRow(QStringLiteral("نمايش"), cmbChoice);
     filters->addRow(QStringLiteral("شماره"), txtNo);
     filters->addRow(QStringLiteral("تاريخ"), txtDate);
-    filters->addRow(QStringLiteral("مشتري"), txtCustomer);
+    filters->addRow(internal ? QStringLiteral("شعبه") : QStringLiteral("مشتري"), txtCustomer);
     filters->addRow(QStringLiteral("مبنا"), txtBase);
+    if (internal) {
+        // Internal documents have no Base and no voucher.
+        filters->setRowVisible(txtBase, false);
+        for (int column :
+             {SaleListModel::Base, SaleListModel::VoucherCode, SaleListModel::DocumentHID}) {
+            Grid1->setColumnHidden(column, true);
+        }
+    }
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(cmdSearch);
     buttons->addWidget(cmdPrint);
@@ -88,7 +103,8 @@ frmSaleList::~frmSaleList() = default;
 
 void frmSaleList::setTransType(int transType) {
     m_transType = transType;
-    cmdEdit->setVisible(transType == 2 || transType == 3);
+    // The internal documents' editor is not opened from this list.
+    cmdEdit->setVisible(m_family == DocumentFamily::Ordinary && (transType == 2 || transType == 3));
     FillGrid();
 }
 
@@ -116,6 +132,16 @@ bool frmSaleList::cmdPrint_Click() {
         return false;
     }
     const MachineSettings& settings = m_context.machineSettings();
+    if (m_family == DocumentFamily::Internal) {
+        // The companion's list reports read the ordinary documents: an internal one goes
+        // through the receipt path, which hands it over itself when the companion is there.
+        SaleReceipt receipt(m_context.database(), settings, m_context.messages(),
+                            m_context.launcher(), m_context.programFolder(),
+                            &m_context.rawPrinter(), nullptr);
+        ReceiptOptions options;
+        options.family = DocumentFamily::Internal;
+        return receipt.print(row->code, options);
+    }
     CompanionHandOff companion(m_context.launcher(),
                                settings.companionProgramPath(m_context.programFolder()));
     if (companion.isPresent()) {
@@ -133,8 +159,11 @@ bool frmSaleList::cmdDelete_Click() {
     }
     SaleDelete deleter(m_context.database(), m_context.messages(), m_context.clock(),
                        {m_context.user().id, m_context.station().id});
-    const bool deleted =
-        deleter.deleteOne(m_transType, row->docNo, row->docDate) == SaleDelete::Outcome::Deleted;
+    const SaleDelete::Outcome outcome =
+        m_family == DocumentFamily::Internal
+            ? deleter.deleteInternal(m_transType, row->docNo)
+            : deleter.deleteOne(m_transType, row->docNo, row->docDate);
+    const bool deleted = outcome == SaleDelete::Outcome::Deleted;
     if (deleted) {
         FillGrid();
     }
@@ -143,7 +172,8 @@ bool frmSaleList::cmdDelete_Click() {
 
 bool frmSaleList::cmdEdit_Click() {
     const SaleListQuery::Row* row = selectedRow();
-    if (row == nullptr || (m_transType != 2 && m_transType != 3)) {
+    if (row == nullptr || m_family != DocumentFamily::Ordinary ||
+        (m_transType != 2 && m_transType != 3)) {
         return false;
     }
     emit editRequested(row->code, row->customerName, row->customerId);

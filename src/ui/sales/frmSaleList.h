@@ -21,15 +21,23 @@ class AppContext;
 // the companion program ("mnuRptSaleFactor," or "mnuRptBuyFactor,") or, without one,
 // prints its receipt here; cmdDelete deletes it as frmDeleteFactor does; cmdEdit asks for
 // the editor of a sale or return.
+//
+// Made for the internal family it is frmSaleInterList: the internal documents of the kind
+// (2 internal sale, 3 internal return), the branch in the customer's place (txtCustomer
+// filters on the branch name), no Base or voucher columns; cmdPrint prints the receipt of
+// the internal document and cmdDelete deletes it as frmDeleteFactorInternal does.
 class frmSaleList : public QWidget {
     Q_OBJECT
     Q_PROPERTY(int TransType READ TransType WRITE setTransType)
 
 public:
     frmSaleList(AppContext& context, int transType, QWidget* parent = nullptr);
+    frmSaleList(AppContext& context, int transType, DocumentFamily family,
+                QWidget* parent = nullptr);
     ~frmSaleList() override;
 
     int TransType() const { return m_transType; }
+    DocumentFamily family() const { return m_family; }
     void setTransType(int transType);
     SaleListModel& model() { return *m_model; }
 
@@ -50,6 +58,7 @@ private:
     const SaleListQuery::Row* selectedRow() const;
 
     AppContext& m_context;
+    DocumentFamily m_family = DocumentFamily::Ordinary;
     int m_transType = 2;
     SaleListModel* m_model;
 

@@ -221,7 +221,8 @@ std::optional<TransferBatch> TransferFile::parse(const QByteArray& bytes, QStrin
         }
         return std::nullopt;
     };
-    if (bytes.isEmpty() || !bytes.endsWith('\n')) {
+    // The shortest file has a trailer line and something before it.
+    if (bytes.size() < 2 || !bytes.endsWith('\n')) {
         return refuse(QStringLiteral("the file is empty or cut short"));
     }
     const qsizetype trailerStart = bytes.lastIndexOf('\n', bytes.size() - 2) + 1;

@@ -55,6 +55,7 @@ TEST(TransferFileTest, AFileNotWholeOrChangedIsRefused) {
         QByteArray bytes;
     } cases[] = {
         {"empty", {}},
+        {"a line break only", QByteArrayLiteral("\n")},
         {"last newline lost", good.chopped(1)},
         {"cut in the middle", good.left(good.size() / 2)},
         {"no trailer", body},

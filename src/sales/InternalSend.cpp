@@ -10,6 +10,7 @@
 #include "data/procedures/StockDocumentWriter.h"
 #include "data/repositories/CenterBranchesRepository.h"
 #include "data/repositories/ShopDetailsRepository.h"
+#include "sales/SaleDelete.h"
 #include "sales/TransferFile.h"
 #include "settings/BranchTransferSettings.h"
 #include "settings/MessageService.h"
@@ -114,6 +115,12 @@ InternalSend::Outcome InternalSend::send(int branchId, const QList<qint64>& tick
             InternalTransferRepository::invoice(s, branchId, code, failed);
         const std::optional<QList<InternalTransferRepository::Line>> lines =
             found ? InternalTransferRepository::lines(s, code) : std::nullopt;
+        if (!failed && !found) {
+            // Deleted or moved to another branch since the list was read.
+            tx.rollback();
+            m_messages.show(SaleDelete::notFoundText(), MessageStyle::Critical);
+            return Outcome::Failed;
+        }
         if (failed || !lines || !InternalTransferRepository::markSent(s, code)) {
             tx.rollback();
             return Outcome::Failed;

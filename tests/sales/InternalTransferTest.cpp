@@ -16,6 +16,7 @@
 #include "data/schema/ShopSchema.h"
 #include "sales/InternalReceive.h"
 #include "sales/InternalSend.h"
+#include "sales/SaleDelete.h"
 
 namespace sandogh::test {
 namespace {
@@ -218,6 +219,15 @@ TEST_P(InternalTransferTest, NothingTickedOrNoBranchIsSaidAndNothingMarked) {
               InternalSend::Outcome::NothingTicked);
     EXPECT_EQ(messages().countOf(InternalSend::nothingTickedText()), 1);
     EXPECT_EQ(sentStates(), QList<bool>{false});
+    EXPECT_FALSE(QFile::exists(m_files.filePath(QStringLiteral("x/RptFactors.txt"))));
+    // An invoice gone since the list was read stops the send before anything is marked.
+    const qint64 kept = sellInternally(QStringLiteral("2"), {{QStringLiteral("2222"), 1}});
+    EXPECT_EQ(
+        sender().send(m_branch, {kept, kept + 50},
+                      m_files.filePath(QStringLiteral("x/RptFactors.txt")), QStringLiteral("A")),
+        InternalSend::Outcome::Failed);
+    EXPECT_EQ(messages().countOf(SaleDelete::notFoundText()), 1);
+    EXPECT_EQ(sentStates(), (QList<bool>{false, false}));
     EXPECT_FALSE(QFile::exists(m_files.filePath(QStringLiteral("x/RptFactors.txt"))));
 
     ASSERT_EQ(sender().branches()->size(), 1);

@@ -7,6 +7,9 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <atomic>
+#include <thread>
+#include <vector>
 
 #include "SaleShopTest.h"
 #include "data/Transaction.h"
@@ -128,6 +131,7 @@ protected:
     }
 
     int m_branch = 0;
+    std::atomic<int> m_failed{0};
     QTemporaryDir m_files;
     std::unique_ptr<TestDatabase> m_branchShop;
 };
@@ -170,6 +174,32 @@ TEST_P(InternalTransferTest, TheBranchStockRisesByTheSentQuantitiesOnceOnly) {
     EXPECT_EQ(branchMessages().countOf(InternalReceive::alreadyReceivedText()), 1);
     EXPECT_EQ(branchDocuments(), documents);
     EXPECT_DOUBLE_EQ(branchStock(QStringLiteral("1111")), stock1 + 6.5);
+}
+
+TEST_P(InternalTransferTest, TwoDesksReceivingTheSameFileAtOnceAddItOnce) {
+    const QString path = send({sellInternally(QStringLiteral("1"), {{QStringLiteral("2222"), 3}}),
+                               sellInternally(QStringLiteral("2"), {{QStringLiteral("2222"), 4}})});
+    std::atomic<int> received{0};
+    std::atomic<int> already{0};
+    std::vector<std::thread> desks;
+    for (int desk = 0; desk < 2; ++desk) {
+        desks.emplace_back([&, desk] {
+            RecordingMessageService deskMessages;
+            std::unique_ptr<Database> db = m_branchShop->openAnother(&deskMessages);
+            const Outcome o =
+                InternalReceive(*db, deskMessages, clock(), {3, desk + 1}).receive(path);
+            ++(o == Outcome::Received          ? received
+               : o == Outcome::AlreadyReceived ? already
+                                               : m_failed);
+        });
+    }
+    for (std::thread& t : desks) {
+        t.join();
+    }
+    EXPECT_EQ(received.load(), 1);
+    EXPECT_EQ(already.load(), 1);
+    EXPECT_EQ(m_failed.load(), 0);
+    EXPECT_DOUBLE_EQ(branchStock(QStringLiteral("2222")), 7);
 }
 
 TEST_P(InternalTransferTest, ARefusedFileWritesNothing) {

@@ -20,6 +20,13 @@ int BranchTransferSettings::showPrice() const {
     return SettingReaders::toInteger(SettingReaders::numericValue(text));
 }
 
+QString BranchTransferSettings::folder() const {
+    const SettingKey& key = settingkeys::TransferFolder;
+    return ownsStore() ? store_.read(QString::fromLatin1(key.section), QString::fromLatin1(key.key))
+                             .trimmed()
+                       : QString();
+}
+
 bool BranchTransferSettings::setShowPrice(int value) {
     const SettingKey& key = settingkeys::TransferShowPrice;
     return ownsStore() && store_.write(QString::fromLatin1(key.section),

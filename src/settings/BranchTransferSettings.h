@@ -14,6 +14,9 @@ public:
     // "FC"/"ShowPrice": 1 or 2; 1 when nothing is kept.
     int showPrice() const;
     bool setShowPrice(int value);
+    // "FC"/"Folder" trimmed: where RptFactors.txt goes away from Windows; empty when
+    // nothing is kept.
+    QString folder() const;
 
 private:
     bool ownsStore() const;

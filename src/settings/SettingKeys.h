@@ -170,6 +170,9 @@ inline constexpr SettingKey BranchCode = text("BranchCode", "Code");
 // Kept under its own application name, not under "Retail".
 inline constexpr SettingKey TransferShowPrice = {TransferApplication, "FC", "ShowPrice",
                                                  SettingForm::Number, "1"};
+// The folder RptFactors.txt is written to away from Windows; empty: Velbari in the home.
+inline constexpr SettingKey TransferFolder = {TransferApplication, "FC", "Folder",
+                                              SettingForm::Text, ""};
 
 // Program-wide switches.
 inline constexpr SettingKey AutoUpdate = flag("SystemSetting", "AutoUpdate");

@@ -156,6 +156,7 @@ std::vector<SettingDescriptor> buildCatalogue() {
         {k::LinkedDatabase, "پایگاه داده مرکزی", G::Branches},
         {k::BranchCode, "کد شعبه", G::Branches},
         {k::TransferShowPrice, "نمایش قیمت در انتقال فاکتور", G::Branches},
+        {k::TransferFolder, "پوشه فایل انتقال فاکتور", G::Branches},
 
         // Program-wide switches.
         {k::AutoUpdate, "به‌روزرسانی خودکار", G::System},

@@ -1,4 +1,5 @@
 #include "AdminCommand.h"
+#include "InternalCommand.h"
 
 namespace sandogh {
 
@@ -45,6 +46,8 @@ const QList<AdminCommand>& adminCommands() {
          runNewYear},
         {"sales", "sales list|delete|reprint ...  saved documents: list, delete, reprint",
          runSales},
+        {"internal", "internal send|receive ...     internal invoices to and from branches",
+         runInternal},
     };
     return commands;
 }

@@ -21,11 +21,13 @@
 #include "ui/sales/frmDeleteFactorInternal.h"
 #include "ui/sales/frmRePrint.h"
 #include "ui/sales/frmRePrintInter.h"
+#include "ui/sales/frmReceiveFactor.h"
 #include "ui/sales/frmSaleAudit.h"
 #include "ui/sales/frmSaleInterList.h"
 #include "ui/sales/frmSaleList.h"
 #include "ui/sales/frmSaleUpdate.h"
 #include "ui/sales/frmShift.h"
+#include "ui/sales/frmTransFactor.h"
 #include "ui/settings/frmSetUp.h"
 
 namespace sandogh {
@@ -200,6 +202,14 @@ QList<MainMenuCommand> MainMenuCommands::all() {
         {QStringLiteral("mnuSaleAudit"), QStringLiteral("سوابق حذف و ویرایش فاکتورها"),
          MainMenu::Sales, Permission::DeleteSales,
          child(QStringLiteral("frmSaleAudit"), [](AppContext& c) { return new frmSaleAudit(c); })},
+        {QStringLiteral("mnuTransFactor"), QStringLiteral("ارسال فاکتور به شعبه"), MainMenu::Sales,
+         Permission::Purchases,
+         child(QStringLiteral("frmTransFactor"),
+               [](AppContext& c) { return new frmTransFactor(c); })},
+        {QStringLiteral("mnuReceiveFactor"), QStringLiteral("دریافت فاکتور از مرکز"),
+         MainMenu::Purchases, Permission::Purchases,
+         child(QStringLiteral("frmReceiveFactor"),
+               [](AppContext& c) { return new frmReceiveFactor(c); })},
         {QStringLiteral("mnuBuyList"), QStringLiteral("فهرست فاکتورهای خرید"), MainMenu::Purchases,
          Permission::Reports, [](frmMain& main) { openSaleList(main, 1); }},
         {QStringLiteral("mnuBuyReturnList"),

@@ -100,8 +100,10 @@ bool generate(Database& database, qint64 documents) {
                                   "VALUES (:b, 0, 0, 0, 1)"),
                    {{QStringLiteral(":b"), barcode(k)}});
     }
-    ok = ok && s.exec(QStringLiteral("INSERT INTO Users (ID, Name, UserName, Active) VALUES "
-                                     "(1, 'bench', 'bench', 1)"));
+    ok = ok &&
+         s.exec(QStringLiteral("INSERT INTO Users (ID, Name, UserName, Active) VALUES "
+                               "(1, 'bench', 'bench', 1)")) &&
+         s.exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'cash')"));
     for (int desk = 1; desk <= 8 && ok; ++desk) {
         ok = s.exec(QStringLiteral("INSERT INTO Stations (ID, Station_Name) VALUES (:id, :name)"),
                     {{QStringLiteral(":id"), desk},

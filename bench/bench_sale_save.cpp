@@ -98,6 +98,13 @@ struct Shop {
                          static_cast<long long>(size));
             return false;
         }
+        // A save refuses a payment kind that does not exist; older generated shops lack it.
+        if (s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM tblPaymentType WHERE Code = 1"), {},
+                          -1) == 0 &&
+            !s.exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'cash')"))) {
+            std::fprintf(stderr, "bench_sale_save: cannot add the payment kind\n");
+            return false;
+        }
         store = std::make_unique<QSettingsStore>(
             QStringLiteral("Retail"), settingsDir.filePath(QStringLiteral("Retail.ini")));
         settings = std::make_unique<MachineSettings>(*store);

@@ -158,6 +158,14 @@ NewFiscalYear::Result NewFiscalYear::open(Database& present, const QString& name
         DatabaseProvisioner::Outcome::Failed) {
         return failed(error);
     }
+    // On a server the new year is marked as one of the shop's years, so that the login lists
+    // it and no other database of the server.
+    const QString family = DatabaseProvisioner::yearFamily(settings, &error);
+    if (!error.isEmpty() || !DatabaseProvisioner::markYear(nextSettings, family, &error)) {
+        QString ignored;
+        DatabaseProvisioner::drop(nextSettings, &ignored);
+        return failed(error);
+    }
     Result result;
     result.database = name;
     {
@@ -181,7 +189,8 @@ NewFiscalYear::Result NewFiscalYear::open(Database& present, const QString& name
 QStringList NewFiscalYear::years(const ConnectionSettings& settings) {
     const QStringList vendors = Migrator::otherDatabasesOf(shopMigrations());
     QStringList years;
-    for (const QString& name : DatabaseProvisioner::list(settings, nullptr)) {
+    const QString family = DatabaseProvisioner::yearFamily(settings, nullptr);
+    for (const QString& name : DatabaseProvisioner::years(settings, family, nullptr)) {
         // The scale vendors' files, and the copies a restore leaves, are no years.
         if (vendors.contains(name, Qt::CaseInsensitive) ||
             name.contains(QLatin1String("_before_")) || name.contains(QLatin1String("_restore_"))) {

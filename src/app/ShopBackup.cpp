@@ -311,6 +311,14 @@ ShopBackup::Result ShopBackup::restore(const ConnectionSettings& settings, const
     if (!DatabaseProvisioner::exists(settings, exists, &error)) {
         return failed(error);
     }
+    // The copy stays one of the shop's fiscal years, as the live database was.
+    const QString family =
+        exists ? DatabaseProvisioner::yearFamily(settings, &error) : settings.catalog;
+    if (family != settings.catalog && !DatabaseProvisioner::markYear(staged, family, &error)) {
+        QString ignored;
+        DatabaseProvisioner::drop(staged, &ignored);
+        return failed(error);
+    }
     result.previous = settings.catalog + aside;
     if (exists && !DatabaseProvisioner::rename(settings, result.previous, &error)) {
         return failed(error);

@@ -229,4 +229,84 @@ QStringList DatabaseProvisioner::list(const ConnectionSettings& settings, QStrin
     return names;
 }
 
+namespace {
+
+const QString kYearMarkerPrefix = QStringLiteral("sandogh-year-of:");
+
+}  // namespace
+
+QString DatabaseProvisioner::yearMarker(const QString& family) {
+    return kYearMarkerPrefix + family;
+}
+
+QString DatabaseProvisioner::yearFamily(const ConnectionSettings& settings, QString* error) {
+    if (settings.backend != Backend::PostgreSQL) {
+        return settings.catalog;
+    }
+    QString family = settings.catalog;
+    withMaintenance(settings, error, [&](QSqlDatabase& db) {
+        QSqlQuery q(db);
+        q.prepare(
+            QStringLiteral("SELECT shobj_description(oid, 'pg_database') FROM pg_database "
+                           "WHERE datname = :name"));
+        q.bindValue(QStringLiteral(":name"), settings.catalog);
+        if (!q.exec()) {
+            return setError(error, q.lastError().text());
+        }
+        if (q.next()) {
+            const QString comment = q.value(0).toString();
+            if (comment.startsWith(kYearMarkerPrefix) &&
+                comment.size() > kYearMarkerPrefix.size()) {
+                family = comment.mid(kYearMarkerPrefix.size());
+            }
+        }
+        return true;
+    });
+    return family;
+}
+
+bool DatabaseProvisioner::markYear(const ConnectionSettings& settings, const QString& family,
+                                   QString* error) {
+    if (settings.backend != Backend::PostgreSQL) {
+        return true;
+    }
+    // COMMENT cannot be prepared: the text goes in as a standard string literal, its quotes
+    // doubled (standard_conforming_strings is on from PostgreSQL 9.1).
+    QString text = yearMarker(family);
+    text.replace(QLatin1Char('\''), QStringLiteral("''"));
+    return withMaintenance(settings, error, [&](QSqlDatabase& db) {
+        QSqlQuery q(db);
+        if (!q.exec(QStringLiteral("COMMENT ON DATABASE %1 IS '%2'")
+                        .arg(quoteDatabaseName(settings.backend, settings.catalog), text))) {
+            return setError(error, q.lastError().text());
+        }
+        return true;
+    });
+}
+
+QStringList DatabaseProvisioner::years(const ConnectionSettings& settings, const QString& family,
+                                       QString* error) {
+    if (settings.backend != Backend::PostgreSQL) {
+        return list(settings, error);
+    }
+    QStringList names;
+    withMaintenance(settings, error, [&](QSqlDatabase& db) {
+        QSqlQuery q(db);
+        q.prepare(
+            QStringLiteral("SELECT datname FROM pg_database WHERE NOT datistemplate AND "
+                           "(datname = :family OR shobj_description(oid, 'pg_database') = "
+                           ":marker) ORDER BY datname"));
+        q.bindValue(QStringLiteral(":family"), family);
+        q.bindValue(QStringLiteral(":marker"), yearMarker(family));
+        if (!q.exec()) {
+            return setError(error, q.lastError().text());
+        }
+        while (q.next()) {
+            names << q.value(0).toString();
+        }
+        return true;
+    });
+    return names;
+}
+
 }  // namespace sandogh

@@ -29,6 +29,19 @@ public:
     // maintenance database.
     static QStringList list(const ConnectionSettings& settings, QString* error);
 
+    // The fiscal years of one shop on a server (PostgreSQL): the shop's first database is
+    // the family; each later year carries the comment yearMarker(family), which the new-year
+    // routine and a restore write. SQLite years are the files of the shop's own folder.
+    static QString yearMarker(const QString& family);
+    // The family of the database the settings name: the one its comment names, else itself.
+    static QString yearFamily(const ConnectionSettings& settings, QString* error);
+    // Writes the marker of family on the database the settings name (nothing on SQLite).
+    static bool markYear(const ConnectionSettings& settings, const QString& family, QString* error);
+    // The databases of the family on the server of the settings, by name: the family's
+    // own database and every database marked with it.
+    static QStringList years(const ConnectionSettings& settings, const QString& family,
+                             QString* error);
+
     // A database name quoted exactly as written (servers keep database names as given).
     static QString quoteDatabaseName(Backend backend, const QString& name);
 };

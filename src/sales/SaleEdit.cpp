@@ -10,9 +10,10 @@
 #include "data/procedures/StockDocumentWriter.h"
 #include "data/procedures/StockProcedures.h"
 #include "data/procedures/VoucherProcedures.h"
+#include "data/repositories/ReceiptPayments.h"
 #include "data/repositories/SaleEditRepository.h"
+#include "sales/SaleEditVoucher.h"
 #include "sales/SaleSaveTexts.h"
-#include "sales/SaleSettlement.h"
 #include "sales/SaleTexts.h"
 #include "sales/SaleVoucher.h"
 #include "settings/MachineSettings.h"
@@ -137,13 +138,17 @@ SaleEdit::Refusal SaleEdit::save(const SaleEditDocument& edited) {
     if (!s) {
         return Refusal::Failed;
     }
-    const Refusal refusal = check(s, edited);
+    Refusal refusal = check(s, edited);
+    QList<VoucherLine> voucherRows;
+    if (refusal == Refusal::None) {
+        refusal = planVoucher(s, edited, voucherRows);
+    }
     if (refusal != Refusal::None) {
         return refusal;
     }
     Transaction tx(s);
     QStringList touched;
-    const bool saved = tx.isActive() && write(s, edited, touched) && tx.commit();
+    const bool saved = tx.isActive() && write(s, edited, voucherRows, touched) && tx.commit();
     if (!saved) {
         if (tx.isActive()) {
             tx.rollback();
@@ -154,7 +159,45 @@ SaleEdit::Refusal SaleEdit::save(const SaleEditDocument& edited) {
     return Refusal::None;
 }
 
-bool SaleEdit::write(Session& s, const SaleEditDocument& edited, QStringList& touched) {
+SaleEdit::Refusal SaleEdit::planVoucher(Session& s, const SaleEditDocument& edited,
+                                        QList<VoucherLine>& rows) {
+    const qint64 hid = edited.header.documentHId.value_or(0);
+    if (hid == 0) {
+        return Refusal::None;
+    }
+    const qint64 code = edited.header.code;
+    const std::optional<StockDocumentHeader> h = sp_tblWhs_QTYDocH_SelectRow(s, code);
+    const SaleMode mode = modeOf(edited.header.transType);
+    const std::optional<ReceiptPayments::Split> split =
+        ReceiptPayments::read(s, code, mode == SaleMode::Return);
+    bool failed = false;
+    SaleEditVoucher::Saved saved;
+    saved.rows = SaleEditRepository::voucherRows(s, hid, &failed);
+    if (!h || !split || failed) {
+        return Refusal::Failed;
+    }
+    saved.payable = h->docSum - h->discount + h->sarbar;
+    saved.received = h->receivedPrice;
+    saved.giftCard = split->giftCard;
+    const SaleVoucher::Accounts accounts =
+        SaleVoucher::accounts(s, edited.header.companyId.value_or(0));
+    const QString note = SaleVoucher::note(mode, edited.header.docNo, edited.header.docDate);
+    switch (SaleEditVoucher::rebuild(saved, mode, edited.payable(), edited.received, accounts, note,
+                                     rows)) {
+        case SaleEditVoucher::Outcome::Kept:
+            return Refusal::None;
+        case SaleEditVoucher::Outcome::SplitReceived:
+            m_messages.show(SaleEditVoucher::splitReceivedText(), MessageStyle::Critical);
+            return Refusal::PaymentSplit;
+        case SaleEditVoucher::Outcome::Mismatch:
+            break;
+    }
+    m_messages.show(SaleEditVoucher::mismatchText(), MessageStyle::Critical);
+    return Refusal::VoucherMismatch;
+}
+
+bool SaleEdit::write(Session& s, const SaleEditDocument& edited,
+                     const QList<VoucherLine>& voucherRows, QStringList& touched) {
     const qint64 code = edited.header.code;
     bool failed = false;
     const QList<SaleEditLine> before = savedLines(s, code, failed);
@@ -214,18 +257,12 @@ bool SaleEdit::write(Session& s, const SaleEditDocument& edited, QStringList& to
         if (!voucher) {
             return false;
         }
-        const SaleMode mode = modeOf(edited.header.transType);
-        voucher->note = SaleVoucher::note(mode, edited.header.docNo, edited.header.docDate);
+        voucher->note = SaleVoucher::note(modeOf(edited.header.transType), edited.header.docNo,
+                                          edited.header.docDate);
         if (!sp_tblDocumentH_Update(s, *voucher) || !sp_tblDocumentD_DeleteRow(s, hid)) {
             return false;
         }
-        SaleSettlement st;
-        st.discount = edited.header.discount;
-        st.overhead = edited.header.sarbar;
-        const SaleVoucher::Accounts accounts =
-            SaleVoucher::accounts(s, edited.header.companyId.value_or(0));
-        for (VoucherLine row : SaleVoucher::lines(st, mode, edited.payable(), edited.received,
-                                                  accounts, voucher->note)) {
+        for (VoucherLine row : voucherRows) {
             row.documentHId = hid;
             if (sp_tblDocumentD_Insert(s, row) <= 0) {
                 return false;

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "data/procedures/StockDocumentHeader.h"
+#include "data/procedures/VoucherLine.h"
 #include "sales/SaleAudit.h"
 
 namespace sandogh {
@@ -48,11 +49,20 @@ struct SaleEditDocument {
 // "تعداد وارده غير مجاز مي باشد" for more than is in stock): the audit record of the
 // document as it was, removed lines deleted by their ID, added and changed lines written
 // anew (MFee and Discount, no UserID), the header's discount and total, the voucher
-// rebuilt (header note, rows deleted and written again from the new amounts), and the
-// stock repaired for every article touched.
+// rebuilt (header note, rows deleted and written again: what came in stays on the accounts
+// it was paid into, SaleEditVoucher), and the stock repaired for every article touched.
 class SaleEdit {
 public:
-    enum class Refusal { None, NegativeTotal, ReceivedMore, Stock, NotFound, Failed };
+    enum class Refusal {
+        None,
+        NegativeTotal,
+        ReceivedMore,
+        Stock,
+        NotFound,
+        Failed,
+        PaymentSplit,     // the received amount changed where the payment split cannot follow
+        VoucherMismatch,  // the saved voucher does not fit the document's amounts
+    };
 
     SaleEdit(Database& database, const MachineSettings& settings, MessageService& messages,
              const Clock& clock, SaleAudit::Desk desk);
@@ -63,8 +73,11 @@ public:
     Refusal save(const SaleEditDocument& edited);
 
 private:
-    bool write(Session& s, const SaleEditDocument& edited, QStringList& touched);
+    bool write(Session& s, const SaleEditDocument& edited,
+               const QList<procedures::VoucherLine>& voucherRows, QStringList& touched);
     Refusal check(Session& s, const SaleEditDocument& edited);
+    Refusal planVoucher(Session& s, const SaleEditDocument& edited,
+                        QList<procedures::VoucherLine>& rows);
 
     Database& m_database;
     const MachineSettings& m_settings;

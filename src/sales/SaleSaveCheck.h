@@ -21,6 +21,7 @@ enum class SaleSaveCheck : int {
     SellerAndPayment,     // no seller, no payment kind
     GiftCard,             // the card pays more than the invoice or than its credit
     ReturnCause,          // a return without its cause
+    Codes,                // a payment kind, discount kind, station or customer that is gone
 };
 
 }  // namespace sandogh

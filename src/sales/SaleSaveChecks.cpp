@@ -5,8 +5,9 @@
 #include "common/AmountText.h"
 
 #include "data/Database.h"
-#include "data/SqlQuery.h"
 #include "data/repositories/DiscountTypes.h"
+#include "data/repositories/GiftCardRepository.h"
+#include "data/repositories/SaleCodes.h"
 #include "sales/SaleSaveTexts.h"
 #include "sales/SaleSession.h"
 #include "sales/SaleSettlement.h"
@@ -63,7 +64,7 @@ SaleSaveCheck SaleSaveChecks::run(SaleSession& sale, const SaleSettlement& settl
         return SaleSaveCheck::CustomerAboveAmount;
     }
     if (m_settings.customerCheckEnabled() && hasCustomer &&
-        !customerResolves(sale.customer().counter)) {
+        !SaleCodes(m_database).customerResolves(sale.customer().counter)) {
         refuse(SaleSaveTexts::customerNotResolved());
         return SaleSaveCheck::CustomerCheck;
     }
@@ -123,15 +124,7 @@ SaleSaveCheck SaleSaveChecks::run(SaleSession& sale, const SaleSettlement& settl
         refuse(SaleSaveTexts::noReturnCause());
         return SaleSaveCheck::ReturnCause;
     }
-    return SaleSaveCheck::None;
-}
-
-bool SaleSaveChecks::customerResolves(int counter) {
-    Session s = m_database.session(kModule, QStringLiteral("CheckCustomer"));
-    SqlQuery q(s, QStringLiteral("SELECT Counter FROM Types WHERE Counter = :counter AND "
-                                 "(TypeNo = 10 OR TypeNo = 11)"));
-    q.bind(QStringLiteral(":counter"), counter);
-    return q.exec() && q.next();
+    return codes(sale, settlement);
 }
 
 // The only discount kind with a factor is the loyalty gift kind (the fifth of the list):
@@ -172,6 +165,22 @@ SaleSaveCheck SaleSaveChecks::discountFactor(const SaleSettlement& settlement) {
     return SaleSaveCheck::None;
 }
 
+// The codes the sale names exist: the payment kind, discount kind, station and customer
+// were picked from lists, but another desk or the back office may have removed one since.
+SaleSaveCheck SaleSaveChecks::codes(const SaleSession& sale, const SaleSettlement& settlement) {
+    const SaleCodes::Missing missing =
+        SaleCodes(m_database)
+            .firstMissing(settlement.payType, settlement.discountTypeId, sale.station(),
+                          sale.customer().counter);
+    if (missing == SaleCodes::Missing::None) {
+        return SaleSaveCheck::None;
+    }
+    if (missing != SaleCodes::Missing::Unreachable) {
+        refuse(SaleCodes::message(missing));
+    }
+    return SaleSaveCheck::Codes;
+}
+
 SaleSaveCheck SaleSaveChecks::giftCard(const SaleSession& sale, const SaleSettlement& settlement) {
     if (settlement.giftCardId == 0 || settlement.giftCardAmount <= 0) {
         return SaleSaveCheck::None;
@@ -196,20 +205,7 @@ SaleSaveCheck SaleSaveChecks::giftCard(const SaleSession& sale, const SaleSettle
 
 std::optional<double> SaleSaveChecks::giftCardCredit(Database& database, qint64 cardId) {
     Session s = database.session(kModule, QStringLiteral("GiftCardCredit"));
-    SqlQuery charged(s, QStringLiteral("SELECT COALESCE(SUM(Amount), 0) AS Amount FROM tblGiftCard "
-                                       "WHERE CardID = :card"));
-    charged.bind(QStringLiteral(":card"), cardId);
-    if (!charged.exec() || !charged.next()) {
-        return std::nullopt;
-    }
-    SqlQuery spent(s, QStringLiteral("SELECT COALESCE(SUM(I.Amount), 0) AS Amount FROM "
-                                     "tblGiftCardItem AS I LEFT OUTER JOIN tblGiftCard G ON G.ID = "
-                                     "I.GiftCardID WHERE G.CardID = :card"));
-    spent.bind(QStringLiteral(":card"), cardId);
-    if (!spent.exec() || !spent.next()) {
-        return std::nullopt;
-    }
-    return charged.number(0) - spent.number(0);
+    return GiftCardRepository::credit(s, cardId);
 }
 
 }  // namespace sandogh

@@ -34,9 +34,9 @@ public:
 
 private:
     bool refuse(const QString& text);
-    bool customerResolves(int counter);
     SaleSaveCheck discountFactor(const SaleSettlement& settlement);
     SaleSaveCheck giftCard(const SaleSession& sale, const SaleSettlement& settlement);
+    SaleSaveCheck codes(const SaleSession& sale, const SaleSettlement& settlement);
 
     Database& m_database;
     const MachineSettings& m_settings;

@@ -8,6 +8,8 @@ namespace sandogh {
 // the cashiers know them. Line breaks inside a message are CR LF.
 class SaleTexts {
 public:
+    // A key or button of the screen that opens what the user may not open.
+    static QString forbidden() { return QStringLiteral("دسترسي شما به اين بخش محدود شده است!"); }
     // Column headers of the line grid, columns 1 to 7 and 9.
     static QString headerRow() { return QStringLiteral("رديف"); }
     static QString headerBarcode() { return QStringLiteral("کد کالا - بارکد"); }

@@ -1,6 +1,7 @@
 // Opening a new fiscal year on every backend: the new database holds every article with the
 // closing stock as its opening stock, the master tables with their keys, the customers'
-// balances as opening credit; the old year keeps its sales; a taken name is refused.
+// balances as opening credit; the old year keeps its sales; a taken name is refused; the
+// years listed are the shop's own.
 
 #include <gtest/gtest.h>
 
@@ -96,6 +97,31 @@ TEST_P(NewFiscalYearTest, ANameTakenOrMalformedIsRefused) {
         EXPECT_FALSE(r.ok) << name.toStdString();
         EXPECT_FALSE(r.error.isEmpty());
     }
+}
+
+// The chooser lists the shop's years from any of them; on a server another shop's database
+// (or any other) is no year of this shop, while on SQLite the shop's folder holds its years.
+TEST_P(NewFiscalYearTest, TheYearsAreTheShopsOwnFromAnyYear) {
+    ASSERT_TRUE(NewFiscalYear::open(db(), next, "1404/01/01").ok);
+    Database nextYear(db().settings().withCatalog(next), nullptr);
+    const QString third = db().settings().catalog + QStringLiteral("_third");
+    const ConnectionSettings stranger =
+        db().settings().withCatalog(db().settings().catalog + QStringLiteral("_stranger"));
+    ASSERT_TRUE(NewFiscalYear::open(nextYear, third, "1405/01/01").ok);
+    ASSERT_NE(DatabaseProvisioner::ensureExists(stranger, nullptr),
+              DatabaseProvisioner::Outcome::Failed);
+    const bool server = db().settings().backend != Backend::SQLite;
+    for (const QString& from : {db().settings().catalog, next, third}) {
+        SCOPED_TRACE(from.toStdString());
+        const QStringList years = NewFiscalYear::years(db().settings().withCatalog(from));
+        for (const QString& year : {db().settings().catalog, next, third}) {
+            EXPECT_TRUE(years.contains(year)) << year.toStdString();
+        }
+        EXPECT_EQ(years.contains(stranger.catalog), !server);
+    }
+    QString ignored;
+    DatabaseProvisioner::drop(db().settings().withCatalog(third), &ignored);
+    DatabaseProvisioner::drop(stranger, &ignored);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(NewFiscalYearTest);

@@ -4,9 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "SavedSalesTest.h"
 #include "sales/SaleAudit.h"
 #include "sales/SaleEdit.h"
+#include "sales/SaleEditVoucher.h"
 #include "sales/SaleTexts.h"
 
 namespace sandogh::test {
@@ -108,6 +111,62 @@ TEST_P(SaleEditTest, TheChecksRefuseWithTheirMessagesAndWriteNothing) {
     doc.received = doc.payable();
     EXPECT_EQ(editor().save(doc), SaleEdit::Refusal::None);
     EXPECT_EQ(stock(QStringLiteral("2222")), 0);
+}
+
+// A sale paid part in cash, part by card terminal and the rest owed: an edit of its lines
+// moves only the owing and income rows; a changed received amount cannot follow the split.
+TEST_P(SaleEditTest, TheSplitPaymentStaysAndItsReceivedAmountCannotChange) {
+    exec(
+        QStringLiteral("INSERT INTO tblAccountingGroup (Code, ParentCode, Name) VALUES "
+                       "(1101, 11, 'Bank')"));
+    const auto account = [this](int code) {
+        Session s = db().session();
+        return static_cast<int>(
+            s.scalarInt64(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = :c"),
+                          {{QStringLiteral(":c"), code}}));
+    };
+    SaleSettlement st;
+    st.received = 150000;
+    st.payments = {{SalePayment::Cash, account(101), {}, 50000},
+                   {SalePayment::BankTerminal, account(1101), QStringLiteral("7"), 100000}};
+    messages().queueAnswer(true);  // received less than payable: owed
+    const SaleSaveResult r = sell({{QStringLiteral("2222"), 2}}, st, kCustomer);
+    std::optional<SaleEditDocument> doc = editor().load(r.code);
+    ASSERT_TRUE(doc);
+    SaleEditLine tea;
+    tea.barcode = QStringLiteral("3333");
+    tea.qty = 1;
+    tea.mFee = 2000;
+    tea.recompute();
+    doc->lines << tea;
+    ASSERT_EQ(editor().save(*doc), SaleEdit::Refusal::None);
+
+    using Row = std::tuple<int, double, double>;
+    const auto rows = [&] {
+        QList<Row> all;
+        Session s = db().session();
+        SqlQuery q(s, QStringLiteral("SELECT AccountingGroupID, Debt, Credit FROM tblDocumentD "
+                                     "WHERE DocumentHID = :v ORDER BY ID"));
+        q.bind(QStringLiteral(":v"), r.voucherId);
+        EXPECT_TRUE(q.exec());
+        while (q.next()) {
+            all << Row{q.integer(0), q.number(1), q.number(2)};
+        }
+        return all;
+    };
+    const QList<Row> kept{{account(101), 50000, 0},
+                          {account(1101), 100000, 0},
+                          {account(1201), 52000, 0},
+                          {account(601), 0, 202000}};
+    EXPECT_EQ(rows(), kept);
+
+    doc = editor().load(r.code);
+    doc->received = 160000;
+    messages().clear();
+    EXPECT_EQ(editor().save(*doc), SaleEdit::Refusal::PaymentSplit);
+    EXPECT_EQ(messages().countOf(SaleEditVoucher::splitReceivedText()), 1);
+    EXPECT_EQ(rows(), kept);
+    EXPECT_EQ(count(QStringLiteral("tblSaleAudit")), 1);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(SaleEditTest);

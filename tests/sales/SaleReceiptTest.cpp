@@ -52,8 +52,6 @@ protected:
              {{QStringLiteral(":gift"), QStringLiteral("هدیه، باشگاه")}});
         exec(QStringLiteral("INSERT INTO Overhead (Id, Name) VALUES (1, :name)"),
              {{QStringLiteral(":name"), QStringLiteral("کرایه حمل")}});
-        exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (1, :name)"),
-             {{QStringLiteral(":name"), QStringLiteral("نقدی")}});
         addGoods({QStringLiteral("111"), 10000, 0, QStringLiteral("شیر پرچرب")});
         addGoods({QStringLiteral("222"), 2500, 0, QStringLiteral("نان")});
         setOption("Programs", "Companion", m_folder.filePath(QStringLiteral("Companion.exe")));
@@ -146,7 +144,7 @@ TEST_P(SaleReceiptTest, CompanionGetsTheCommandWithCommasOfTextsTurnedIntoSemico
     EXPECT_EQ(f[5], QString::number(code));
     EXPECT_EQ(f[6], QStringLiteral("7"));
     EXPECT_EQ(f[8], QStringLiteral("رضا، علی کریمی;نژاد"));
-    EXPECT_EQ(f[9], QStringLiteral("نقدی"));
+    EXPECT_EQ(f[9], kCashPaymentName);
     EXPECT_EQ(f[10], QStringLiteral("25500"));  // received: 25,000 - 500 + 1,000
     EXPECT_EQ(f[11], QStringLiteral("500"));
     EXPECT_EQ(f[12], QStringLiteral("هدیه، باشگاه"));

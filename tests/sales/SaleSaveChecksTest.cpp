@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "SaleShopTest.h"
+#include "data/repositories/SaleCodes.h"
 #include "sales/SaleSaveChecks.h"
 #include "sales/SaleSaveTexts.h"
 #include "sales/SaleSettlement.h"
@@ -35,7 +36,6 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        addStation(1);
         addGoods({QStringLiteral("2222"), 10000, 0, QStringLiteral("Rice")});
         exec(QStringLiteral(
             "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0), "
@@ -67,6 +67,7 @@ protected:
         }
         sale().newSale();
         sale().setMode(SaleMode::Sale);
+        sale().setStation(1);
         sale().setSaleDate(QStringLiteral("1404/01/01"));
         ASSERT_TRUE(sale().addGoods(QStringLiteral("2222")));
         settlement = SaleSettlement{};
@@ -172,6 +173,13 @@ const QList<Case>& cases() {
              t.flag("SaleSetting", "ReturnCause", true);
              t.theSale().setMode(SaleMode::Return);
          }},
+        // Codes removed since they were picked (the customer: the order test below).
+        {"UnknownPaymentKind", SaleSaveCheck::Codes,
+         [] { return SaleCodes::message(SaleCodes::Missing::PaymentKind); },
+         [](auto&, auto& s) { s.payType = 9; }},
+        {"UnknownStation", SaleSaveCheck::Codes,
+         [] { return SaleCodes::message(SaleCodes::Missing::Station); },
+         [](auto& t, auto&) { t.theSale().setStation(9); }},
     };
     return all;
 }
@@ -272,6 +280,11 @@ TEST_P(SaleSaveChecksTest, TheEarliestBrokenRuleIsToldFirst) {
              sale().setMode(SaleMode::Return);
          }},
         {SaleSaveCheck::ReturnCause, [&] { settlement.returnCauseId = 2; }},
+        {SaleSaveCheck::Codes,
+         [&] {
+             setOption("SaleOptions", "CustomerAboveAmount", QStringLiteral("0"));
+             sale().setCustomer(SaleCustomer{});
+         }},
     };
     for (const auto& [check, fix] : steps) {
         EXPECT_EQ(run(), check);

@@ -19,7 +19,6 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        addStation(1);
         addStation(2);
         for (int i = 0; i < 20; ++i) {
             addGoods({QStringLiteral("50%1").arg(i), 1000, 0, QStringLiteral("Article")});

@@ -27,7 +27,6 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        addStation(1);
         addGoods({QStringLiteral("2222"), 100000, 0, QStringLiteral("Rice")});
         addGoods({QStringLiteral("3333"), 2000, 9, QStringLiteral("Tea")});
         exec(QStringLiteral(

@@ -7,6 +7,8 @@
 
 namespace sandogh::test {
 
+const QString SaleShopTest::kCashPaymentName = QStringLiteral("نقدی");
+
 void SaleShopTest::SetUp() {
     BackendTest::SetUp();
     if (IsSkipped() || HasFatalFailure()) {
@@ -20,6 +22,11 @@ void SaleShopTest::SetUp() {
     m_settings = std::make_unique<MachineSettings>(*m_store);
     m_sale = std::make_unique<SaleSession>(db(), *m_settings, messages(), m_clock);
     m_sale->setUser(7, QStringLiteral("cashier"));
+    // A save refuses a station or payment kind that does not exist: the desk's station and
+    // the cash payment kind are there for every test.
+    addStation(1);
+    exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (1, :name)"),
+         {{QStringLiteral(":name"), kCashPaymentName}});
     m_sale->setStation(1);
 }
 

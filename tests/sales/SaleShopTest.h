@@ -32,6 +32,9 @@ struct TestGoods {
 
 class SaleShopTest : public BackendTest {
 protected:
+    // The name of payment kind 1, which every shop of the fixture has, as is station 1.
+    static const QString kCashPaymentName;
+
     void SetUp() override;
     void TearDown() override;
 

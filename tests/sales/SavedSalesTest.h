@@ -27,8 +27,6 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        addStation(1);
-        sale().setStation(1);
         addGoods({QStringLiteral("2222"), 100000, 0, QStringLiteral("Rice")});
         addGoods({QStringLiteral("3333"), 2000, 0, QStringLiteral("Tea")});
         addDocument(1, 1, QStringLiteral("1"), QStringLiteral("2222"), 50, 90000);

@@ -59,7 +59,6 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        addStation(1);
         addGoods({QStringLiteral("2222"), 100000, 0, QStringLiteral("Rice")});
         exec(QStringLiteral("INSERT INTO tblAccountingGroup (Code, ParentCode, Name) VALUES "
                             "(101, 10, :cash), (601, 60, :income), (602, 60, :back)"),

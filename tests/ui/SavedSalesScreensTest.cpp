@@ -7,11 +7,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTest>
 
 #include "ScreenTestContext.h"
@@ -22,10 +24,12 @@
 #include "data/procedures/StockDocumentWriter.h"
 #include "sales/SaleDelete.h"
 #include "sales/SaleListModel.h"
+#include "sales/SaleTexts.h"
 #include "ui/app/frmMain.h"
 #include "ui/sales/frmDeleteFactor.h"
 #include "ui/sales/frmSale.h"
 #include "ui/sales/frmSaleList.h"
+#include "ui/sales/frmSaleUpdate.h"
 
 namespace sandogh {
 namespace {
@@ -114,6 +118,57 @@ TEST_F(SavedSalesScreensTest, TheSelectedDocumentIsDeletedFromTheList) {
               0);
 }
 
+// The editor: the saved lines in the grid, a quantity typed into a cell recomputed, a line
+// added by its barcode and another removed, and the save writing what the grid shows.
+TEST_F(SavedSalesScreensTest, TheEditorSavesWhatIsTypedIntoItsGrid) {
+    Session s = app.context.database().session();
+    for (const auto& [barcode, cost] : {std::pair{"7001", 10000}, std::pair{"7002", 2500}}) {
+        ASSERT_TRUE(s.exec(
+            QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost, ISActive) "
+                           "VALUES (:b, :b, :c, 1)"),
+            {{QStringLiteral(":b"), QString::fromLatin1(barcode)}, {QStringLiteral(":c"), cost}}));
+    }
+    StockDocumentLine line;
+    line.eanCode = QStringLiteral("7001");
+    line.qty = 2;
+    line.mFee = line.fee = 10000;
+    line.price = 20000;
+    ASSERT_GT(StockDocumentWriter::insertLine(s, codes[0], line), 0);
+
+    frmSaleUpdate editor(app.context);
+    ASSERT_TRUE(editor.frmSaleUdateSetup(codes[0]));
+    EXPECT_EQ(editor.property("Code").toLongLong(), codes[0]);
+    auto* grid = editor.findChild<QTableWidget*>(QStringLiteral("Grid1"));
+    ASSERT_EQ(grid->rowCount(), 1);
+    grid->item(0, frmSaleUpdate::ColQty)->setText(QStringLiteral("3"));
+    EXPECT_EQ(grid->item(0, frmSaleUpdate::ColPrice)->text(), QStringLiteral("30,000"));
+    EXPECT_EQ(editor.findChild<QLabel*>(QStringLiteral("lblSum"))->text(),
+              QStringLiteral("30,000"));
+
+    auto* barcode = editor.findChild<QLineEdit*>(QStringLiteral("txtBarcode"));
+    QTest::keyClicks(barcode, QStringLiteral("7002"));
+    QTest::keyClick(barcode, Qt::Key_Return);
+    ASSERT_EQ(grid->rowCount(), 2);
+    EXPECT_EQ(editor.Barcode(), QStringLiteral("7002"));
+    grid->setCurrentCell(0, frmSaleUpdate::ColBarcode);
+    QTest::mouseClick(editor.findChild<QPushButton*>(QStringLiteral("cmdDelRow")), Qt::LeftButton);
+    ASSERT_EQ(grid->rowCount(), 1);
+    auto* received = editor.findChild<QLineEdit*>(QStringLiteral("txtReceived"));
+    received->setText(QStringLiteral("2500"));
+    QTest::mouseClick(editor.findChild<QPushButton*>(QStringLiteral("cmdSave")), Qt::LeftButton);
+
+    const SqlBinds code{{QStringLiteral(":c"), codes[0]}};
+    EXPECT_EQ(
+        s.scalarText(QStringLiteral("SELECT EAN_Code FROM Whs_QTYDocD WHERE Code = :c"), code),
+        QStringLiteral("7002"));
+    EXPECT_EQ(
+        s.scalarNumber(QStringLiteral("SELECT DocSum FROM Whs_QTYDocH WHERE Code = :c"), code),
+        2500);
+    // Saved, the editor shows the document as it now stands.
+    EXPECT_EQ(grid->rowCount(), 1);
+    EXPECT_EQ(grid->item(0, frmSaleUpdate::ColBarcode)->text(), QStringLiteral("7002"));
+}
+
 TEST_F(SavedSalesScreensTest, CtrlPOnTheSaleScreenOpensTheDeleteScreenWhenAllowed) {
     for (const PermissionLevel level : {PermissionLevel::Cashier, PermissionLevel::Administrator}) {
         frmMain window(app.context);
@@ -130,6 +185,10 @@ TEST_F(SavedSalesScreensTest, CtrlPOnTheSaleScreenOpensTheDeleteScreenWhenAllowe
         const bool opened =
             active != nullptr && qobject_cast<frmDeleteFactor*>(active->widget()) != nullptr;
         EXPECT_EQ(opened, level == PermissionLevel::Administrator);
+        // Refused, the sale screen says so in its own words.
+        EXPECT_EQ(app.messages.countOf(SaleTexts::forbidden()),
+                  level == PermissionLevel::Administrator ? 0 : 1);
+        app.messages.clear();
     }
 }
 

@@ -205,6 +205,22 @@ TEST_P(frmSaleRequestTest, AsksTheMainWindowForAnotherScreen) {
     EXPECT_EQ(spy.count(), 1);
 }
 
+TEST_P(frmSaleRequestTest, RefusesWithItsMessageWhatTheUserMayNotOpen) {
+    const RequestCase& c = GetParam();
+    if (c.enableSection != nullptr) {
+        setOption(c.enableSection, "Enable", QStringLiteral("1"));
+    }
+    openScreen();
+    screen().setAccess([](Permission) { return false; });
+    QSignalSpy spy(&screen(), c.signal);
+
+    press(c.key, c.modifiers);
+
+    EXPECT_EQ(spy.count(), 0);
+    EXPECT_EQ(messages().countOf(SaleTexts::forbidden()), 1);
+    EXPECT_TRUE(barcodeHasFocus());
+}
+
 const RequestCase kGoodDefinition{"F2", Qt::Key_F2, Qt::NoModifier,
                                   SIGNAL(goodDefinitionRequested()), "GoodDefinition"};
 const RequestCase kNewSaleForm{"F3", Qt::Key_F3, Qt::NoModifier, SIGNAL(newSaleFormRequested()),

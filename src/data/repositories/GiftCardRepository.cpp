@@ -129,4 +129,22 @@ std::optional<GiftCardRepository::Cards> GiftCardRepository::cardsOf(Session& se
     return Cards{q.int64(0), q.number(1)};
 }
 
+std::optional<double> GiftCardRepository::credit(Session& session, qint64 cardNumber) {
+    SqlQuery charged(session,
+                     QStringLiteral("SELECT COALESCE(SUM(Amount), 0) AS Amount FROM tblGiftCard "
+                                    "WHERE CardID = :card"));
+    charged.bind(QStringLiteral(":card"), cardNumber);
+    if (!charged.exec() || !charged.next()) {
+        return std::nullopt;
+    }
+    SqlQuery spent(session, QStringLiteral("SELECT COALESCE(SUM(I.Amount), 0) AS Amount FROM "
+                                           "tblGiftCardItem AS I LEFT OUTER JOIN tblGiftCard G ON "
+                                           "G.ID = I.GiftCardID WHERE G.CardID = :card"));
+    spent.bind(QStringLiteral(":card"), cardNumber);
+    if (!spent.exec() || !spent.next()) {
+        return std::nullopt;
+    }
+    return charged.number(0) - spent.number(0);
+}
+
 }  // namespace sandogh

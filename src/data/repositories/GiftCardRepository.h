@@ -19,6 +19,10 @@ public:
     // The gift cards bought for the customer; nothing when the statement failed.
     static std::optional<Cards> cardsOf(Session& session, int customer);
 
+    // The remaining credit of a card number (tblGiftCard.CardID): its charges less its
+    // movements; nothing when a statement failed.
+    static std::optional<double> credit(Session& session, qint64 cardNumber);
+
     // Every statement reads the shop's card tables (tblGiftCard, tblGiftCardItem, Types), or
     // a central database's (GiftCard, GiftCardItem, CenterTypes) when central names one.
 

@@ -46,6 +46,14 @@ SaleCodes::Missing SaleCodes::firstMissing(std::optional<int> paymentKind,
     return Missing::None;
 }
 
+bool SaleCodes::customerResolves(int counter) {
+    Session s = m_database.session(QStringLiteral("frmSale"), QStringLiteral("CheckCustomer"));
+    SqlQuery q(s, QStringLiteral("SELECT Counter FROM Types WHERE Counter = :counter AND "
+                                 "(TypeNo = 10 OR TypeNo = 11)"));
+    q.bind(QStringLiteral(":counter"), counter);
+    return q.exec() && q.next();
+}
+
 QString SaleCodes::message(Missing missing) {
     switch (missing) {
         case Missing::PaymentKind:

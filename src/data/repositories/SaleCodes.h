@@ -22,6 +22,10 @@ public:
     Missing firstMissing(std::optional<int> paymentKind, std::optional<int> discountKind,
                          int station, int customer);
 
+    // Whether the customer counter names a customer or supplier row of the parameter
+    // table; false also when the look-up failed.
+    bool customerResolves(int counter);
+
     // The Persian message for a missing code (empty for None and Unreachable, whose
     // message the data layer has shown).
     static QString message(Missing missing);

@@ -55,4 +55,27 @@ bool SaleEditRepository::updateHeader(Session& session, qint64 code, double disc
                          {QStringLiteral(":code"), code}});
 }
 
+QList<procedures::VoucherLine> SaleEditRepository::voucherRows(Session& session, qint64 documentHId,
+                                                               bool* failed) {
+    QList<procedures::VoucherLine> rows;
+    SqlQuery q(session, QStringLiteral("SELECT ID, AccountingGroupID, Debt, Credit, Comment FROM "
+                                       "tblDocumentD WHERE DocumentHID = :hid ORDER BY ID"));
+    q.bind(QStringLiteral(":hid"), documentHId);
+    const bool ok = q.exec();
+    if (failed != nullptr) {
+        *failed = !ok;
+    }
+    while (ok && q.next()) {
+        procedures::VoucherLine row;
+        row.id = q.int64(0);
+        row.documentHId = documentHId;
+        row.accountingGroupId = q.integer(1);
+        row.debt = q.number(2);
+        row.credit = q.number(3);
+        row.comment = q.text(4);
+        rows << row;
+    }
+    return rows;
+}
+
 }  // namespace sandogh

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "data/procedures/StockDocumentLine.h"
+#include "data/procedures/VoucherLine.h"
 
 namespace sandogh {
 
@@ -25,6 +26,10 @@ public:
     // Discount, and the total and amount received that follow the new lines.
     static bool updateHeader(Session& session, qint64 code, double discount, double docSum,
                              double received);
+    // The rows of the sale's voucher in the order they were written; empty on failure
+    // (failed set).
+    static QList<procedures::VoucherLine> voucherRows(Session& session, qint64 documentHId,
+                                                      bool* failed = nullptr);
 };
 
 }  // namespace sandogh

@@ -131,13 +131,15 @@ frmSale* SaleDesk::openNamed(frmMain& main, const QString& name) {
         SaleDesk* desk = of(*screen);
         // The drawer goes through the main window's one entry.
         desk->m_actions->setDrawer([&main] { main.mnuOpenCash_Click(); });
+        // The keys and buttons that open other screens ask the user's permissions, as the
+        // main window holds them.
+        screen->setAccess(
+            [&main](Permission permission) { return main.permissions().allows(permission); });
         connect(screen, &frmSale::newSaleFormRequested, &main, [&main] { openAnother(main); });
-        // Ctrl+P: frmDeleteFactor through its menu command, which carries its permission.
-        connect(screen, &frmSale::deleteInvoiceRequested, &main, [&main] {
-            if (QAction* a = main.command(QStringLiteral("mnuDeleteFactor")); a && a->isEnabled()) {
-                a->trigger();
-            }
-        });
+        // Ctrl+P: frmDeleteFactor through its menu command (the screen has checked the
+        // permission; the main window checks it again).
+        connect(screen, &frmSale::deleteInvoiceRequested, &main,
+                [&main] { main.runCommand(QStringLiteral("mnuDeleteFactor")); });
         connect(screen, &frmSale::goodDefinitionRequested, &main, [&main] {
             main.openChild(QStringLiteral("frmGood"),
                            [&main] { return CatalogScreens::good(main.context()); });

@@ -10,6 +10,7 @@
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTimer>
+#include <optional>
 #include <utility>
 
 #include "common/AmountText.h"
@@ -186,7 +187,11 @@ void frmSale::connectSale() {
     connect(btnParsianPos, &QPushButton::clicked, this,
             [this] { runCommand(command(SaleCommand::PecPayment)); });
     connect(btnOpenCash, &QPushButton::clicked, this, [this] {
-        m_sale->openDrawer();
+        if (m_allows && !m_allows(Permission::OpenDrawer)) {
+            m_messages.show(SaleTexts::forbidden(), MessageStyle::Critical);
+        } else {
+            m_sale->openDrawer();
+        }
         focusBarcode();
     });
     connect(btnBuyFactor, &QPushButton::clicked, this, &frmSale::loyaltyGiftRequested);
@@ -252,6 +257,37 @@ void frmSale::setWeightService(WeightService* service) {
 
 void frmSale::setGoodsSearch(std::function<QString()> search) {
     m_goodsSearch = std::move(search);
+}
+
+void frmSale::setAccess(std::function<bool(Permission)> allows) {
+    m_allows = std::move(allows);
+}
+
+bool frmSale::permitted(SaleCommand command) {
+    std::optional<Permission> needed;
+    switch (command) {
+        case SaleCommand::NewSaleForm:
+            needed = Permission::Sale;
+            break;
+        case SaleCommand::GoodDefinition:
+            needed = Permission::Goods;
+            break;
+        case SaleCommand::DeleteInvoice:
+            needed = Permission::DeleteSales;
+            break;
+        case SaleCommand::CustomerSearch:
+        case SaleCommand::CustomerSummary:
+            needed = Permission::CustomerSearch;
+            break;
+        default:
+            break;
+    }
+    if (!needed || !m_allows || m_allows(*needed)) {
+        return true;
+    }
+    m_messages.show(SaleTexts::forbidden(), MessageStyle::Critical);
+    focusBarcode();
+    return false;
 }
 
 void frmSale::enterBarcode() {
@@ -345,7 +381,7 @@ void frmSale::runCommand(const SaleKeyBinding& binding) {
             break;
     }
     const Result result = m_sale->execute(binding, Grid1->selectedRow());
-    if (result == Result::Refused) {
+    if (result == Result::Refused || !permitted(binding.command)) {
         return;
     }
     switch (binding.command) {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "app/Permission.h"
 #include "sales/SaleKeyBinding.h"
 
 class QCheckBox;
@@ -67,6 +68,10 @@ public:
     // Ctrl+L: replaces the goods search dialog frmGoodsSearch; returns the chosen
     // article's barcode, or empty text.
     void setGoodsSearch(std::function<QString()> search);
+    // Whether the user may open what a key or button of the screen opens (another sale
+    // screen, goods, the invoice delete, the customer search, the drawer); refused, the
+    // screen says so. Unset: everything.
+    void setAccess(std::function<bool(Permission)> allows);
 
     SaleCustomerPanel* customerPanel() const { return m_customer; }
     SaleTotalsPanel* totalsPanel() const { return m_totals; }
@@ -130,6 +135,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // False, with the refusal shown, when the user may not open what the command opens.
+    bool permitted(SaleCommand command);
     void buildControls();
     void buildLayout();
     void connectSale();
@@ -164,6 +171,7 @@ private:
     CustomerDisplay* m_display = nullptr;
     WeightService* m_weight = nullptr;
     std::function<QString()> m_goodsSearch;
+    std::function<bool(Permission)> m_allows;
     bool m_entering = false;
     bool m_enterPending = false;
     bool m_left = false;

@@ -51,7 +51,8 @@ std::optional<QList<ArticleSales>> SalesReportQueries::articles(Session& session
                                                                 const ReportFilter& filter) {
     SqlBinds binds;
     // The lines are summed per article first and the names joined to the sums, so each
-    // article's name is looked up once rather than once per line.
+    // article's name is looked up once rather than once per line. In barcode order, so that
+    // articles of equal figures keep one order in the sorted reports.
     SqlQuery q(session,
                QStringLiteral("SELECT A.EAN_Code, G.Name, A.Qty, A.Amount FROM (SELECT "
                               "D.EAN_Code, SUM(") +
@@ -62,7 +63,8 @@ std::optional<QList<ArticleSales>> SalesReportQueries::articles(Session& session
                    kSaleKinds + ReportConditions::headers(filter, binds) +
                    QStringLiteral(" GROUP BY D.EAN_Code) A LEFT JOIN Goods G ON G.EAN_Code = "
                                   "A.EAN_Code") +
-                   ReportConditions::goodsGroupWhere(filter, binds));
+                   ReportConditions::goodsGroupWhere(filter, binds) +
+                   QStringLiteral(" ORDER BY A.EAN_Code"));
     if (!run(q, binds)) {
         return std::nullopt;
     }

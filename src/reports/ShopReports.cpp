@@ -30,6 +30,15 @@ QHash<QString, double> unitCosts(const QList<reportrows::PurchaseCost>& costs) {
     return byBarcode;
 }
 
+// Whether asOf lies fewer days after the first day of its year than before today. A shop
+// database holds one fiscal year, so its first documents are near that day.
+bool nearerTheYearStart(const QString& asOf, const QString& today) {
+    const auto day = JalaliCalendar::toSerial(asOf.toStdString());
+    const auto now = JalaliCalendar::toSerial(today.toStdString());
+    const auto first = JalaliCalendar::toSerial(asOf.left(4).toStdString() + "/01/01");
+    return day && now && first && *day - *first < *now - *day;
+}
+
 }  // namespace
 
 ShopReports::ShopReports(Session& session) : m_session(session) {}
@@ -101,7 +110,7 @@ std::optional<QList<Article>> ShopReports::articles(const ReportFilter& filter, 
     }
     QHash<QString, double> cost;
     if (withCost) {
-        const auto costs = SalesReportQueries::purchaseCosts(m_session, filter);
+        const auto costs = StockReportQueries::purchaseCosts(m_session, filter.to);
         if (!costs) {
             return std::nullopt;
         }
@@ -121,13 +130,17 @@ std::optional<QList<StockLine>> ShopReports::stock(const QString& asOf, const QS
     if (!onHand) {
         return std::nullopt;
     }
+    // The stock on a past day is the stock now less what moved after it, or (the same
+    // while Stock is repaired) the sum of what moved up to it: whichever reads fewer days.
+    const bool upTo = asOf < today && nearerTheYearStart(asOf, today);
     QHash<QString, double> moved;
     if (asOf < today) {
-        const auto later = StockReportQueries::movedAfter(m_session, asOf);
-        if (!later) {
+        const auto rows = upTo ? StockReportQueries::movedUpTo(m_session, asOf)
+                               : StockReportQueries::movedAfter(m_session, asOf);
+        if (!rows) {
             return std::nullopt;
         }
-        for (const reportrows::ArticleStock& m : *later) {
+        for (const reportrows::ArticleStock& m : *rows) {
             moved[m.barcode] += m.quantity;
         }
     }
@@ -139,8 +152,8 @@ std::optional<QList<StockLine>> ShopReports::stock(const QString& asOf, const QS
     QList<StockLine> lines;
     lines.reserve(onHand->size());
     for (const reportrows::ArticleStock& a : *onHand) {
-        lines.append(
-            {a.barcode, a.name, a.quantity - moved.value(a.barcode), cost.value(a.barcode)});
+        const double quantity = upTo ? moved.value(a.barcode) : a.quantity - moved.value(a.barcode);
+        lines.append({a.barcode, a.name, quantity, cost.value(a.barcode)});
     }
     std::sort(lines.begin(), lines.end(),
               [](const StockLine& a, const StockLine& b) { return a.barcode < b.barcode; });

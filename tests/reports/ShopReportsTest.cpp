@@ -127,6 +127,20 @@ TEST_P(ShopReportsTest, StockAsOfAPastDateIgnoresLaterDocuments) {
     }
 }
 
+TEST_P(ShopReportsTest, StockOnADayIsTheSameReadFromEitherEnd) {
+    Session s = session();
+    // 1404/01/04 is read up from the first documents when today is far, and back from the
+    // stock now when today is the next day (the purchase of 1404/01/06 is then taken off).
+    for (const char* today : {"1404/01/30", "1404/01/05"}) {
+        const auto lines =
+            ShopReports(s).stock(QStringLiteral("1404/01/04"), QString::fromLatin1(today), {});
+        ASSERT_TRUE(lines);
+        ASSERT_EQ(lines->size(), 2);
+        EXPECT_DOUBLE_EQ(lines->at(0).quantity, 8) << today;
+        EXPECT_DOUBLE_EQ(lines->at(1).quantity, 3) << today;
+    }
+}
+
 TEST_P(ShopReportsTest, PaymentsByKindAddUpToTheReceivedTotal) {
     Session s = session();
     const auto p = ShopReports(s).payments(range("1404/01/01", "1404/01/05"));

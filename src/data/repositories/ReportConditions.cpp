@@ -29,4 +29,11 @@ QString ReportConditions::goodsGroup(const ReportFilter& filter, SqlBinds& binds
     return QStringLiteral(" AND G.Spec_Group = :goodsGroup");
 }
 
+QString ReportConditions::goodsGroupWhere(const ReportFilter& filter, SqlBinds& binds) {
+    const QString condition = goodsGroup(filter, binds);
+    return condition.isEmpty()
+               ? condition
+               : QStringLiteral(" WHERE") + condition.mid(QStringLiteral(" AND").size());
+}
+
 }  // namespace sandogh

@@ -15,6 +15,8 @@ public:
     static QString headers(const ReportFilter& filter, SqlBinds& binds);
     // " AND G.Spec_Group = :goodsGroup" when the filter names a group.
     static QString goodsGroup(const ReportFilter& filter, SqlBinds& binds);
+    // The same as the whole WHERE clause of a statement: " WHERE G.Spec_Group = :goodsGroup".
+    static QString goodsGroupWhere(const ReportFilter& filter, SqlBinds& binds);
 };
 
 }  // namespace sandogh

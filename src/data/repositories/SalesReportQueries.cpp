@@ -19,12 +19,6 @@ QString signedBy(const QString& column) {
         .arg(column);
 }
 
-// The landed unit cost of a purchase line under alias D: the list price less the line
-// discount percent, plus the tax percent of that net price.
-const QString kLandedUnitCost = QStringLiteral(
-    "COALESCE((D.MFee - (D.MFee * D.Discount / 100.0)) + "
-    "((D.MFee - (D.MFee * D.Discount / 100.0)) * D.TaxValue / 100.0), 0)");
-
 bool run(SqlQuery& q, const SqlBinds& binds) {
     for (const auto& [name, value] : binds) {
         q.bindValue(name, value);
@@ -56,44 +50,27 @@ std::optional<QList<DayKind>> SalesReportQueries::days(Session& session,
 std::optional<QList<ArticleSales>> SalesReportQueries::articles(Session& session,
                                                                 const ReportFilter& filter) {
     SqlBinds binds;
-    SqlQuery q(
-        session,
-        QStringLiteral("SELECT D.EAN_Code, MAX(G.Name), SUM(") + signedBy(QStringLiteral("D.Qty")) +
-            QStringLiteral("), SUM(") + signedBy(QStringLiteral("D.Price")) +
-            QStringLiteral(") FROM Whs_QTYDocH H INNER JOIN Whs_QTYDocD D ON D.Code = "
-                           "H.Code LEFT JOIN Goods G ON G.EAN_Code = D.EAN_Code") +
-            kSaleKinds + ReportConditions::headers(filter, binds) +
-            ReportConditions::goodsGroup(filter, binds) + QStringLiteral(" GROUP BY D.EAN_Code"));
+    // The lines are summed per article first and the names joined to the sums, so each
+    // article's name is looked up once rather than once per line. In barcode order, so that
+    // articles of equal figures keep one order in the sorted reports.
+    SqlQuery q(session,
+               QStringLiteral("SELECT A.EAN_Code, G.Name, A.Qty, A.Amount FROM (SELECT "
+                              "D.EAN_Code, SUM(") +
+                   signedBy(QStringLiteral("D.Qty")) + QStringLiteral(") AS Qty, SUM(") +
+                   signedBy(QStringLiteral("D.Price")) +
+                   QStringLiteral(") AS Amount FROM Whs_QTYDocH H INNER JOIN Whs_QTYDocD D ON "
+                                  "D.Code = H.Code") +
+                   kSaleKinds + ReportConditions::headers(filter, binds) +
+                   QStringLiteral(" GROUP BY D.EAN_Code) A LEFT JOIN Goods G ON G.EAN_Code = "
+                                  "A.EAN_Code") +
+                   ReportConditions::goodsGroupWhere(filter, binds) +
+                   QStringLiteral(" ORDER BY A.EAN_Code"));
     if (!run(q, binds)) {
         return std::nullopt;
     }
     QList<ArticleSales> rows;
     while (q.next()) {
         rows.append({q.text(0), q.text(1), q.number(2), q.number(3)});
-    }
-    return rows;
-}
-
-std::optional<QList<PurchaseCost>> SalesReportQueries::purchaseCosts(Session& session,
-                                                                     const ReportFilter& filter) {
-    SqlBinds binds{{QStringLiteral(":purchasedTo"), filter.to}};
-    SqlQuery q(session,
-               QStringLiteral("SELECT D.EAN_Code, SUM(COALESCE(D.Qty, 0)), "
-                              "SUM(COALESCE(D.Qty, 0) * ") +
-                   kLandedUnitCost +
-                   QStringLiteral(") FROM Whs_QTYDocH P INNER JOIN Whs_QTYDocD D ON D.Code = "
-                                  "P.Code WHERE P.TransType = 1 AND P.DocType IS NULL "
-                                  "AND P.DocDate <= :purchasedTo AND D.EAN_Code IN (SELECT "
-                                  "SD.EAN_Code FROM Whs_QTYDocH H INNER JOIN Whs_QTYDocD SD ON "
-                                  "SD.Code = H.Code") +
-                   kSaleKinds + ReportConditions::headers(filter, binds) +
-                   QStringLiteral(") GROUP BY D.EAN_Code"));
-    if (!run(q, binds)) {
-        return std::nullopt;
-    }
-    QList<PurchaseCost> rows;
-    while (q.next()) {
-        rows.append({q.text(0), q.number(1), q.number(2)});
     }
     return rows;
 }

@@ -11,7 +11,7 @@ namespace sandogh {
 class Session;
 
 // The aggregates the shop's reports read from ordinary sale documents (TransType 2 and 3,
-// DocType NULL) and their purchase costs and vouchers. Each runs on the caller's session
+// DocType NULL) and their vouchers. Each runs on the caller's session
 // (a report may run on a worker thread with its own) and gives std::nullopt when its
 // statement failed (reported as every failed statement is).
 class SalesReportQueries {
@@ -22,11 +22,6 @@ public:
     // Quantity and amount per article, sales less returns.
     static std::optional<QList<reportrows::ArticleSales>> articles(Session& session,
                                                                    const ReportFilter& filter);
-    // Ordinary purchases up to and including a date, per article: quantity and landed value
-    // (the list price less the line discount percent plus the tax percent of that, times the
-    // quantity), for the articles sold in the filter's range.
-    static std::optional<QList<reportrows::PurchaseCost>> purchaseCosts(Session& session,
-                                                                        const ReportFilter& filter);
     // Count, DocSum and ReceivedPrice per cash desk, shift and kind, with their names.
     static std::optional<QList<reportrows::DeskShiftKind>> desks(Session& session,
                                                                  const ReportFilter& filter);

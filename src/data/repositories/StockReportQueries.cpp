@@ -39,6 +39,16 @@ std::optional<QList<ArticleStock>> StockReportQueries::onHand(Session& session,
 
 std::optional<QList<ArticleStock>> StockReportQueries::movedAfter(Session& session,
                                                                   const QString& asOf) {
+    return moved(session, asOf, QStringLiteral(">"));
+}
+
+std::optional<QList<ArticleStock>> StockReportQueries::movedUpTo(Session& session,
+                                                                 const QString& asOf) {
+    return moved(session, asOf, QStringLiteral("<="));
+}
+
+std::optional<QList<ArticleStock>> StockReportQueries::moved(Session& session, const QString& asOf,
+                                                             const QString& comparison) {
     QList<ArticleStock> rows;
     const QString tables[][2] = {
         {QStringLiteral("Whs_QTYDocH"), QStringLiteral("Whs_QTYDocD")},
@@ -50,8 +60,8 @@ std::optional<QList<ArticleStock>> StockReportQueries::movedAfter(Session& sessi
         SqlQuery q(session, QStringLiteral("SELECT D.EAN_Code, ") + kSignedQty +
                                 QStringLiteral(" FROM %1 H INNER JOIN %2 D ON D.Code = H.Code "
                                                "WHERE H.TransType IN (1, 2, 3, 4) AND "
-                                               "H.DocDate > :asOf")
-                                    .arg(tables[t][0], tables[t][1]) +
+                                               "H.DocDate %3 :asOf")
+                                    .arg(tables[t][0], tables[t][1], comparison) +
                                 ordinary + QStringLiteral(" GROUP BY D.EAN_Code"));
         q.bind(QStringLiteral(":asOf"), asOf);
         if (!q.exec()) {

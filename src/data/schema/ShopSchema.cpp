@@ -9,7 +9,7 @@ const QList<MigrationStep>& shopMigrations() {
         shopschema::siteStep(),         shopschema::parametersStep(), shopschema::goodsStep(),
         shopschema::documentsStep(),    shopschema::accountsStep(),   shopschema::giftCardsStep(),
         shopschema::scaleVendorsStep(), shopschema::lookupsStep(),    shopschema::goodsSearchStep(),
-        shopschema::saleAuditStep(),    shopschema::userRightsStep(),
+        shopschema::saleAuditStep(),    shopschema::userRightsStep(), shopschema::reportsStep(),
     };
     return steps;
 }

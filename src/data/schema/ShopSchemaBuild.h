@@ -126,5 +126,6 @@ MigrationStep lookupsStep();       // 8
 MigrationStep goodsSearchStep();   // 9
 MigrationStep saleAuditStep();     // 10
 MigrationStep userRightsStep();    // 11
+MigrationStep reportsStep();       // 12
 
 }  // namespace sandogh::shopschema

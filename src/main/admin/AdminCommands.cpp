@@ -17,6 +17,7 @@ int runBackup(AdminCall& call);
 int runRestore(AdminCall& call);
 int runNewYear(AdminCall& call);
 int runSales(AdminCall& call);
+int runInternal(AdminCall& call);
 
 const QList<AdminCommand>& adminCommands() {
     static const QList<AdminCommand> commands = {
@@ -45,6 +46,8 @@ const QList<AdminCommand>& adminCommands() {
          runNewYear},
         {"sales", "sales list|delete|reprint ...  saved documents: list, delete, reprint",
          runSales},
+        {"internal", "internal sell --branch ID [--return --of N] ENTRY...  internal sales",
+         runInternal},
     };
     return commands;
 }

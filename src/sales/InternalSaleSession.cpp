@@ -1,6 +1,7 @@
 #include "sales/InternalSaleSession.h"
 
 #include "data/Database.h"
+#include "data/Transaction.h"
 #include "data/repositories/CenterBranchesRepository.h"
 #include "data/repositories/DocumentNumbering.h"
 #include "sales/InternalPricing.h"
@@ -49,6 +50,13 @@ const SaleSession& InternalSaleSession::entry() const {
 
 std::optional<QList<CenterBranch>> InternalSaleSession::branches() {
     Session s = d->database.session(kModule, QStringLiteral("LoadBranches"));
+    if (d->branchKind == CenterBranchesRepository::kCentre) {
+        // The centre row is made the first time it is needed.
+        Transaction tx(s);
+        if (!tx.isActive() || CenterBranchesRepository::centre(s) == 0 || !tx.commit()) {
+            return std::nullopt;
+        }
+    }
     return CenterBranchesRepository::ofKind(s, d->branchKind);
 }
 int InternalSaleSession::branchKind() const {

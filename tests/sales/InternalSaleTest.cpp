@@ -249,6 +249,20 @@ TEST_P(InternalSaleTest, StockAfterASaleAndItsReturnIsTheSumOfAllLines) {
     EXPECT_DOUBLE_EQ(day.returnsSum, 1.5 * 5000);
 }
 
+TEST_P(InternalSaleTest, BranchListShowsTheKindOfTheSettingWithTheCentreMadeOnFirstNeed) {
+    auto branches = newSession()->branches();
+    ASSERT_TRUE(branches);
+    ASSERT_EQ(branches->size(), 1);
+    EXPECT_EQ(branches->first().id, branch);
+    setOption("SaleInter", "BranchKind", QStringLiteral("1"));
+    for (int i = 0; i < 2; ++i) {
+        branches = newSession()->branches();
+        ASSERT_TRUE(branches);
+        ASSERT_EQ(branches->size(), 1);
+        EXPECT_NE(branches->first().id, branch);
+    }
+}
+
 SANDOGH_INSTANTIATE_BACKENDS(InternalSaleTest);
 
 }  // namespace sandogh::test

@@ -21,6 +21,7 @@
 #include "sales/SaleSession.h"
 #include "sales/SettlingPause.h"
 #include "settings/Clock.h"
+#include "settings/MachineSettings.h"
 #include "ui/sales/SaleGridView.h"
 
 namespace sandogh {
@@ -178,6 +179,10 @@ void frmSaleInter::showMode() {
 }
 
 void frmSaleInter::showTotals() {
+    // As on the sale screen, the day's totals are shown only while the desk shows them.
+    if (!m_context.machineSettings().displayDailySale()) {
+        return;
+    }
     const DailyTotals::Figures day =
         m_saver->dailyTotals(m_sale->entry().station(), m_sale->entry().saleDate());
     if (day.ok) {

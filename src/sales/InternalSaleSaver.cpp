@@ -51,8 +51,8 @@ InternalSaleCheck InternalSaleSaver::check(InternalSaleSession& sale) {
     }
     if (sale.docNoTyped()) {
         Session s = m_database.session(kModule, QStringLiteral("CheckDocNo"));
-        const std::optional<bool> taken =
-            InternalSaleRepository::docNoTaken(s, sale.entry().transType(), sale.docNo());
+        const std::optional<bool> taken = InternalSaleRepository::docNoTaken(
+            s, sale.entry().transType(), sale.docNo(), sale.editedCode());
         if (taken && *taken) {
             return refuse(InternalSaleTexts::docNoTaken(), InternalSaleCheck::DocNoTaken);
         }
@@ -70,7 +70,8 @@ InternalSaleResult InternalSaleSaver::save(InternalSaleSession& sale, bool print
     bool replace = false;
     if (sale.entry().mode() == SaleMode::Return) {
         Session s = m_database.session(kModule, QStringLiteral("EarlierReturn"));
-        const auto earlier = InternalSaleRepository::earlierReturn(s, sale.returnedInvoice());
+        const auto earlier =
+            InternalSaleRepository::earlierReturn(s, sale.returnedInvoice(), sale.editedCode());
         if (!earlier) {
             return r;
         }
@@ -129,6 +130,12 @@ bool InternalSaleSaver::write(Session& s, InternalSaleSession& sale, bool replac
     }
     const SaleSession& entry = sale.entry();
     const int transType = entry.transType();
+    // A corrected document is written again under its key: the old one goes first, its
+    // stock taken back.
+    const qint64 edited = sale.editedCode();
+    if (edited != 0 && !StockDocumentWriter::deleteInternalDocument(s, edited)) {
+        return false;
+    }
     // The earlier return goes first, so that its number is free for the new one.
     const bool isReturn = entry.mode() == SaleMode::Return;
     if (isReturn) {
@@ -167,7 +174,7 @@ bool InternalSaleSaver::write(Session& s, InternalSaleSession& sale, bool replac
         }
         r.docNo = QString::number(next);
     }
-    const qint64 code = InternalSaleRepository::nextCode(s);
+    const qint64 code = edited != 0 ? edited : InternalSaleRepository::nextCode(s);
     if (code <= 0) {
         return false;
     }
@@ -188,7 +195,7 @@ bool InternalSaleSaver::write(Session& s, InternalSaleSession& sale, bool replac
     QList<InternalSaleRepository::Line> lines;
     for (const SaleLine& line : entry.lines()) {
         lines << InternalSaleRepository::Line{line.barcode, line.quantity, line.unitPrice,
-                                              line.total};
+                                              line.total, line.name};
     }
     if (!InternalSaleRepository::insertHeader(s, h) ||
         !InternalSaleRepository::insertLines(s, code, lines) ||

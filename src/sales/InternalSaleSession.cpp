@@ -4,7 +4,9 @@
 #include "data/Transaction.h"
 #include "data/repositories/CenterBranchesRepository.h"
 #include "data/repositories/DocumentNumbering.h"
+#include "data/repositories/InternalSaleRepository.h"
 #include "sales/InternalPricing.h"
+#include "sales/LoadedDocument.h"
 #include "sales/SaleSession.h"
 #include "settings/InternalSaleKeys.h"
 #include "settings/MachineSettings.h"
@@ -28,6 +30,7 @@ struct InternalSaleSession::Private {
     QString docNo;
     bool docNoTyped = false;
     QString returnedInvoice;
+    qint64 editedCode = 0;
 };
 
 InternalSaleSession::InternalSaleSession(Database& database, const MachineSettings& settings,
@@ -119,8 +122,45 @@ void InternalSaleSession::setReturnedInvoice(const QString& number) {
     d->returnedInvoice = number.trimmed();
 }
 
+bool InternalSaleSession::loadDocument(qint64 code) {
+    Session s = d->database.session(kModule, QStringLiteral("LoadDocument"));
+    const std::optional<InternalSaleRepository::Saved> saved =
+        InternalSaleRepository::document(s, code);
+    if (!saved) {
+        return false;
+    }
+    const std::optional<CenterBranch> branch =
+        CenterBranchesRepository::find(s, saved->header.branchId);
+    s.release();
+    newSale();
+    d->branch = branch.value_or(CenterBranch{saved->header.branchId, QString()});
+    d->entry.setMode(saved->header.transType == 3 ? SaleMode::Return : SaleMode::Sale);
+    d->entry.setSaleDate(saved->header.docDate);
+    LoadedDocument document;
+    document.documentCode = code;
+    document.note = saved->header.note;
+    for (const InternalSaleRepository::Line& l : saved->lines) {
+        SaleLine line;
+        line.barcode = l.barcode;
+        line.name = l.name;
+        line.quantity = l.qty;
+        line.unitPrice = l.fee;
+        document.lines << line;
+    }
+    d->entry.loadDocument(document);
+    setDocNo(saved->header.docNo, true);
+    d->returnedInvoice = saved->header.atf;
+    d->editedCode = code;
+    return true;
+}
+
+qint64 InternalSaleSession::editedCode() const {
+    return d->editedCode;
+}
+
 void InternalSaleSession::newSale() {
     d->entry.newSale();
+    d->editedCode = 0;
     d->docNo.clear();
     d->docNoTyped = false;
     d->returnedInvoice.clear();

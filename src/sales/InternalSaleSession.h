@@ -58,6 +58,13 @@ public:
     QString returnedInvoice() const;
     void setReturnedInvoice(const QString& number);
 
+    // frmSaleInterUpdate: a saved document brought in to be corrected (its branch, kind,
+    // number, date and lines); saving then writes it again under its own key. False when it
+    // cannot be read.
+    bool loadDocument(qint64 code);
+    // The key of the document being corrected; 0 for a new one.
+    qint64 editedCode() const;
+
     // A new, empty internal sale; the branch stays chosen.
     void newSale();
 

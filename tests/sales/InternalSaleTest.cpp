@@ -249,6 +249,33 @@ TEST_P(InternalSaleTest, StockAfterASaleAndItsReturnIsTheSumOfAllLines) {
     EXPECT_DOUBLE_EQ(day.returnsSum, 1.5 * 5000);
 }
 
+TEST_P(InternalSaleTest, ACorrectedDocumentIsWrittenAgainUnderItsKeyWithStockFollowing) {
+    ASSERT_TRUE(sell(5).saved);
+    const InternalSaleResult ret = sell(2, SaleMode::Return, QStringLiteral("1"));
+    ASSERT_TRUE(ret.saved);
+    EXPECT_DOUBLE_EQ(stock(), -3);
+    messages().clear();
+
+    auto session = std::make_unique<InternalSaleSession>(db(), settings(), messages(), clock());
+    ASSERT_TRUE(session->loadDocument(ret.code));
+    EXPECT_EQ(session->branchId(), branch);
+    EXPECT_EQ(session->entry().mode(), SaleMode::Return);
+    EXPECT_EQ(session->returnedInvoice(), QStringLiteral("1"));
+    ASSERT_EQ(session->entry().lines().size(), 1);
+    EXPECT_EQ(session->entry().lines().first().name, QStringLiteral("Tea"));
+    ASSERT_TRUE(session->entry().changeQuantity(0, 4));
+
+    // Its own number and its own return of invoice 1 are not taken as another's.
+    const InternalSaleResult saved = InternalSaleSaver(db(), messages(), clock()).save(*session);
+    ASSERT_TRUE(saved.saved);
+    EXPECT_EQ(messages().count(), 0);
+    EXPECT_EQ(saved.code, ret.code);
+    EXPECT_EQ(saved.docNo, ret.docNo);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocHInternal")), 2);
+    EXPECT_DOUBLE_EQ(stock(), -5 + 4);
+    EXPECT_FALSE(session->loadDocument(999));
+}
+
 TEST_P(InternalSaleTest, BranchListShowsTheKindOfTheSettingWithTheCentreMadeOnFirstNeed) {
     auto branches = newSession()->branches();
     ASSERT_TRUE(branches);

@@ -1,6 +1,6 @@
 // The internal sale screen on the demo shop: a barcode typed with Enter reaches the grid
-// and the total, saving without a branch shows its refusal, and a saved sale clears the
-// screen and shows the desk's previous invoice.
+// and the total, saving without a branch shows its refusal, a saved sale clears the screen
+// and shows the desk's previous invoice, and the editor brings a saved one back.
 
 #include <gtest/gtest.h>
 
@@ -79,6 +79,31 @@ TEST_F(frmSaleInterTest, RingingUpAndSavingClearsTheScreenAndShowsThePreviousInv
     EXPECT_DOUBLE_EQ(
         s.scalarNumber(QStringLiteral("SELECT DocSum FROM Whs_QTYDocHInternal WHERE Code = 1")),
         total);
+}
+
+TEST_F(frmSaleInterTest, TheEditorShowsTheSavedDocumentAndClosesOnceSaved) {
+    EXPECT_EQ(frmSaleInter::editor(app.context, 1), nullptr);
+    screen->cboBranch->setCurrentIndex(0);
+    scan(barcode);
+    ASSERT_TRUE(screen->save());
+
+    std::unique_ptr<frmSaleInter> editor(frmSaleInter::editor(app.context, 1));
+    ASSERT_NE(editor, nullptr);
+    editor->show();
+    EXPECT_EQ(editor->objectName(), QStringLiteral("frmSaleInterUpdate"));
+    EXPECT_EQ(editor->txtNo->text(), QStringLiteral("1"));
+    EXPECT_EQ(editor->cboBranch->currentIndex(), 0);
+    ASSERT_EQ(editor->Grid1->model()->rowCount(), 1);
+    test::typeText(editor->txtBarcode, barcode);
+    QTest::keyClick(editor->txtBarcode, Qt::Key_Return);
+    EXPECT_EQ(editor->session().entry().lines().first().quantity, 2);
+    EXPECT_TRUE(editor->save());
+    EXPECT_FALSE(editor->isVisible());
+    Session s = app.context.database().session();
+    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocHInternal")), 1);
+    EXPECT_DOUBLE_EQ(
+        s.scalarNumber(QStringLiteral("SELECT SUM(Qty) FROM Whs_QTYDocDInternal WHERE Code = 1")),
+        2);
 }
 
 TEST_F(frmSaleInterTest, TheReturnSwitchShowsTheReturnedInvoiceBox) {

@@ -11,11 +11,20 @@ namespace {
 const QString kNextCode =
     QStringLiteral("SELECT COALESCE(MAX(Code), 0) + 1 FROM Whs_QTYDocHInternal");
 const QString kDocNoTaken = QStringLiteral(
-    "SELECT COUNT(*) FROM Whs_QTYDocHInternal WHERE TransType = :transType AND DocNo = :docNo");
+    "SELECT COUNT(*) FROM Whs_QTYDocHInternal WHERE TransType = :transType AND DocNo = :docNo "
+    "AND Code <> :except");
 // Atf is written as invoiceNumber() gives it, so comparing the texts compares the numbers.
 const QString kEarlierReturn = QStringLiteral(
     "SELECT Code, COALESCE(DocNo, '') FROM Whs_QTYDocHInternal WHERE TransType = 3 AND "
-    "Atf = :atf ORDER BY Code");
+    "Atf = :atf AND Code <> :except ORDER BY Code");
+const QString kHeader = QStringLiteral(
+    "SELECT Code, COALESCE(DocNo, ''), TransType, COALESCE(CompanyID, 0), COALESCE(DocDate, ''), "
+    "COALESCE(UserID, 0), COALESCE(StationID, 0), COALESCE(SalesType, 1), COALESCE(Atf, ''), "
+    "COALESCE(Note, '') FROM Whs_QTYDocHInternal WHERE Code = :code");
+const QString kLines = QStringLiteral(
+    "SELECT D.EAN_Code, COALESCE(D.Qty, 0), COALESCE(D.Fee, 0), COALESCE(D.Price, 0), "
+    "COALESCE(G.Name, '') FROM Whs_QTYDocDInternal D LEFT JOIN Goods G ON G.EAN_Code = D.EAN_Code "
+    "WHERE D.Code = :code ORDER BY D.ID");
 const QString kHeaderColumns = QStringLiteral(
     "Code, DocNo, TransType, CompanyID, DocDate, UserID, DocSum, Discount, DocTime, Sarbar, "
     "ReceivedPrice, StationID, Note, SalesType");
@@ -41,8 +50,9 @@ qint64 InternalSaleRepository::nextCode(Session& session) {
 }
 
 std::optional<bool> InternalSaleRepository::docNoTaken(Session& session, int transType,
-                                                       const QString& docNo) {
+                                                       const QString& docNo, qint64 exceptCode) {
     SqlQuery q(session, kDocNoTaken);
+    q.bind(QStringLiteral(":except"), exceptCode);
     q.bind(QStringLiteral(":transType"), transType);
     q.bind(QStringLiteral(":docNo"), docNo.trimmed());
     if (!q.exec()) {
@@ -52,8 +62,10 @@ std::optional<bool> InternalSaleRepository::docNoTaken(Session& session, int tra
 }
 
 std::optional<std::optional<InternalSaleRepository::Document>>
-InternalSaleRepository::earlierReturn(Session& session, const QString& invoiceNo) {
+InternalSaleRepository::earlierReturn(Session& session, const QString& invoiceNo,
+                                      qint64 exceptCode) {
     SqlQuery q(session, kEarlierReturn);
+    q.bind(QStringLiteral(":except"), exceptCode);
     q.bind(QStringLiteral(":atf"), invoiceNumber(invoiceNo));
     if (!q.exec()) {
         return std::nullopt;
@@ -62,6 +74,36 @@ InternalSaleRepository::earlierReturn(Session& session, const QString& invoiceNo
         return std::optional<Document>();
     }
     return std::optional<Document>(Document{q.int64(0), q.text(1)});
+}
+
+std::optional<InternalSaleRepository::Saved> InternalSaleRepository::document(Session& session,
+                                                                              qint64 code) {
+    SqlQuery h(session, kHeader);
+    h.bind(QStringLiteral(":code"), code);
+    if (!h.exec() || !h.next()) {
+        return std::nullopt;
+    }
+    Saved saved;
+    Header& header = saved.header;
+    header.code = h.int64(0);
+    header.docNo = h.text(1);
+    header.transType = h.integer(2);
+    header.branchId = h.integer(3);
+    header.docDate = h.text(4);
+    header.userId = h.integer(5);
+    header.stationId = h.integer(6);
+    header.salesType = h.integer(7);
+    header.atf = h.text(8);
+    header.note = h.text(9);
+    SqlQuery l(session, kLines);
+    l.bind(QStringLiteral(":code"), code);
+    if (!l.exec()) {
+        return std::nullopt;
+    }
+    while (l.next()) {
+        saved.lines << Line{l.text(0), l.number(1), l.number(2), l.number(3), l.text(4).trimmed()};
+    }
+    return saved;
 }
 
 bool InternalSaleRepository::insertHeader(Session& session, const Header& h) {

@@ -34,6 +34,7 @@ public:
         double qty = 0;
         double fee = 0;
         double price = 0;
+        QString name;  // Goods.Name, read with a saved document only
     };
     struct Document {
         qint64 code = 0;
@@ -50,12 +51,22 @@ public:
 
     // The next key, the largest plus one (1 on an empty table); 0 when the statement failed.
     static qint64 nextCode(Session& session);
-    // Whether a document of the kind already has this number; nothing on failure.
-    static std::optional<bool> docNoTaken(Session& session, int transType, const QString& docNo);
-    // The return already saved for an invoice number (compared as a number); an empty inner
-    // value when there is none, nothing on failure.
+    // Whether a document of the kind other than exceptCode already has this number; nothing
+    // on failure.
+    static std::optional<bool> docNoTaken(Session& session, int transType, const QString& docNo,
+                                          qint64 exceptCode = 0);
+    // The return other than exceptCode already saved for an invoice number (compared as a
+    // number); an empty inner value when there is none, nothing on failure.
     static std::optional<std::optional<Document>> earlierReturn(Session& session,
-                                                                const QString& invoiceNo);
+                                                                const QString& invoiceNo,
+                                                                qint64 exceptCode = 0);
+    // A saved document, its header and its lines in the order written; nothing when it is
+    // not there or the statement failed.
+    struct Saved {
+        Header header;
+        QList<Line> lines;
+    };
+    static std::optional<Saved> document(Session& session, qint64 code);
     // The header under its key; the lines under the same key. False when one failed.
     static bool insertHeader(Session& session, const Header& header);
     static bool insertLines(Session& session, qint64 code, const QList<Line>& lines);

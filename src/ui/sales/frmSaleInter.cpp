@@ -67,6 +67,27 @@ frmSaleInter::frmSaleInter(AppContext& context, QWidget* parent)
 
 frmSaleInter::~frmSaleInter() = default;
 
+frmSaleInter* frmSaleInter::editor(AppContext& context, qint64 code, QWidget* parent) {
+    auto* screen = new frmSaleInter(context, parent);
+    if (!screen->m_sale->loadDocument(code)) {
+        delete screen;
+        return nullptr;
+    }
+    screen->setObjectName(QStringLiteral("frmSaleInterUpdate"));
+    screen->txtNo->setText(screen->m_sale->docNo());
+    screen->txtAtf->setText(screen->m_sale->returnedInvoice());
+    screen->showBranch();
+    screen->showMode();
+    return screen;
+}
+
+void frmSaleInter::showBranch() {
+    const int index = cboBranch->findData(m_sale->branchId());
+    if (index >= 0) {
+        cboBranch->setCurrentIndex(index);
+    }
+}
+
 void frmSaleInter::buildControls() {
     const auto named = [this](auto* widget, const char* name) {
         widget->setObjectName(QString::fromLatin1(name));
@@ -212,6 +233,11 @@ bool frmSaleInter::save() {
     const InternalSaleResult r = m_saver->save(*m_sale, chkPrint->isChecked());
     if (!r.saved) {
         return false;
+    }
+    if (m_sale->editedCode() != 0) {
+        m_left = true;
+        close();
+        return true;
     }
     m_sale->newSale();
     txtAtf->clear();

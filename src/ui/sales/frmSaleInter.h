@@ -30,6 +30,11 @@ public:
     explicit frmSaleInter(AppContext& context, QWidget* parent = nullptr);
     ~frmSaleInter() override;
 
+    // frmSaleInterUpdate: the same screen with a saved internal document brought in to be
+    // corrected; saving writes it again under its key and closes the screen. Null (with
+    // nothing shown) when the document cannot be read.
+    static frmSaleInter* editor(AppContext& context, qint64 code, QWidget* parent = nullptr);
+
     InternalSaleSession& session() const { return *m_sale; }
 
     // Enter in the barcode box.
@@ -68,6 +73,7 @@ private:
     void showTotals();
     void showDesk();
     void print(const InternalSaleResult& saved);
+    void showBranch();
 
     AppContext& m_context;
     std::unique_ptr<InternalSaleSession> m_sale;

@@ -71,6 +71,10 @@ bool SaleReceipt::print(qint64 code, const ReceiptOptions& options) {
     if (!readReceipt(m_database, m_messages, m_settings.fishIsRial(), code, options, receipt)) {
         return false;
     }
+    return print(receipt, options);
+}
+
+bool SaleReceipt::print(const ReceiptData& receipt, const ReceiptOptions& options) {
     CompanionHandOff companion(m_launcher, m_settings.companionProgramPath(m_programFolder));
     if (companion.isPresent()) {
         const ReceiptReport report =

@@ -36,6 +36,8 @@ public:
     // Prints the receipt of the Whs_QTYDocH row Code = code (of Whs_QTYDocHInternal with the
     // internal family in options). False when nothing was printed.
     bool print(qint64 code, const ReceiptOptions& options = {});
+    // Prints a receipt laid out by the caller (a document of another table) the same way.
+    bool print(const ReceiptData& receipt, const ReceiptOptions& options = {});
 
     // The receipt command of a saved sale (what the companion program gets); empty when the
     // sale cannot be read (the message has been shown).

@@ -8,6 +8,7 @@
 #include "data/repositories/PurchasePrices.h"
 #include "sales/BarcodeResolver.h"
 #include "sales/CustomerSearch.h"
+#include "sales/LinePricer.h"
 #include "sales/SaleActions.h"
 #include "sales/SaleChecks.h"
 #include "sales/SaleOptions.h"
@@ -47,6 +48,7 @@ struct SaleSession::Private {
     SellerChooser* sellerChooser = nullptr;
     QuantityAsker* quantityAsker = nullptr;
     TotalDisplay* display = nullptr;
+    LinePricer* pricer = nullptr;
 
     SaleLinesModel model;
     int station = 0;
@@ -110,6 +112,9 @@ void SaleSession::setQuantityAsker(QuantityAsker* asker) {
 }
 void SaleSession::setDisplay(TotalDisplay* display) {
     d->display = display;
+}
+void SaleSession::setLinePricer(LinePricer* pricer) {
+    d->pricer = pricer;
 }
 SaleActions* SaleSession::actions() const {
     return d->actions;
@@ -275,11 +280,15 @@ bool SaleSession::addGoods(const QString& barcode, double quantity, bool inGrams
             return false;
         }
     }
-    SalePricing pricing(d->messages, d->priceChooser, d->sellerChooser);
-    const SalePricing::Context context{d->salesType, saleDate(), CompanyId(),
-                                       Seller{d->userId, d->userName}};
-    const std::optional<SaleLine> line =
-        pricing.priceLine(session, d->options, context, barcode, qty);
+    std::optional<SaleLine> line;
+    if (d->pricer != nullptr) {
+        line = d->pricer->priceLine(session, barcode, qty);
+    } else {
+        SalePricing pricing(d->messages, d->priceChooser, d->sellerChooser);
+        const SalePricing::Context context{d->salesType, saleDate(), CompanyId(),
+                                           Seller{d->userId, d->userName}};
+        line = pricing.priceLine(session, d->options, context, barcode, qty);
+    }
     session.release();
     return line && addLine(*line);
 }

@@ -15,6 +15,7 @@ namespace sandogh {
 
 class Clock;
 class Database;
+class LinePricer;
 class MachineSettings;
 class MessageService;
 class PriceChooser;
@@ -58,6 +59,9 @@ public:
     void setSellerChooser(SellerChooser* chooser);
     void setQuantityAsker(QuantityAsker* asker);
     void setDisplay(TotalDisplay* display);
+    // Prices new lines in place of the sale's pricing (another kind of document); null:
+    // the sale's own.
+    void setLinePricer(LinePricer* pricer);
     SaleActions* actions() const;
     QuantityAsker* quantityAsker() const;
 

@@ -18,6 +18,7 @@ int runBackup(AdminCall& call);
 int runRestore(AdminCall& call);
 int runNewYear(AdminCall& call);
 int runSales(AdminCall& call);
+int runInternal(AdminCall& call);
 
 const QList<AdminCommand>& adminCommands() {
     static const QList<AdminCommand> commands = {
@@ -46,7 +47,7 @@ const QList<AdminCommand>& adminCommands() {
          runNewYear},
         {"sales", "sales list|delete|reprint ...  saved documents: list, delete, reprint",
          runSales},
-        {"internal", "internal send|receive ...     internal invoices to and from branches",
+        {"internal", "internal sell|send|receive ...  internal sales to branches and their file",
          runInternal},
     };
     return commands;

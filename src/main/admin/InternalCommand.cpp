@@ -10,12 +10,14 @@ struct InternalWord {
 };
 
 const InternalWord kWords[] = {
+    {"sell", runInternalSell},
     {"send", runInternalSend},
     {"receive", runInternalReceive},
 };
 
 const char* const kUsage =
-    "usage: sandogh-admin internal send --branch ID [--all-unsent] [--out FILE] [NUMBER ...]\n"
+    "usage: sandogh-admin internal sell --branch ID [--return --of N] ENTRY...\n"
+    "       sandogh-admin internal send --branch ID [--all-unsent] [--out FILE] [NUMBER ...]\n"
     "       sandogh-admin internal receive FILE\n";
 
 }  // namespace

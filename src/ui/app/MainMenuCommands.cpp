@@ -24,6 +24,7 @@
 #include "ui/sales/frmReceiveFactor.h"
 #include "ui/sales/frmSaleAudit.h"
 #include "ui/sales/frmSaleInterList.h"
+#include "ui/sales/frmSaleInter.h"
 #include "ui/sales/frmSaleList.h"
 #include "ui/sales/frmSaleUpdate.h"
 #include "ui/sales/frmShift.h"
@@ -157,6 +158,9 @@ QList<MainMenuCommand> MainMenuCommands::all() {
          QKeySequence(Qt::ALT | Qt::Key_F4)},
         {QStringLiteral("mnuSale"), QStringLiteral("فاکتور فروش"), MainMenu::Sales,
          Permission::Sale, [](frmMain& main) { SaleDesk::open(main); }},
+        {QStringLiteral("mnuSaleInter"), QStringLiteral("فاکتور فروش داخلی"), MainMenu::Sales,
+         Permission::Sale,
+         child(QStringLiteral("frmSaleInter"), [](AppContext& c) { return new frmSaleInter(c); })},
         {QStringLiteral("mnuOpenCash"), QStringLiteral("باز کردن کشوی پول"), MainMenu::Sales,
          Permission::OpenDrawer, [](frmMain& main) { main.mnuOpenCash_Click(); },
          QKeySequence(Qt::CTRL | Qt::Key_K)},

@@ -23,8 +23,8 @@
 #include "ui/sales/frmRePrintInter.h"
 #include "ui/sales/frmReceiveFactor.h"
 #include "ui/sales/frmSaleAudit.h"
-#include "ui/sales/frmSaleInterList.h"
 #include "ui/sales/frmSaleInter.h"
+#include "ui/sales/frmSaleInterList.h"
 #include "ui/sales/frmSaleList.h"
 #include "ui/sales/frmSaleUpdate.h"
 #include "ui/sales/frmShift.h"
@@ -83,6 +83,30 @@ void openSaleList(frmMain& main, int transType) {
                                    [&main] { return new frmSaleUpdate(main.context()); }));
                 if (editor != nullptr) {
                     editor->frmSaleUdateSetup(code, name, QString::number(counter));
+                }
+            });
+        return list;
+    });
+}
+
+// The internal documents of one kind; one opens in frmSaleInterUpdate from there when the
+// user may edit.
+void openInternalList(frmMain& main, int transType) {
+    main.openChild(QStringLiteral("frmSaleInterList/%1").arg(transType), [&main, transType] {
+        auto* list = new frmSaleInterList(main.context(), transType);
+        QObject::connect(
+            list, &frmSaleList::editRequested, &main, [&main](qint64 code, const QString&, int) {
+                if (!Permissions(main.context().user().level).allows(Permission::EditSales)) {
+                    return;
+                }
+                frmSaleInter* editor = frmSaleInter::editor(main.context(), code);
+                if (editor == nullptr) {
+                    return;  // the document could not be read; told already
+                }
+                // An editor already open on this document is brought forward instead.
+                if (main.openChild(QStringLiteral("frmSaleInterUpdate/%1").arg(code),
+                                   [editor] { return editor; }) != editor) {
+                    delete editor;
                 }
             });
         return list;
@@ -187,14 +211,10 @@ QList<MainMenuCommand> MainMenuCommands::all() {
         // The internal documents handed to the branches, under the same permissions as the
         // ordinary ones.
         {QStringLiteral("mnuSaleInterList"), QStringLiteral("فهرست فاکتورهای فروش داخلی"),
-         MainMenu::Sales, Permission::Reports,
-         child(QStringLiteral("frmSaleInterList/2"),
-               [](AppContext& c) { return new frmSaleInterList(c, 2); })},
+         MainMenu::Sales, Permission::Reports, [](frmMain& main) { openInternalList(main, 2); }},
         {QStringLiteral("mnuSaleInterReturnList"),
          QStringLiteral("فهرست مرجوعی‌های فروش داخلی"), MainMenu::Sales,
-         Permission::Reports,
-         child(QStringLiteral("frmSaleInterList/3"),
-               [](AppContext& c) { return new frmSaleInterList(c, 3); })},
+         Permission::Reports, [](frmMain& main) { openInternalList(main, 3); }},
         {QStringLiteral("mnuRePrintInter"), QStringLiteral("چاپ مجدد فاکتور داخلی"),
          MainMenu::Sales, Permission::Sale,
          child(QStringLiteral("frmRePrintInter"),

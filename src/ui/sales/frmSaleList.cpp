@@ -104,7 +104,7 @@ frmSaleList::~frmSaleList() = default;
 void frmSaleList::setTransType(int transType) {
     m_transType = transType;
     // The internal documents' editor is not opened from this list.
-    cmdEdit->setVisible(m_family == DocumentFamily::Ordinary && (transType == 2 || transType == 3));
+    cmdEdit->setVisible(transType == 2 || transType == 3);
     FillGrid();
 }
 
@@ -172,8 +172,7 @@ bool frmSaleList::cmdDelete_Click() {
 
 bool frmSaleList::cmdEdit_Click() {
     const SaleListQuery::Row* row = selectedRow();
-    if (row == nullptr || m_family != DocumentFamily::Ordinary ||
-        (m_transType != 2 && m_transType != 3)) {
+    if (row == nullptr || (m_transType != 2 && m_transType != 3)) {
         return false;
     }
     emit editRequested(row->code, row->customerName, row->customerId);

@@ -8,6 +8,7 @@
 
 #include "data/Database.h"
 #include "data/ErrorLog.h"
+#include "data/SqliteBusyWait.h"
 #include "settings/MessageService.h"
 
 namespace sandogh {
@@ -242,6 +243,9 @@ bool ConnectionPool::configureSqlite(QSqlDatabase& db, DbError& error) {
         "PRAGMA foreign_keys = ON",   "PRAGMA journal_mode = WAL",  "PRAGMA synchronous = FULL",
         "PRAGMA cache_size = -65536", "PRAGMA temp_store = MEMORY", "PRAGMA mmap_size = 1073741824",
     };
+    // Waits for another desk's write through SqliteBusyWait; Qt's busy timeout (set on
+    // open) stays when the driver's handle is not SQLite's own.
+    SqliteBusyWait::install(db, m_options.sqliteBusyTimeoutMs);
     QSqlQuery q(db);
     for (const char* pragma : pragmas) {
         if (!q.exec(QString::fromLatin1(pragma))) {

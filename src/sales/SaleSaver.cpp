@@ -245,51 +245,53 @@ bool SaleSaver::Private::prepare(Session& s, const SaleSession& sale, const Sale
 bool SaleSaver::Private::write(Session& s, const SaleSession& sale, const SaleSettlement& st,
                                Prepared& p, SaleSaveResult& r, GiftCardMovement& movement,
                                bool& typedTaken) {
+    // The document first, under a key of its own and without a number: other desks write
+    // theirs at the same time (StockDocumentWriter::insertHeaderUnlocked).
+    const QString date = sale.saleDate();
+    p.header.docNo.clear();
+    p.header.documentHId.reset();
+    r.code = StockDocumentWriter::insertHeaderUnlocked(s, p.header);
+    if (r.code <= 0 || !StockDocumentWriter::insertLines(s, r.code, p.lines)) {
+        return false;
+    }
+
     // Desks saving at the same moment take turns from here to their commit: the invoice
-    // number, the voucher code and the document key are each the largest plus one, read
-    // after the previous desk's commit. Nothing that can be done before is done here.
+    // number and the voucher code are each the largest plus one, read after the previous
+    // desk's commit. Only what needs the numbers follows, and what touches rows that the
+    // writers holding the lock from their start change too (Stock, serial numbers, the
+    // customer, gift cards), so that no desk waits for rows of one waiting for the lock.
     if (!StockDocumentWriter::lockWriters(s)) {
         return false;
     }
-    const QString date = sale.saleDate();
-    const QString typed = st.docNoTyped ? st.docNo.trimmed() : QString();
-    const std::optional<DocumentNumbering::SaleNumbers> numbers = DocumentNumbering::saleNumbers(
-        s, sale.transType(), date, settings.resetFactorNoDaily(), typed);
-    if (!numbers || (typed.isEmpty() && numbers->docNo <= 0)) {
+    DocumentNumbering::SaleVoucherRequest request;
+    request.transType = sale.transType();
+    request.date = date;
+    request.daily = settings.resetFactorNoDaily();
+    request.typedDocNo = st.docNoTyped ? st.docNo.trimmed() : QString();
+    request.voucherDate = p.voucher.date;
+    request.voucherTime = p.voucher.time;
+    request.userId = p.voucher.userId;
+    const QString marker(QChar(0x1));
+    const QString note = SaleVoucher::note(sale.mode(), marker, date);
+    request.notePrefix = note.section(marker, 0, 0);
+    request.noteSuffix = note.section(marker, 1);
+    const std::optional<DocumentNumbering::NumberedVoucher> numbered =
+        DocumentNumbering::insertSaleVoucher(s, request);
+    if (!numbered) {
         return false;
     }
-    if (numbers->typedTaken) {
+    if (numbered->typedTaken) {
         typedTaken = true;
         return false;
     }
-    r.docNo = typed.isEmpty() ? QString::number(numbers->docNo) : typed;
-
-    p.voucher.code = numbers->voucherCode;
-    p.voucher.serial = r.docNo;
-    p.voucher.note = SaleVoucher::note(sale.mode(), r.docNo, date);
-    r.voucherId = sp_tblDocumentH_Insert(s, p.voucher);
-    if (r.voucherId <= 0) {
-        return false;
-    }
+    r.docNo = numbered->docNo;
+    r.voucherId = numbered->voucherId;
     for (VoucherLine& row : p.voucherLines) {
-        row.comment = p.voucher.note;
+        row.comment = numbered->note;
     }
-    if (!sp_tblDocumentD_InsertRows(s, r.voucherId, p.voucherLines)) {
-        return false;
-    }
-
-    p.header.docNo = r.docNo;
-    p.header.documentHId = r.voucherId;
-    DbError error;
-    r.code = StockDocumentWriter::insertHeaderOnce(s, p.header, error);
-    if (r.code <= 0) {
-        if (error.isKeyConflict() && s.state() != nullptr) {
-            s.state()->fail(error, FailureLogging::Log);
-        }
-        return false;
-    }
-    if (!StockDocumentWriter::bindPendingSerials(s, r.code) ||
-        !StockDocumentWriter::insertLines(s, r.code, p.lines) ||
+    if (!sp_tblDocumentD_InsertRows(s, r.voucherId, p.voucherLines) ||
+        !StockDocumentWriter::setNumber(s, r.code, r.docNo, r.voucherId) ||
+        !StockDocumentWriter::bindPendingSerials(s, r.code) ||
         !StockDocumentWriter::addToStock(s, r.code, p.missingStockRows)) {
         return false;
     }

@@ -73,26 +73,27 @@ protected:
         EXPECT_TRUE(q.exec() && q.next());
         return {q.number(0), q.number(1)};
     }
-    void addTrigger() {
+    // Makes every insert into `table` fail.
+    void addTrigger(const QString& table) {
         if (backend() == Backend::SQLite) {
-            exec(
-                QStringLiteral("CREATE TRIGGER fail_lines BEFORE INSERT ON Whs_QTYDocD BEGIN "
-                               "SELECT RAISE(ABORT, 'lines refused'); END"));
+            exec(QStringLiteral("CREATE TRIGGER fail_it BEFORE INSERT ON %1 BEGIN "
+                                "SELECT RAISE(ABORT, 'refused'); END")
+                     .arg(table));
         } else {
             exec(
-                QStringLiteral("CREATE FUNCTION fail_lines() RETURNS trigger AS $$ BEGIN RAISE "
-                               "EXCEPTION 'lines refused'; END $$ LANGUAGE plpgsql"));
-            exec(
-                QStringLiteral("CREATE TRIGGER fail_lines BEFORE INSERT ON whs_qtydocd FOR EACH "
-                               "ROW EXECUTE FUNCTION fail_lines()"));
+                QStringLiteral("CREATE FUNCTION fail_it() RETURNS trigger AS $$ BEGIN RAISE "
+                               "EXCEPTION 'refused'; END $$ LANGUAGE plpgsql"));
+            exec(QStringLiteral("CREATE TRIGGER fail_it BEFORE INSERT ON %1 FOR EACH "
+                                "ROW EXECUTE FUNCTION fail_it()")
+                     .arg(table.toLower()));
         }
     }
-    void dropTrigger() {
+    void dropTrigger(const QString& table) {
         if (backend() == Backend::SQLite) {
-            exec(QStringLiteral("DROP TRIGGER fail_lines"));
+            exec(QStringLiteral("DROP TRIGGER fail_it"));
         } else {
-            exec(QStringLiteral("DROP TRIGGER fail_lines ON whs_qtydocd"));
-            exec(QStringLiteral("DROP FUNCTION fail_lines()"));
+            exec(QStringLiteral("DROP TRIGGER fail_it ON %1").arg(table.toLower()));
+            exec(QStringLiteral("DROP FUNCTION fail_it()"));
         }
     }
 
@@ -217,21 +218,32 @@ TEST_P(SaleSaverTest, AFailureHalfwayLeavesNothingAndTheSameSaleSavesAfterwards)
     ASSERT_TRUE(sale().selectCustomer(501));
     settlement.giftCardId = 777;
     settlement.giftCardAmount = 30000;
-    addTrigger();
+    // The lines (before the desks' lock), the numbered voucher and its lines (under it).
+    const QStringList failing{QStringLiteral("Whs_QTYDocD"), QStringLiteral("tblDocumentH"),
+                              QStringLiteral("tblDocumentD")};
+    for (const QString& table : failing) {
+        SCOPED_TRACE(table.toStdString());
+        addTrigger(table);
+        const SaleSaveResult failed = saver->save(sale(), settlement);
+        dropTrigger(table);
+        EXPECT_FALSE(failed.saved);
+        EXPECT_EQ(count("Whs_QTYDocH"), 0);
+        EXPECT_EQ(count("Whs_QTYDocD"), 0);
+        EXPECT_EQ(count("tblDocumentH"), 0);
+        EXPECT_EQ(count("tblDocumentD"), 0);
+        EXPECT_EQ(count("tblGiftCardItem"), 0);
+        EXPECT_EQ(count("Serial", QStringLiteral("Code = 1")), 1);
+        EXPECT_EQ(sale().lines().size(), 1);  // the sale is still there
+    }
+    EXPECT_EQ(messages().countOf(Database::connectionFailureMessage()), failing.size());
 
+    // No number was used by the failed saves.
     SaleSaveResult r = saver->save(sale(), settlement);
-    EXPECT_FALSE(r.saved);
-    EXPECT_EQ(messages().countOf(Database::connectionFailureMessage()), 1);
-    EXPECT_EQ(count("Whs_QTYDocH"), 0);
-    EXPECT_EQ(count("tblDocumentH"), 0);
-    EXPECT_EQ(count("tblDocumentD"), 0);
-    EXPECT_EQ(count("tblGiftCardItem"), 0);
-    EXPECT_EQ(count("Serial", QStringLiteral("Code = 1")), 1);
-    EXPECT_EQ(sale().lines().size(), 1);  // the sale is still there
-
-    dropTrigger();
-    r = saver->save(sale(), settlement);
     ASSERT_TRUE(r.saved);
+    EXPECT_EQ(r.docNo, QStringLiteral("1"));
+    EXPECT_EQ(count("tblDocumentH", QStringLiteral("Code = 1 AND ID = :v"),
+                    {{QStringLiteral(":v"), r.voucherId}}),
+              1);
     EXPECT_EQ(count("Whs_QTYDocH"), 1);
     EXPECT_EQ(count("Whs_QTYDocD", QStringLiteral("Code = :c"), {{QStringLiteral(":c"), r.code}}),
               1);

@@ -136,6 +136,61 @@ bool changeWithStock(Session& session, const QString& lines, qint64 code, bool i
     return missing.isEmpty() || sp_StockRepair(session, missing);
 }
 
+// Keys above the largest committed one that a PostgreSQL header insert tries: more than
+// the writers that can have a document open at once.
+constexpr int kKeysTried = 64;
+// The advisory lock space of the keys taken and not yet committed (two-key form, apart
+// from the desks' lock, which uses the one-key form).
+const QString kKeyLockSpace = QStringLiteral("Whs_QTYDocH.Code");
+
+// PostgreSQL: the first key above the largest committed one whose advisory lock this
+// transaction gets at once (held to its end; a key another transaction holds is passed
+// over, never waited for). A key committed by another after this statement began is
+// skipped by ON CONFLICT: the insert then writes nothing and the caller tries again with a
+// fresh view. No ORDER BY: the series is tried in its own order and the LIMIT stops at the
+// first key locked, so that no other key is locked in passing.
+QString probedInsert(const QStringList& columns) {
+    QStringList names;
+    for (const QString& c : columns) {
+        names << QLatin1Char(':') + c;
+    }
+    return QStringLiteral(
+               "INSERT INTO %1 (Code, %2) SELECT K.Code, %3 FROM (SELECT M.Last + C.Step AS Code "
+               "FROM (SELECT COALESCE(MAX(Code), 0) AS Last FROM %1) M "
+               "CROSS JOIN generate_series(1, %4) AS C(Step) "
+               "WHERE pg_try_advisory_xact_lock(hashtext(:keyLockSpace), "
+               "CAST(MOD(M.Last + C.Step, 2147483647) AS INTEGER)) LIMIT 1) K "
+               "ON CONFLICT (Code) DO NOTHING RETURNING Code")
+        .arg(kHeaders, columns.join(QStringLiteral(", ")), names.join(QStringLiteral(", ")))
+        .arg(kKeysTried);
+}
+
+qint64 insertProbed(Session& session, const ColumnValues& values) {
+    const QString sql = probedInsert(ReturningInsert::columnsOf(values));
+    for (int attempt = 0; attempt < KeyConflictRetry::kAttempts; ++attempt) {
+        SqlQuery q(session, sql);
+        q.bind(QStringLiteral(":keyLockSpace"), kKeyLockSpace);
+        for (const auto& [column, value] : values) {
+            q.bindValue(QLatin1Char(':') + column, value);
+        }
+        if (!q.exec()) {
+            return 0;
+        }
+        if (q.next()) {
+            return q.int64(0);
+        }
+    }
+    DbError error;
+    error.kind = DbErrorKind::KeyConflict;
+    error.driverText =
+        QStringLiteral("no free document key after %1 attempts").arg(KeyConflictRetry::kAttempts);
+    error.sql = sql;
+    if (session.state() != nullptr) {
+        session.state()->fail(error, FailureLogging::Log);
+    }
+    return 0;
+}
+
 bool deleteByCode(Session& session, const QString& lines, const QString& headers, qint64 code,
                   bool internal) {
     const SqlBinds binds{{QStringLiteral(":code"), code}};
@@ -155,17 +210,45 @@ bool StockDocumentWriter::lockWriters(Session& session) {
     return lock.isEmpty() || session.exec(lock, {{QStringLiteral(":name"), kHeaders}});
 }
 
-qint64 StockDocumentWriter::insertHeaderOnce(Session& session, const StockDocumentHeader& header,
-                                             DbError& error) {
-    const ColumnValues values = headerValues(header);
-    const QString sql = ReturningInsert::maxPlusOne(
-        session.backend(), kHeaders, QStringLiteral("Code"), ReturningInsert::columnsOf(values));
-    return ReturningInsert::run(session, sql, values, error);
-}
-
 qint64 StockDocumentWriter::insertHeader(Session& session, const StockDocumentHeader& header) {
+    if (session.backend() == Backend::PostgreSQL) {
+        return insertProbed(session, headerValues(header));
+    }
     return ReturningInsert::allocate(session, kHeaders, QStringLiteral("Code"),
                                      headerValues(header));
+}
+
+qint64 StockDocumentWriter::insertHeaderUnlocked(Session& session,
+                                                 const StockDocumentHeader& header) {
+    ColumnValues values = headerValues(header);
+    if (header.docNo.isEmpty()) {
+        values.first().second = QVariant(QMetaType::fromType<QString>());  // numbered later
+    }
+    if (session.backend() == Backend::PostgreSQL) {
+        return insertProbed(session, values);
+    }
+    // SQL Server has no probe here: its keys are taken under the desks' lock (a no-op on
+    // SQLite, where the transaction is the only writer).
+    if (!lockWriters(session)) {
+        return 0;
+    }
+    const QString sql = ReturningInsert::maxPlusOne(
+        session.backend(), kHeaders, QStringLiteral("Code"), ReturningInsert::columnsOf(values));
+    DbError error;
+    const qint64 code = ReturningInsert::run(session, sql, values, error);
+    if (error.isKeyConflict() && session.state() != nullptr) {
+        session.state()->fail(error, FailureLogging::Log);
+    }
+    return code;
+}
+
+bool StockDocumentWriter::setNumber(Session& session, qint64 code, const QString& docNo,
+                                    qint64 documentHId) {
+    return session.exec(QStringLiteral("UPDATE Whs_QTYDocH SET DocNo = :docNo, DocumentHID = "
+                                       ":documentHId WHERE Code = :code"),
+                        {{QStringLiteral(":docNo"), docNo},
+                         {QStringLiteral(":documentHId"), documentHId},
+                         {QStringLiteral(":code"), code}});
 }
 
 qint64 StockDocumentWriter::insertLine(Session& session, qint64 code,

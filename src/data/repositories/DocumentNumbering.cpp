@@ -2,6 +2,7 @@
 
 #include "data/Database.h"
 #include "data/SqlQuery.h"
+#include "data/procedures/ReturningInsert.h"
 
 namespace sandogh {
 
@@ -50,37 +51,64 @@ DocumentNumbering::Statements DocumentNumbering::statements() {
     return {kLastDocNo, kLastDocNoOfDate, kLastInternalDocNo, kLastReceiptDocNo};
 }
 
-std::optional<DocumentNumbering::SaleNumbers> DocumentNumbering::saleNumbers(
-    Session& session, int transType, const QString& date, bool daily, const QString& typedDocNo) {
-    const bool typed = !typedDocNo.isEmpty();
+std::optional<DocumentNumbering::NumberedVoucher> DocumentNumbering::insertSaleVoucher(
+    Session& session, const SaleVoucherRequest& request) {
+    // The sale's own header is already written, without a number (NULL is no number to
+    // the maximum nor to the typed-number count).
+    const bool typed = !request.typedDocNo.isEmpty();
     const QString kind =
         QStringLiteral("FROM Whs_QTYDocH WHERE TransType = :transType AND DocType IS NULL");
-    QString docNo = QStringLiteral("0");
+    QString docNo;
     QString taken = QStringLiteral("0");
-    SqlBinds binds{{QStringLiteral(":transType"), transType}};
     if (typed) {
+        docNo = QStringLiteral("CAST(:docNo AS VARCHAR(20))");
         taken = QStringLiteral("(SELECT COUNT(Code) ") + kind +
                 QStringLiteral(" AND DocNo = :docNo AND DocDate = :docDate)");
-        binds << qMakePair(QStringLiteral(":docNo"), QVariant(typedDocNo))
-              << qMakePair(QStringLiteral(":docDate"), QVariant(date));
     } else {
-        docNo = QStringLiteral("COALESCE((SELECT MAX(CAST(DocNo AS BIGINT)) ") + kind +
-                (daily ? QStringLiteral(" AND DocDate = :docDate), 0) + 1")
-                       : QStringLiteral("), 0) + 1"));
-        if (daily) {
-            binds << qMakePair(QStringLiteral(":docDate"), QVariant(date));
-        }
+        docNo = QStringLiteral("CAST(COALESCE((SELECT MAX(CAST(DocNo AS BIGINT)) ") + kind +
+                (request.daily ? QStringLiteral(" AND DocDate = :docDate") : QString()) +
+                QStringLiteral("), 0) + 1 AS VARCHAR(20))");
     }
-    SqlQuery q(session, QStringLiteral("SELECT ") + docNo + QStringLiteral(", ") + taken +
-                            QStringLiteral(", COALESCE((SELECT MAX(Code) FROM tblDocumentH), 0) "
-                                           "+ 1"));
-    for (const auto& [name, value] : binds) {
-        q.bindValue(name, value);
+    const QString note = session.dialect().concat(
+        {QStringLiteral(":notePrefix"), QStringLiteral("N.DocNo"), QStringLiteral(":noteSuffix")});
+    const QString sql = procedures::ReturningInsert::statement(
+        session.backend(),
+        QStringLiteral("INSERT INTO tblDocumentH (Code, Date, Time, UserID, Serial, Note)"),
+        QStringLiteral("SELECT COALESCE((SELECT MAX(Code) FROM tblDocumentH), 0) + 1, :date, "
+                       ":time, :userId, N.DocNo, ") +
+            note + QStringLiteral(" FROM (SELECT ") + docNo + QStringLiteral(" AS DocNo, ") +
+            taken + QStringLiteral(" AS Taken) N WHERE N.Taken = 0"),
+        QStringLiteral("ID, Code, Serial, Note"));
+    SqlQuery q(session, sql);
+    q.bind(QStringLiteral(":transType"), request.transType);
+    if (typed) {
+        q.bind(QStringLiteral(":docNo"), request.typedDocNo);
     }
-    if (!q.exec() || !q.next()) {
+    if (typed || request.daily) {
+        q.bind(QStringLiteral(":docDate"), request.date);
+    }
+    q.bind(QStringLiteral(":date"), request.voucherDate);
+    q.bind(QStringLiteral(":time"), request.voucherTime);
+    q.bind(QStringLiteral(":userId"), request.userId);
+    q.bind(QStringLiteral(":notePrefix"), request.notePrefix);
+    q.bind(QStringLiteral(":noteSuffix"), request.noteSuffix);
+    if (!q.exec()) {
         return std::nullopt;
     }
-    return SaleNumbers{q.int64(0), q.int64(1) > 0, q.int64(2)};
+    NumberedVoucher numbered;
+    if (!q.next()) {
+        // Only a typed number that the date has leaves the insert without a row.
+        if (!typed) {
+            return std::nullopt;
+        }
+        numbered.typedTaken = true;
+        return numbered;
+    }
+    numbered.voucherId = q.int64(0);
+    numbered.voucherCode = q.int64(1);
+    numbered.docNo = q.text(2);
+    numbered.note = q.text(3);
+    return numbered;
 }
 
 qint64 DocumentNumbering::nextCode(Session& session) {

@@ -53,18 +53,33 @@ public:
     };
     static Statements statements();
 
-    // The numbers a sale takes as it is written, read in one statement on the caller's
-    // session after the desks' lock: its invoice number (the next one of the kind, per
-    // date with daily numbering) or, for a typed number, whether that number is taken on
-    // the date; and the next voucher code (tblDocumentH.Code). Nothing on failure.
-    struct SaleNumbers {
-        qint64 docNo = 0;  // 0 for a typed number
-        bool typedTaken = false;
-        qint64 voucherCode = 0;
+    // The voucher of a sale, numbered as it is written: one insert on the caller's session,
+    // after the desks' lock and last before the commit, that takes the sale's invoice
+    // number (the next one of the kind, per date with daily numbering, or the typed one
+    // when the date does not have it yet) and the next voucher code (tblDocumentH.Code),
+    // and writes the voucher with Serial = the number and Note = notePrefix + number +
+    // noteSuffix. A typed number that is taken writes nothing (typedTaken). Nothing on
+    // failure.
+    struct SaleVoucherRequest {
+        int transType = 0;
+        QString date;  // the sale's date
+        bool daily = false;
+        QString typedDocNo;  // empty: the next number
+        QString voucherDate;
+        QString voucherTime;
+        int userId = 0;
+        QString notePrefix;
+        QString noteSuffix;
     };
-    static std::optional<SaleNumbers> saleNumbers(Session& session, int transType,
-                                                  const QString& date, bool daily,
-                                                  const QString& typedDocNo = {});
+    struct NumberedVoucher {
+        bool typedTaken = false;
+        QString docNo;
+        qint64 voucherId = 0;
+        qint64 voucherCode = 0;
+        QString note;
+    };
+    static std::optional<NumberedVoucher> insertSaleVoucher(Session& session,
+                                                            const SaleVoucherRequest& request);
 
     // The same on a session of the caller, for use inside its transaction.
     static qint64 nextCode(Session& session);

@@ -114,8 +114,9 @@ private:
             TransferLine line;
             if (l.isEmpty() || l.at(0) != kLineTag ||
                 !text(l.at(1), TransferFile::kMaxBarcode, line.barcode) ||
-                line.barcode.trimmed().isEmpty() || !real(l.at(2), line.qty) ||
+                line.barcode.trimmed().isEmpty() || !real(l.at(2), line.qty) || line.qty <= 0 ||
                 !real(l.at(3), line.fee) || !real(l.at(4), line.price)) {
+                // A quantity of nothing or less would take stock away from the branch.
                 return false;
             }
             invoice.lines << line;

@@ -68,6 +68,8 @@ TEST(TransferFileTest, AFileNotWholeOrChangedIsRefused) {
         {"bad escape", resealed(QByteArray(body).replace("%2C", "%2X"), 4)},
         {"a number not canonical", resealed(QByteArray(body).replace(",17,", ",017,"), 4)},
         {"not a number", resealed(QByteArray(body).replace(",2.125,", ",nan,"), 4)},
+        {"a quantity below zero", resealed(QByteArray(body).replace(",2.125,", ",-2.125,"), 4)},
+        {"a quantity of zero", resealed(QByteArray(body).replace(",2.125,", ",0,"), 4)},
         {"invoice given twice", resealed(QByteArray(body).replace("H,18,", "H,17,"), 4)},
         {"not UTF-8", resealed(QByteArray(body).replace("1404/01/06", "\xff\xfe"), 4)},
     };

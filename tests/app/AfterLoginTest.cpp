@@ -5,10 +5,10 @@
 
 #include <QDir>
 
-#include "ShopBackendTest.h"
 #include "app/AfterLogin.h"
 #include "app/CompanionPrograms.h"
 #include "data/ErrorLog.h"
+#include "data/ShopFixture.h"
 
 namespace sandogh {
 namespace {

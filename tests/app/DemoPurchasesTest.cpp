@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "ShopBackendTest.h"
 #include "app/DemoShop.h"
+#include "data/ShopFixture.h"
 
 namespace sandogh {
 namespace {

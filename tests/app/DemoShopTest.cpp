@@ -6,10 +6,10 @@
 #include <QRegularExpression>
 #include <QSet>
 
-#include "ShopBackendTest.h"
 #include "app/DemoGoods.h"
 #include "app/DemoShop.h"
 #include "app/LoginService.h"
+#include "data/ShopFixture.h"
 #include "sales/SaleVoucher.h"
 
 namespace sandogh {

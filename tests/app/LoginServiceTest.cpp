@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "ShopBackendTest.h"
 #include "app/LoginService.h"
 #include "app/PasswordHasher.h"
+#include "data/ShopFixture.h"
 
 namespace sandogh {
 namespace {

@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "ShopBackendTest.h"
 #include "app/NewFiscalYear.h"
 #include "data/DatabaseProvisioner.h"
+#include "data/ShopFixture.h"
 
 namespace sandogh {
 namespace {

@@ -10,9 +10,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "ShopBackendTest.h"
 #include "app/ShopBackup.h"
 #include "app/TarArchive.h"
+#include "data/ShopFixture.h"
 #include "data/schema/ShopSchema.h"
 
 namespace sandogh {

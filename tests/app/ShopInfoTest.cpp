@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "ShopBackendTest.h"
 #include "app/ShopInfo.h"
+#include "data/ShopFixture.h"
 
 namespace sandogh {
 namespace {

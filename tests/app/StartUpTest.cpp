@@ -6,10 +6,10 @@
 
 #include <QFile>
 
-#include "ShopBackendTest.h"
 #include "app/DemoShop.h"
 #include "app/StartUp.h"
 #include "data/ErrorLog.h"
+#include "data/ShopFixture.h"
 
 namespace sandogh {
 namespace {

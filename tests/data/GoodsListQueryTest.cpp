@@ -2,7 +2,7 @@
 
 #include <QSet>
 
-#include "ShopBackendTest.h"
+#include "data/ShopFixture.h"
 #include "data/Transaction.h"
 #include "data/repositories/GoodsListQuery.h"
 #include "data/repositories/GoodsSearchQuery.h"

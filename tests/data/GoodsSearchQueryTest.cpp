@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ShopBackendTest.h"
+#include "data/ShopFixture.h"
 #include "data/Transaction.h"
 #include "data/repositories/GoodsRepository.h"
 #include "data/repositories/GoodsSearchQuery.h"

@@ -9,6 +9,7 @@
 #include "app/CompanionPrograms.h"
 #include "data/ErrorLog.h"
 #include "data/ShopFixture.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

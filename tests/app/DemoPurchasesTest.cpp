@@ -5,6 +5,7 @@
 
 #include "app/DemoShop.h"
 #include "data/ShopFixture.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

@@ -11,6 +11,7 @@
 #include "app/LoginService.h"
 #include "data/ShopFixture.h"
 #include "sales/SaleVoucher.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

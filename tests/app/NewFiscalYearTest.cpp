@@ -7,6 +7,7 @@
 #include "app/NewFiscalYear.h"
 #include "data/DatabaseProvisioner.h"
 #include "data/ShopFixture.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

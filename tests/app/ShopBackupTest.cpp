@@ -14,6 +14,7 @@
 #include "app/TarArchive.h"
 #include "data/ShopFixture.h"
 #include "data/schema/ShopSchema.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

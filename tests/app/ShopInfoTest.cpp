@@ -4,6 +4,7 @@
 
 #include "app/ShopInfo.h"
 #include "data/ShopFixture.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

@@ -10,6 +10,7 @@
 #include "app/StartUp.h"
 #include "data/ErrorLog.h"
 #include "data/ShopFixture.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

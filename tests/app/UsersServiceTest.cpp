@@ -7,6 +7,7 @@
 #include "app/LoginService.h"
 #include "app/UsersService.h"
 #include "data/ShopFixture.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

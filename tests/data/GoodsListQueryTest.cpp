@@ -15,7 +15,7 @@ using Column = GoodsListQuery::SearchColumn;
 class GoodsListQueryTest : public test::ShopBackendTest {
 protected:
     void SetUp() override {
-        ShopBackendTest::SetUp();
+        test::ShopBackendTest::SetUp();
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }

@@ -14,7 +14,7 @@ namespace {
 class GoodsSearchQueryTest : public test::ShopBackendTest {
 protected:
     void SetUp() override {
-        ShopBackendTest::SetUp();
+        test::ShopBackendTest::SetUp();
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }

@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 
+#include "data/repositories/SaleCustomersQuery.h"
 #include "sales/SaleCustomer.h"
 
 namespace sandogh {
@@ -14,7 +15,7 @@ class Database;
 // Enter searches; the Up and Down keys move in the results instead (previous()/next()).
 class CustomerSearch {
 public:
-    enum class Mode { Telephone, Mobile, NameFamily, Code };
+    using Mode = SaleCustomersQuery::Mode;
 
     explicit CustomerSearch(Database& database);
 

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+#include "data/repositories/GoodsLookups.h"
+
 namespace sandogh {
 
 class Database;
@@ -14,14 +16,9 @@ class MachineSettings;
 // (SaleSession::addGoods).
 class FavouriteGoods {
 public:
-    struct Item {
-        QString barcode;  // Ean_Code
-        QString name;
-        double cost = 0;
-        QString picture;  // Pic
-    };
+    using Item = GoodsLookups::Favourite;
     // The columns the list may be ordered by.
-    enum class Order { Barcode, Name, Cost };
+    using Order = GoodsLookups::FavouriteOrder;
 
     FavouriteGoods(Database& database, MachineSettings& settings);
 

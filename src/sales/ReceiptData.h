@@ -5,16 +5,9 @@
 
 #include <optional>
 
-namespace sandogh {
+#include "data/repositories/ReceiptLine.h"
 
-// One line of a saved sale as the receipt prints it.
-struct ReceiptLine {
-    QString barcode;
-    QString name;  // Goods.Name; empty when the article is gone
-    double quantity = 0;
-    double unitPrice = 0;  // Fee: the net unit price
-    double total = 0;      // Price: the line amount
-};
+namespace sandogh {
 
 // One way the sale was paid: an account of its voucher and the amount.
 struct ReceiptPayment {

@@ -5,43 +5,22 @@
 #include <optional>
 
 #include "data/Session.h"
+#include "data/repositories/GoodsLookups.h"
+#include "data/scales/ScaleTickets.h"
 
 namespace sandogh {
 
-// The look-ups of ringing up, one statement each, on the caller's session. Every value
-// is bound. A look-up that fails returns nothing (std::nullopt, or ok false); the data
-// layer has then reported it: the connection message for a lost server, the error log's
+// The look-ups of ringing up on the caller's session, each through the data layer's
+// repository of its table. A look-up that fails returns nothing (std::nullopt, or ok false); the
+// data layer has then reported it: the connection message for a lost server, the error log's
 // message otherwise.
 class SaleLookups {
 public:
-    // The price columns a goods row is read with.
-    enum class PriceColumn { Cost, Cost2 };
-
-    struct GoodsRow {
-        bool found = false;
-        QString name;
-        double price = 0;
-        double taxPercent = 0;
-        int kind = 0;  // GType
-    };
-    // A goods row as the weighed tickets read it.
-    struct TicketGoods {
-        bool found = false;
-        QString barcode;  // Ean_Code
-        QString name;
-        double cost = 0;
-        double taxPercent = 0;
-        int type = 0;  // Type: 1 weighed in grams
-    };
-    struct TicketLine {
-        QString code;  // MizanNet PluNo, or OnlineSales ItemCode, as text
-        double quantity = 0;
-    };
-    struct Flag {
-        bool ok = false;
-        bool on = false;
-        QString name;
-    };
+    using PriceColumn = GoodsLookups::PriceColumn;
+    using GoodsRow = GoodsLookups::GoodsRow;
+    using TicketGoods = GoodsLookups::TicketGoods;
+    using TicketLine = ScaleTickets::Line;
+    using Flag = GoodsLookups::Flag;
 
     // Active goods with this barcode; nullopt when the look-up failed.
     static std::optional<qint64> activeCount(Session& session, const QString& barcode);

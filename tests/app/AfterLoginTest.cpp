@@ -5,10 +5,11 @@
 
 #include <QDir>
 
-#include "ShopBackendTest.h"
 #include "app/AfterLogin.h"
 #include "app/CompanionPrograms.h"
 #include "data/ErrorLog.h"
+#include "data/ShopFixture.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

@@ -3,8 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "ShopBackendTest.h"
 #include "app/DemoShop.h"
+#include "data/ShopFixture.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

@@ -6,11 +6,12 @@
 #include <QRegularExpression>
 #include <QSet>
 
-#include "ShopBackendTest.h"
 #include "app/DemoGoods.h"
 #include "app/DemoShop.h"
 #include "app/LoginService.h"
+#include "data/ShopFixture.h"
 #include "sales/SaleVoucher.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

@@ -5,9 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include "ShopBackendTest.h"
 #include "app/NewFiscalYear.h"
 #include "data/DatabaseProvisioner.h"
+#include "data/ShopFixture.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

@@ -10,10 +10,11 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "ShopBackendTest.h"
 #include "app/ShopBackup.h"
 #include "app/TarArchive.h"
+#include "data/ShopFixture.h"
 #include "data/schema/ShopSchema.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

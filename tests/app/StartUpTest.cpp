@@ -6,10 +6,11 @@
 
 #include <QFile>
 
-#include "ShopBackendTest.h"
 #include "app/DemoShop.h"
 #include "app/StartUp.h"
 #include "data/ErrorLog.h"
+#include "data/ShopFixture.h"
+#include "support/AppTestContext.h"
 
 namespace sandogh {
 namespace {

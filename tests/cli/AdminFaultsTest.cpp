@@ -19,7 +19,6 @@ namespace sandogh {
 namespace {
 
 const QString kDamaged = QStringLiteral("فايل بانک اطلاعاتي آسيب ديده است");
-const QString kNewer = QStringLiteral("نسخه بانک اطلاعاتي از نسخه برنامه جديدتر است");
 const QString kNotANumber = QStringLiteral("عدد درستي نيست");
 const QString kUnreachable = QStringLiteral("خطا در برقراري ارتباط با سرور بانک اطلاعاتي");
 
@@ -144,16 +143,6 @@ protected:
                    ? QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha256)
                    : QByteArray();
     }
-    // Runs SQL on the shop file directly.
-    bool execOnShop(const QString& sql) {
-        ConnectionSettings settings;
-        settings.backend = Backend::SQLite;
-        settings.sqliteFolder = path(QStringLiteral("Data"));
-        settings.catalog = QStringLiteral("Shop");
-        Database database(settings, nullptr);
-        Session s = database.session();
-        return s && s.exec(sql);
-    }
 
     QTemporaryDir program;
     QTemporaryDir settings;
@@ -212,20 +201,6 @@ TEST_F(AdminSqliteFileTest, ADamagedShopFileIsRefusedAndLeftAsItWas) {
     QFile log(path(QStringLiteral("ErrorLog.txt")));
     ASSERT_TRUE(log.open(QIODevice::ReadOnly));
     EXPECT_EQ(log.readAll().count("ErrNumber : "), 4);  // each refusal recorded once
-}
-
-TEST_F(AdminSqliteFileTest, ASchemaNewerThanTheProgramIsRefused) {
-    ASSERT_EQ(run(QStringLiteral("init-db")).exitCode, 0);
-    ASSERT_TRUE(
-        execOnShop(QStringLiteral("INSERT INTO SchemaVersion (Version, Description) VALUES "
-                                  "(999, 'from a later program')")));
-    for (const QString& command : {QStringLiteral("init-db"), QStringLiteral("demo")}) {
-        const QByteArray before = digest(QStringLiteral("Data/Shop.sqlite"));
-        const AdminProcess::Result r = run(command);
-        EXPECT_EQ(r.exitCode, 1) << command.toStdString();
-        EXPECT_TRUE(QString::fromUtf8(r.err).contains(kNewer)) << r.err.toStdString();
-        EXPECT_EQ(digest(QStringLiteral("Data/Shop.sqlite")), before) << command.toStdString();
-    }
 }
 
 TEST_F(AdminSqliteFileTest, AnUnreachableDatabaseEndsADryRunWithTheConnectionMessage) {

@@ -75,58 +75,5 @@ TEST_P(AdminSellSaveTest, SavingPrintsTheKeyNumberAndTotal) {
 
 SANDOGH_INSTANTIATE_BACKENDS(AdminSellSaveTest);
 
-// Four cash desks saving a hundred sales each at the same moment.
-class AdminSellConcurrencyTest : public AdminSellSaveTest {};
-
-TEST_P(AdminSellConcurrencyTest, FourDesksSavingAtOnceKeepEveryDocumentWhole) {
-    constexpr int kDesks = 4;
-    constexpr int kSales = 100;
-    QList<QProcess*> desks;
-    for (int desk = 1; desk <= kDesks; ++desk) {
-        auto* p = new QProcess;
-        const QByteArray station = QByteArray::number(desk);
-        p->start(AdminProcess::binaryPath(),
-                 words({QStringLiteral("--repeat"), QString::number(kSales), QStringLiteral("1001"),
-                        QStringLiteral("3003"), QStringLiteral("1001")},
-                       station.constData()));
-        desks << p;
-    }
-    for (QProcess* p : desks) {
-        ASSERT_TRUE(p->waitForFinished(180000));
-        EXPECT_EQ(p->exitCode(), 0) << p->readAllStandardError().toStdString();
-        EXPECT_EQ(p->readAllStandardOutput().count("Code="), kSales);
-        delete p;
-    }
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), kDesks * kSales);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(DISTINCT Code) FROM Whs_QTYDocH")),
-              kDesks * kSales);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(DISTINCT DocumentHID) FROM Whs_QTYDocH")),
-              kDesks * kSales);
-    // Every header has its two lines, every line a header, and each line's total is its
-    // header's DocSum share: 2 x 2,500 + 100,000.
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H WHERE (SELECT COUNT(*) "
-                                    "FROM Whs_QTYDocD D WHERE D.Code = H.Code) <> 2")),
-              0);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocD D LEFT JOIN Whs_QTYDocH H "
-                                    "ON H.Code = D.Code WHERE H.Code IS NULL")),
-              0);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H WHERE H.DocSum <> "
-                                    "(SELECT SUM(D.Price) FROM Whs_QTYDocD D WHERE D.Code = "
-                                    "H.Code)")),
-              0);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), kDesks * kSales);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT CAST(Stock AS BIGINT) FROM Stock WHERE Barcode = "
-                                    "'1001'")),
-              -2 * kDesks * kSales);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT CAST(Stock AS BIGINT) FROM Stock WHERE Barcode = "
-                                    "'3003'")),
-              -kDesks * kSales);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT CAST(-SUM(Qty) AS BIGINT) FROM Whs_QTYDocD WHERE "
-                                    "EAN_Code = '1001'")),
-              -2 * kDesks * kSales);
-}
-
-SANDOGH_INSTANTIATE_POSTGRES_ONLY(AdminSellConcurrencyTest);
-
 }  // namespace
 }  // namespace sandogh

@@ -2,7 +2,7 @@
 
 #include <QSet>
 
-#include "ShopBackendTest.h"
+#include "data/ShopFixture.h"
 #include "data/Transaction.h"
 #include "data/repositories/GoodsListQuery.h"
 #include "data/repositories/GoodsSearchQuery.h"
@@ -15,7 +15,7 @@ using Column = GoodsListQuery::SearchColumn;
 class GoodsListQueryTest : public test::ShopBackendTest {
 protected:
     void SetUp() override {
-        ShopBackendTest::SetUp();
+        test::ShopBackendTest::SetUp();
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "ShopBackendTest.h"
+#include "data/ShopFixture.h"
 #include "data/repositories/GoodsMessages.h"
 #include "data/repositories/GoodsRepository.h"
 #include "data/repositories/GoodsSavedHook.h"

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ShopBackendTest.h"
+#include "data/ShopFixture.h"
 #include "data/Transaction.h"
 #include "data/repositories/GoodsRepository.h"
 #include "data/repositories/GoodsSearchQuery.h"
@@ -14,7 +14,7 @@ namespace {
 class GoodsSearchQueryTest : public test::ShopBackendTest {
 protected:
     void SetUp() override {
-        ShopBackendTest::SetUp();
+        test::ShopBackendTest::SetUp();
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }

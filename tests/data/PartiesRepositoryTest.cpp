@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "ShopBackendTest.h"
+#include "data/ShopFixture.h"
 #include "data/repositories/CustomerGroupRepository.h"
 #include "data/repositories/PartiesRepository.h"
 #include "data/repositories/PartyMessages.h"

@@ -1,7 +1,8 @@
 #pragma once
 
 // A per-backend test on a fresh shop database with every migration step applied, and
-// small helpers that write goods and documents the way the screens do.
+// small helpers that write goods, list values and documents the way the screens do. The
+// one shop fixture of the data, application and report suites.
 
 #include <gtest/gtest.h>
 
@@ -15,6 +16,7 @@
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
 #include "support/BackendTest.h"
+#include "support/FixedClock.h"
 
 namespace sandogh::test {
 
@@ -101,10 +103,65 @@ protected:
         return code;
     }
 
+    // Field 0 of the first row as a number; -1 when the statement failed.
     qint64 count(const QString& sql, const SqlBinds& binds = {}) {
         Session s = session();
         return s.scalarInt64(sql, binds, -1);
     }
+    qint64 number(const QString& sql, const SqlBinds& binds = {}) { return count(sql, binds); }
+    QString text(const QString& sql, const SqlBinds& binds = {}) {
+        Session s = session();
+        return s.scalarText(sql, binds);
+    }
+    bool exec(const QString& sql, const SqlBinds& binds = {}) {
+        Session s = session();
+        const bool ok = s.exec(sql, binds);
+        EXPECT_TRUE(ok) << s.lastError().text().toStdString();
+        return ok;
+    }
+    qint64 rows(const QString& table) {
+        return count(QStringLiteral("SELECT COUNT(*) FROM ") + table);
+    }
+
+    // A code level of Code_Parameters.
+    void addLevel(int typeNo, const QString& name, int digits) {
+        ASSERT_TRUE(exec(QStringLiteral("INSERT INTO Code_Parameters (TypeNo, Name, NameEnglish, "
+                                        "DigitQty, ParameterLevel) VALUES (:t, :n, '', :d, :l)"),
+                         {{QStringLiteral(":t"), typeNo},
+                          {QStringLiteral(":n"), name},
+                          {QStringLiteral(":d"), digits},
+                          {QStringLiteral(":l"), typeNo % 100}}));
+    }
+    // A value of a list with its Counter, optionally linked under a parent value.
+    void addValue(int counter, int typeNo, const QString& code, const QString& name,
+                  int parent = 0) {
+        ASSERT_TRUE(exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name) "
+                                        "VALUES (:c, :t, :code, :name)"),
+                         {{QStringLiteral(":c"), counter},
+                          {QStringLiteral(":t"), typeNo},
+                          {QStringLiteral(":code"), code},
+                          {QStringLiteral(":name"), name}}));
+        if (parent > 0) {
+            ASSERT_TRUE(
+                exec(QStringLiteral("INSERT INTO TypesLink (Counter, Link) VALUES (:c, :p)"),
+                     {{QStringLiteral(":c"), counter}, {QStringLiteral(":p"), parent}}));
+        }
+    }
+    // A document header of a transaction type with one line naming a barcode.
+    void addDocumentLine(int code, int transType, const QString& barcode) {
+        ASSERT_TRUE(exec(QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, "
+                                        "CompanyID, DocDate) VALUES (:c, '1', :t, 0, "
+                                        "'1404/01/01')"),
+                         {{QStringLiteral(":c"), code}, {QStringLiteral(":t"), transType}}));
+        ASSERT_TRUE(exec(QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, Fee, "
+                                        "Price) VALUES (:c, :b, 1, 10, 10)"),
+                         {{QStringLiteral(":c"), code}, {QStringLiteral(":b"), barcode}}));
+    }
+
+    FixedClock clock;
 };
+
+// The name the catalogue and application suites know the fixture by.
+using ShopBackendTest = ShopFixture;
 
 }  // namespace sandogh::test

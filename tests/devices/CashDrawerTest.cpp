@@ -8,6 +8,7 @@
 #include "WaitUntil.h"
 #include "devices/CashDrawer.h"
 #include "devices/DetachedProgramLauncher.h"
+#include "support/RawPrintRecorder.h"
 #include "support/RecordingMessageService.h"
 
 using sandogh::CashDrawer;
@@ -21,18 +22,6 @@ using sandogh::test::waitUntil;
 
 namespace {
 
-// Stands in for the spooler where only the choice of path is under test; the
-// spooler itself is exercised against a real scheduler in SpoolerRawPrinterTest.
-class RecordingPrinter final : public RawPrinter {
-public:
-    bool printRaw(const QString& jobName, const QByteArray& bytes) override {
-        jobs.append({jobName, bytes});
-        return accepts;
-    }
-    bool accepts = true;
-    QList<QPair<QString, QByteArray>> jobs;
-};
-
 struct PathCase {
     const char* usb;
     bool onPrinter;
@@ -44,7 +33,7 @@ TEST_P(DrawerPath, FollowsPrinterPortUsb) {
     DrawerConfig config;
     config.printerPortUsb = QString::fromLatin1(GetParam().usb);
     config.programFolder = QStringLiteral("/opt/shop");
-    RecordingPrinter printer;
+    sandogh::test::RawPrintRecorder printer;
     RecordingLauncher launcher;
     RecordingMessageService messages;
     CashDrawer drawer(config, printer, launcher, messages);
@@ -61,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(Values, DrawerPath,
                                            PathCase{"Truee", false}, PathCase{"", false}));
 
 TEST(CashDrawer, KickIsOneRawJobOfFiveBytes) {
-    RecordingPrinter printer;
+    sandogh::test::RawPrintRecorder printer;
     RecordingLauncher launcher;
     RecordingMessageService messages;
     CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
@@ -72,8 +61,8 @@ TEST(CashDrawer, KickIsOneRawJobOfFiveBytes) {
 }
 
 TEST(CashDrawer, UnknownPrinterIsReportedPlainly) {
-    RecordingPrinter printer;
-    printer.accepts = false;
+    sandogh::test::RawPrintRecorder printer;
+    printer.hasPrinter = false;
     RecordingLauncher launcher;
     RecordingMessageService messages;
     CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
@@ -100,7 +89,7 @@ TEST_P(DrawerProgram, StartsHiddenWithParameterZero) {
     config.printerPortUsb = QStringLiteral("False");
     config.programFolder = QString::fromLatin1(c.folder);
     config.drawerProgram = QString::fromLatin1(c.configured);
-    RecordingPrinter printer;
+    sandogh::test::RawPrintRecorder printer;
     RecordingLauncher launcher;
     RecordingMessageService messages;
     CashDrawer drawer(config, printer, launcher, messages);

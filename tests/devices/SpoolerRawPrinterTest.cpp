@@ -59,18 +59,6 @@ TEST_F(SpoolerOnLocalCups, DrawerKickArrivesAtTheDefaultPrinter) {
     EXPECT_TRUE(launcher.calls.isEmpty());
 }
 
-TEST_F(SpoolerOnLocalCups, LowerCaseTrueStillKicksThroughThePrinter) {
-    const QString out = server.addFileQueue(QStringLiteral("receipt"), true);
-    ASSERT_FALSE(out.isEmpty());
-    DrawerConfig config;
-    config.printerPortUsb = QStringLiteral("true");
-    SpoolerRawPrinter printer;
-    CashDrawer drawer(config, printer, launcher, messages);
-    drawer.mnuOpenCash_Click();
-    ASSERT_TRUE(waitUntil([&] { return contents(out).size() >= 5; }, 20000));
-    EXPECT_EQ(contents(out), QByteArray("\x1b\x70\x00\x19\x1e", 5));
-}
-
 TEST_F(SpoolerOnLocalCups, NoDefaultPrinterShowsTheMessage) {
     const QString out = server.addFileQueue(QStringLiteral("labels"), false);
     ASSERT_FALSE(out.isEmpty());

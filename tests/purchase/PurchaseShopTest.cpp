@@ -1,17 +1,12 @@
 #include "PurchaseShopTest.h"
 
-#include "data/schema/Migrator.h"
-#include "data/schema/ShopSchema.h"
-
 namespace sandogh::test {
 
 void PurchaseShopTest::SetUp() {
-    BackendTest::SetUp();
+    ShopFixture::SetUp();
     if (IsSkipped() || HasFatalFailure()) {
         return;
     }
-    const Migrator::Result r = Migrator(db()).apply(shopMigrations());
-    ASSERT_TRUE(r.ok) << r.message.toStdString();
     exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Name) VALUES (61, 61, 'Box')"));
     exec(
         QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost, Unit, ISActive) VALUES "
@@ -33,7 +28,7 @@ void PurchaseShopTest::SetUp() {
 
 void PurchaseShopTest::TearDown() {
     m_purchase.reset();
-    BackendTest::TearDown();
+    ShopFixture::TearDown();
 }
 
 void PurchaseShopTest::fill(bool isReturn, const QList<Line>& lines, int supplier) {
@@ -49,18 +44,6 @@ void PurchaseShopTest::fill(bool isReturn, const QList<Line>& lines, int supplie
         ASSERT_TRUE(model.setData(model.index(row, PurchaseLinesModel::ColDiscount), l.discount));
         ASSERT_TRUE(model.setData(model.index(row, PurchaseLinesModel::ColTaxValue), l.tax));
     }
-}
-
-void PurchaseShopTest::exec(const QString& sql, const SqlBinds& binds) {
-    Session s = db().session();
-    ASSERT_TRUE(s.exec(sql, binds))
-        << sql.toStdString() << ": " << s.lastError().text().toStdString();
-}
-
-qint64 PurchaseShopTest::count(const char* table) {
-    Session s = db().session();
-    return s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM ") + QString::fromLatin1(table), {},
-                         -1);
 }
 
 int PurchaseShopTest::account(int code) {

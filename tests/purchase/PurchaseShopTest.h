@@ -7,14 +7,13 @@
 #include <memory>
 
 #include "data/Session.h"
+#include "data/ShopFixture.h"
 #include "purchase/PurchaseSaver.h"
 #include "purchase/PurchaseSession.h"
-#include "support/BackendTest.h"
-#include "support/FixedClock.h"
 
 namespace sandogh::test {
 
-class PurchaseShopTest : public BackendTest {
+class PurchaseShopTest : public ShopFixture {
 protected:
     static constexpr int kSupplier = 601;
     static constexpr int kSupplierWithoutAccount = 602;
@@ -35,8 +34,7 @@ protected:
     };
     void fill(bool isReturn, const QList<Line>& lines, int supplier = kSupplier);
 
-    void exec(const QString& sql, const SqlBinds& binds = {});
-    qint64 count(const char* table);
+    qint64 count(const char* table) { return rows(QString::fromLatin1(table)); }
     // tblAccountingGroup.ID by its Code.
     int account(int code);
 

@@ -10,12 +10,10 @@ namespace sandogh::test {
 const QString SaleShopTest::kCashPaymentName = QStringLiteral("نقدی");
 
 void SaleShopTest::SetUp() {
-    BackendTest::SetUp();
+    ShopFixture::SetUp();
     if (IsSkipped() || HasFatalFailure()) {
         return;
     }
-    const Migrator::Result r = Migrator(db()).apply(shopMigrations());
-    ASSERT_TRUE(r.ok) << r.message.toStdString();
     ASSERT_TRUE(m_settingsDir.isValid());
     m_store = std::make_unique<QSettingsStore>(
         QStringLiteral("Retail"), m_settingsDir.filePath(QStringLiteral("Retail.ini")));
@@ -32,17 +30,11 @@ void SaleShopTest::SetUp() {
 
 void SaleShopTest::TearDown() {
     m_sale.reset();
-    BackendTest::TearDown();
+    ShopFixture::TearDown();
 }
 
 void SaleShopTest::setOption(const char* section, const char* key, const QString& value) {
     ASSERT_TRUE(m_store->write(QString::fromLatin1(section), QString::fromLatin1(key), value));
-}
-
-void SaleShopTest::exec(const QString& sql, const SqlBinds& binds) {
-    Session s = db().session();
-    ASSERT_TRUE(s.exec(sql, binds))
-        << sql.toStdString() << ": " << s.lastError().text().toStdString();
 }
 
 QString SaleShopTest::table(const char* name, const char* database) {

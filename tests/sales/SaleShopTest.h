@@ -9,11 +9,10 @@
 #include <memory>
 
 #include "data/Session.h"
+#include "data/ShopFixture.h"
 #include "sales/SaleSession.h"
 #include "settings/MachineSettings.h"
 #include "settings/QSettingsStore.h"
-#include "support/BackendTest.h"
-#include "support/FixedClock.h"
 
 namespace sandogh::test {
 
@@ -30,7 +29,7 @@ struct TestGoods {
     int gType = 0;  // GType
 };
 
-class SaleShopTest : public BackendTest {
+class SaleShopTest : public ShopFixture {
 protected:
     // The name of payment kind 1, which every shop of the fixture has, as is station 1.
     static const QString kCashPaymentName;
@@ -47,8 +46,6 @@ protected:
         setOption(section, key, on ? QStringLiteral("1") : QStringLiteral("0"));
     }
 
-    // Runs a statement; fails the test when it fails.
-    void exec(const QString& sql, const SqlBinds& binds = {});
     QString table(const char* name, const char* database = nullptr);
 
     void addGoods(const TestGoods& goods);

@@ -1,8 +1,8 @@
 #pragma once
 
 // A fresh SQLite shop database for the catalogue and party screen tests: every migration
-// applied, recorded messages, a fixed clock, and helpers to find the named controls, type
-// into them and read the database back.
+// applied, the shared recorded messages, a fixed clock, and helpers to find the named controls,
+// type into them and read the database back.
 
 #include <gtest/gtest.h>
 
@@ -20,30 +20,10 @@
 #include "data/SqlQuery.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
-#include "settings/MessageService.h"
 #include "support/FixedClock.h"
+#include "support/RecordingMessageService.h"
 
 namespace sandogh::test {
-
-// Remembers every message instead of showing it; questions get the answer set in
-// advance. (A class of its own name: the test program holds other recording services.)
-class CatalogMessages final : public MessageService {
-public:
-    struct Shown {
-        QString text;
-        MessageStyle style;
-        QString title;
-    };
-
-    bool show(const QString& text, MessageStyle style, const QString& title) override {
-        shown.append({text, style, title});
-        return answer;
-    }
-    bool prompt(const QString&, QString&, bool) override { return false; }
-
-    QList<Shown> shown;
-    bool answer = true;
-};
 
 class CatalogScreenFixture : public ::testing::Test {
 protected:
@@ -128,7 +108,7 @@ protected:
     // The messages shown so far, text only.
     QStringList shownTexts() const {
         QStringList texts;
-        for (const auto& m : messages.shown) {
+        for (const auto& m : messages.messages()) {
             texts << m.text;
         }
         return texts;
@@ -136,7 +116,7 @@ protected:
 
     QTemporaryDir folder;
     ConnectionSettings settings;
-    CatalogMessages messages;
+    RecordingMessageService messages;
     FixedClock clock;
     std::unique_ptr<Database> database;
 };

@@ -68,10 +68,8 @@ INSTANTIATE_TEST_SUITE_P(
     Typed, SaleTotalsPanelTest,
     ::testing::Values(PanelCase{"PercentChargeAndChange", "100,000", "10", "", "5000", "100000",
                                 "95,000", "5,000", SettlementTexts::toPay()},
-                      PanelCase{"Settled", "100,000", "", "10000", "", "90000", "90,000", "0",
-                                SettlementTexts::settled()},
-                      PanelCase{"StillToReceive", "100,000", "", "", "", "60000", "100,000",
-                                "40,000", SettlementTexts::toReceive()},
+                      PanelCase{"TypedDiscountSettles", "100,000", "", "10000", "", "90000",
+                                "90,000", "0", SettlementTexts::settled()},
                       PanelCase{"PersianDigits", "12,345", "10", "", "", "۲۰۰۰۰", "11,110", "8,890",
                                 SettlementTexts::toPay()}),
     [](const ::testing::TestParamInfo<PanelCase>& p) { return std::string(p.param.name); });

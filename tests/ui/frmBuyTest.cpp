@@ -108,7 +108,7 @@ TEST_F(frmBuyTest, APurchaseTypedThroughTheBarcodeBoxAndTheGridIsSavedFromTheKey
     EXPECT_TRUE(barcode->hasFocus());
 
     // F5 without a supplier: the first check.
-    messages.shown.clear();
+    messages.clear();
     QTest::keyClick(barcode, Qt::Key_F5);
     EXPECT_EQ(shownTexts(), QStringList{PurchaseTexts::noSupplier()});
 
@@ -118,10 +118,10 @@ TEST_F(frmBuyTest, APurchaseTypedThroughTheBarcodeBoxAndTheGridIsSavedFromTheKey
     typeInto(control<AmountEdit>(&screen, QStringLiteral("txtSarbar")), QStringLiteral("760"));
     EXPECT_EQ(control<QLabel>(&screen, QStringLiteral("lblPayable"))->text(),
               QStringLiteral("40,000"));
-    messages.shown.clear();
+    messages.clear();
     QTest::keyClick(barcode, Qt::Key_F5);
     ASSERT_EQ(shownTexts(), QStringList{PurchaseTexts::saved()});
-    EXPECT_EQ(messages.shown.first().title, PurchaseTexts::noticeTitle());
+    EXPECT_EQ(messages.messages().first().title, PurchaseTexts::noticeTitle());
     EXPECT_EQ(number(QStringLiteral("SELECT DocSum FROM Whs_QTYDocH WHERE Code = 1 AND "
                                     "CompanyID = 601 AND WarehouseCode = 1 AND Sarbar = 760")),
               39240);

@@ -128,9 +128,9 @@ TEST_F(frmGoodTest, AnArticleWithItsLevelsIsSavedAsTyped) {
               QStringLiteral("01001"));
 
     control<QPushButton>(screen.get(), QStringLiteral("cmdSave"))->click();
-    ASSERT_EQ(messages.shown.size(), 1);
-    EXPECT_EQ(messages.shown.first().text, kSaved);
-    EXPECT_EQ(messages.shown.first().title, kNotice);
+    ASSERT_EQ(messages.count(), 1);
+    EXPECT_EQ(messages.messages().first().text, kSaved);
+    EXPECT_EQ(messages.messages().first().title, kNotice);
 
     Session s = database->session();
     SqlQuery q(s, QStringLiteral(
@@ -189,13 +189,13 @@ TEST_F(frmGoodTest, BadInputShowsTheMessageAndSavesNothing) {
          goodsmessages::kBarcodeTaken},
     };
     for (const Case& c : cases) {
-        messages.shown.clear();
+        messages.clear();
         auto screen = openGood();
         typeArticle(*screen, c.barcode, c.name, QStringLiteral("1000"));
         control<QPushButton>(screen.get(), QStringLiteral("cmdSave"))->click();
-        ASSERT_EQ(messages.shown.size(), 1) << c.what;
-        EXPECT_EQ(messages.shown.first().text, c.message) << c.what;
-        EXPECT_EQ(messages.shown.first().style, MessageStyle::Critical) << c.what;
+        ASSERT_EQ(messages.count(), 1) << c.what;
+        EXPECT_EQ(messages.messages().first().text, c.message) << c.what;
+        EXPECT_EQ(messages.messages().first().style, MessageStyle::Critical) << c.what;
         EXPECT_EQ(goodsRows(), 1) << c.what;
         EXPECT_FALSE(screen->isEditing()) << c.what;
     }

@@ -292,4 +292,11 @@ bool UsersRepository::setPermissions(int level, int userId,
     return tx.commit();
 }
 
+int UsersRepository::activeUserId(Session& session, const QString& userName) {
+    SqlQuery q(session,
+               QStringLiteral("SELECT ID FROM Users WHERE UserName = :name AND Active = 1"));
+    q.bind(QStringLiteral(":name"), userName);
+    return q.exec() && q.next() ? q.integer(0) : -1;
+}
+
 }  // namespace sandogh

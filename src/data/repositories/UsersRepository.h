@@ -37,6 +37,8 @@ public:
     std::optional<QList<UserRow>> withLoginName(Session& session, const QString& userName);
     // The cash desks the user may work at; empty for any.
     QList<int> stationsOf(Session& session, int userId);
+    // The ID of the active user with exactly this login name; -1 when there is none.
+    static int activeUserId(Session& session, const QString& userName);
     bool setPassword(Session& session, int id, const QString& stored);
     bool setPassword(int id, const QString& stored);
     // Active administrators; -1 when the table cannot be read.

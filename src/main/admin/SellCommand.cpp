@@ -10,8 +10,8 @@
 #include "data/ConnectionSettings.h"
 #include "data/Database.h"
 #include "data/ErrorLog.h"
-#include "data/SqlQuery.h"
 #include "data/repositories/SaleCodes.h"
+#include "data/repositories/UsersRepository.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
 #include "sales/SaleSaver.h"
@@ -92,9 +92,7 @@ int usage(AdminCall& call, const QString& problem) {
 // The ID of an active user by login name; -1 when there is none.
 int userIdOf(Database& database, const QString& userName) {
     Session s = database.session(QStringLiteral("sandogh-admin"), QStringLiteral("sell"));
-    SqlQuery q(s, QStringLiteral("SELECT ID FROM Users WHERE UserName = :name AND Active = 1"));
-    q.bind(QStringLiteral(":name"), userName);
-    return q.exec() && q.next() ? q.integer(0) : -1;
+    return UsersRepository::activeUserId(s, userName);
 }
 
 // The amounts and kinds of the command line; false with the problem in error.

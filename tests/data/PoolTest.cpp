@@ -6,6 +6,8 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <chrono>
+#include <future>
 #include <thread>
 #include <vector>
 
@@ -58,11 +60,25 @@ TEST(SqlitePool, ConnectionsEnforceForeignKeysAndWaitForWriters) {
     Session s = testDb->database().session();
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA foreign_keys")), 1);
     EXPECT_EQ(s.scalarText(QStringLiteral("PRAGMA journal_mode")), QStringLiteral("wal"));
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA busy_timeout")), 5000);
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA synchronous")), 2);  // FULL
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA cache_size")), -65536);
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA temp_store")), 2);  // MEMORY
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA mmap_size")), 1073741824);
+
+    ASSERT_TRUE(test::createTables(s, {test::probeTable()}));
+    // Another desk holds the file in a write transaction for a moment: this desk's write
+    // waits for it (the busy handler) instead of failing.
+    std::promise<void> holding;
+    std::thread other([&] {
+        Session held = testDb->database().session();
+        Transaction tx(held);
+        holding.set_value();
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        EXPECT_TRUE(tx.commit());
+    });
+    holding.get_future().wait();
+    EXPECT_TRUE(s.exec(QStringLiteral("INSERT INTO Goods (Code, Name) VALUES (1, 'waited')")));
+    other.join();
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(PoolTest);

@@ -13,9 +13,9 @@
 
 #include "app/AppContext.h"
 #include "common/AmountText.h"
-#include "sales/InternalReceipt.h"
 #include "sales/InternalSaleSaver.h"
 #include "sales/InternalSaleSession.h"
+#include "sales/ReceiptOptions.h"
 #include "sales/SaleKeyMap.h"
 #include "sales/SaleReceipt.h"
 #include "sales/SaleSession.h"
@@ -251,8 +251,12 @@ void frmSaleInter::print(const InternalSaleResult& saved) {
     SaleReceipt receipt(m_context.database(), m_context.machineSettings(), m_context.messages(),
                         m_context.launcher(), m_context.programFolder(), &m_context.rawPrinter(),
                         nullptr);
-    receipt.print(InternalReceipt::of(
-        saved, *m_sale, m_context.clock().now().toString(QStringLiteral("HH:mm:ss"))));
+    // Printed from what was written, as a reprint would be: with the shop's heading, the
+    // total in words and the sentence of the day.
+    ReceiptOptions options;
+    options.title = m_sale->entry().caption();
+    options.family = DocumentFamily::Internal;
+    receipt.print(saved.code, options);
 }
 
 bool frmSaleInter::eventFilter(QObject* watched, QEvent* event) {

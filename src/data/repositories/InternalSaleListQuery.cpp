@@ -45,22 +45,7 @@ QString InternalSaleListQuery::statement(Session& session, const SaleListQuery::
                                            searchKeyOf(filter.customer)) +
                QStringLiteral(" LIKE :branch)");
     }
-    if (!atStart) {
-        const QString cmp = descending ? QStringLiteral("<") : QStringLiteral(">");
-        if (session.backend() == Backend::SqlServer) {
-            sql += QStringLiteral(
-                       " AND (%1 %2 :afterNumber OR (%1 = :afterNumber2 AND H.Code "
-                       "%2 :afterCode))")
-                       .arg(kNumber, cmp);
-        } else {
-            sql +=
-                QStringLiteral(" AND (%1, H.Code) %2 (:afterNumber, :afterCode)").arg(kNumber, cmp);
-        }
-    }
-    const QString order = descending ? QStringLiteral(" DESC") : QString();
-    sql += QStringLiteral(" ORDER BY ") + kNumber + order + QStringLiteral(", H.Code") + order +
-           d.limit(rows);
-    return sql;
+    return sql + SaleListQuery::keysetTail(session, kNumber, descending, atStart, rows);
 }
 
 QList<SaleListQuery::Row> InternalSaleListQuery::page(Session& session,
@@ -84,13 +69,7 @@ QList<SaleListQuery::Row> InternalSaleListQuery::page(Session& session,
         q.bind(QStringLiteral(":branch"),
                QLatin1Char('%') + searchKeyOf(filter.customer) + QLatin1Char('%'));
     }
-    if (!after.atStart) {
-        q.bind(QStringLiteral(":afterNumber"), after.number);
-        q.bind(QStringLiteral(":afterCode"), after.code);
-        if (session.backend() == Backend::SqlServer) {
-            q.bind(QStringLiteral(":afterNumber2"), after.number);
-        }
-    }
+    SaleListQuery::bindAfter(q, session, after);
     if (!q.exec()) {
         return result;
     }

@@ -87,22 +87,38 @@ QString SaleListQuery::statement(Session& session, const Filter& filter, bool de
     if (!filter.base.trimmed().isEmpty()) {
         sql += QStringLiteral(" AND H.Base LIKE :base");
     }
+    return sql + keysetTail(session, kNumber, descending, atStart, rows);
+}
+
+QString SaleListQuery::keysetTail(Session& session, const QString& number, bool descending,
+                                  bool atStart, int rows) {
+    QString sql;
     if (!atStart) {
         const QString cmp = descending ? QStringLiteral("<") : QStringLiteral(">");
         if (session.backend() == Backend::SqlServer) {
             sql += QStringLiteral(
                        " AND (%1 %2 :afterNumber OR (%1 = :afterNumber2 AND H.Code "
                        "%2 :afterCode))")
-                       .arg(kNumber, cmp);
+                       .arg(number, cmp);
         } else {
             sql +=
-                QStringLiteral(" AND (%1, H.Code) %2 (:afterNumber, :afterCode)").arg(kNumber, cmp);
+                QStringLiteral(" AND (%1, H.Code) %2 (:afterNumber, :afterCode)").arg(number, cmp);
         }
     }
     const QString order = descending ? QStringLiteral(" DESC") : QString();
-    sql += QStringLiteral(" ORDER BY ") + kNumber + order + QStringLiteral(", H.Code") + order +
-           d.limit(rows);
-    return sql;
+    return sql + QStringLiteral(" ORDER BY ") + number + order + QStringLiteral(", H.Code") +
+           order + session.dialect().limit(rows);
+}
+
+void SaleListQuery::bindAfter(SqlQuery& q, Session& session, const Position& after) {
+    if (after.atStart) {
+        return;
+    }
+    q.bind(QStringLiteral(":afterNumber"), after.number);
+    q.bind(QStringLiteral(":afterCode"), after.code);
+    if (session.backend() == Backend::SqlServer) {
+        q.bind(QStringLiteral(":afterNumber2"), after.number);
+    }
 }
 
 QList<SaleListQuery::Row> SaleListQuery::page(Session& session, const Filter& filter,
@@ -127,13 +143,7 @@ QList<SaleListQuery::Row> SaleListQuery::page(Session& session, const Filter& fi
         q.bind(QStringLiteral(":base"),
                QLatin1Char('%') + filter.base.trimmed() + QLatin1Char('%'));
     }
-    if (!after.atStart) {
-        q.bind(QStringLiteral(":afterNumber"), after.number);
-        q.bind(QStringLiteral(":afterCode"), after.code);
-        if (session.backend() == Backend::SqlServer) {
-            q.bind(QStringLiteral(":afterNumber2"), after.number);
-        }
-    }
+    bindAfter(q, session, after);
     if (!q.exec()) {
         return result;
     }

@@ -6,6 +6,7 @@
 namespace sandogh {
 
 class Session;
+class SqlQuery;
 
 // The saved documents of one kind (Whs_QTYDocH rows of a TransType, ordinary documents
 // only) a page at a time, ordered by number as a number and then by key, so that a list of
@@ -59,6 +60,12 @@ public:
     // The search key form of a column expression, in SQL (nested REPLACEs), for comparing
     // with `key` (already a search key).
     static QString searchKeySql(const QString& expression, const QString& key);
+    // The keyset part of a list statement over headers H ordered by the number expression
+    // and H.Code: the rows after the position (unless atStart), the order and the limit.
+    static QString keysetTail(Session& session, const QString& number, bool descending,
+                              bool atStart, int rows);
+    // Binds the position keysetTail() compares with.
+    static void bindAfter(SqlQuery& query, Session& session, const Position& after);
 };
 
 }  // namespace sandogh

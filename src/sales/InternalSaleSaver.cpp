@@ -4,6 +4,7 @@
 #include "data/Transaction.h"
 #include "data/procedures/StockDocumentWriter.h"
 #include "data/repositories/DocumentNumbering.h"
+#include "data/repositories/DocumentTotalsRepository.h"
 #include "data/repositories/InternalSaleRepository.h"
 #include "sales/InternalSaleSession.h"
 #include "sales/InternalSaleTexts.h"
@@ -220,8 +221,10 @@ PreviousInvoice InternalSaleSaver::previousInvoice(int stationId) {
 DailyTotals::Figures InternalSaleSaver::dailyTotals(int stationId, const QString& date) {
     DailyTotals::Figures figures = DailyTotals(m_database).read(stationId, date);
     Session s = m_database.session(kModule, QStringLiteral("DailySale"));
-    const auto sales = InternalSaleRepository::dayTotals(s, stationId, date, 2);
-    const auto returns = InternalSaleRepository::dayTotals(s, stationId, date, 3);
+    const auto sales =
+        DocumentTotalsRepository::ofStation(s, stationId, date, 2, DocumentFamily::Internal);
+    const auto returns =
+        DocumentTotalsRepository::ofStation(s, stationId, date, 3, DocumentFamily::Internal);
     if (!sales || !returns) {
         figures.ok = false;
         return figures;

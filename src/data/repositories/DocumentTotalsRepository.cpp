@@ -9,7 +9,7 @@ namespace {
 
 const QString kDayOfStation = QStringLiteral(
     "SELECT COALESCE(SUM(COALESCE(DocSum, 0)), 0), COALESCE(SUM(COALESCE(ReceivedPrice, 0)), 0) "
-    "FROM Whs_QtyDocH WHERE DocDate = :today AND COALESCE(StationID, 0) = :station "
+    "FROM %1 WHERE DocDate = :today AND COALESCE(StationID, 0) = :station "
     "AND (TransType = :transType)");
 
 const QString kDayOfShop = QStringLiteral(
@@ -19,8 +19,8 @@ const QString kDayOfShop = QStringLiteral(
 }  // namespace
 
 std::optional<DocumentTotalsRepository::Sums> DocumentTotalsRepository::ofStation(
-    Session& session, int stationId, const QString& date, int transType) {
-    SqlQuery q(session, kDayOfStation);
+    Session& session, int stationId, const QString& date, int transType, DocumentFamily family) {
+    SqlQuery q(session, kDayOfStation.arg(headerTableOf(family)));
     q.bind(QStringLiteral(":today"), date);
     q.bind(QStringLiteral(":station"), stationId);
     q.bind(QStringLiteral(":transType"), transType);

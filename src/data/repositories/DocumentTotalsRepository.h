@@ -3,6 +3,8 @@
 #include <QString>
 #include <optional>
 
+#include "data/repositories/DocumentFamily.h"
+
 namespace sandogh {
 
 class Session;
@@ -18,9 +20,11 @@ public:
         qint64 count = 0;     // documents counted (the shop's summary only)
     };
 
-    // The documents of this cash desk (StationID) on the day; nothing when the statement failed.
+    // The documents of this cash desk (StationID) on the day, ordinary or internal; nothing
+    // when the statement failed.
     static std::optional<Sums> ofStation(Session& session, int stationId, const QString& date,
-                                         int transType);
+                                         int transType,
+                                         DocumentFamily family = DocumentFamily::Ordinary);
     // The shop's documents without a DocType on the day; nothing when the statement failed.
     static std::optional<Sums> ofShop(Session& session, int transType, const QString& date);
     // The customer's sales less returns (DocSum) without a DocType; 0 when the statement failed.

@@ -34,11 +34,6 @@ const QString kHeaderValues = QStringLiteral(
 const QString kInsertLine = QStringLiteral(
     "INSERT INTO Whs_QTYDocDInternal (Code, EAN_Code, Qty, Fee, Price) "
     "VALUES (:code, :barcode, :qty, :fee, :price)");
-const QString kDayTotals = QStringLiteral(
-    "SELECT COALESCE(SUM(COALESCE(DocSum, 0)), 0), COALESCE(SUM(COALESCE(ReceivedPrice, 0)), 0) "
-    "FROM Whs_QTYDocHInternal WHERE DocDate = :date AND StationID = :station "
-    "AND TransType = :transType");
-
 }  // namespace
 
 QString InternalSaleRepository::invoiceNumber(const QString& typed) {
@@ -166,25 +161,6 @@ std::optional<InternalSaleRepository::Previous> InternalSaleRepository::previous
         previous.received = q.number(1);
     }
     return previous;
-}
-
-std::optional<InternalSaleRepository::Sums> InternalSaleRepository::dayTotals(Session& session,
-                                                                              int stationId,
-                                                                              const QString& date,
-                                                                              int transType) {
-    SqlQuery q(session, kDayTotals);
-    q.bind(QStringLiteral(":date"), date);
-    q.bind(QStringLiteral(":station"), stationId);
-    q.bind(QStringLiteral(":transType"), transType);
-    if (!q.exec()) {
-        return std::nullopt;
-    }
-    Sums sums;
-    if (q.next()) {
-        sums.docSum = q.number(0);
-        sums.received = q.number(1);
-    }
-    return sums;
 }
 
 }  // namespace sandogh

@@ -44,11 +44,6 @@ public:
         QString docNo = QStringLiteral("0");
         double received = 0;
     };
-    struct Sums {
-        double docSum = 0;
-        double received = 0;
-    };
-
     // The next key, the largest plus one (1 on an empty table); 0 when the statement failed.
     static qint64 nextCode(Session& session);
     // Whether a document of the kind other than exceptCode already has this number; nothing
@@ -72,9 +67,6 @@ public:
     static bool insertLines(Session& session, qint64 code, const QList<Line>& lines);
     // The last internal sale or return of a desk; nothing on failure.
     static std::optional<Previous> previousInvoice(Session& session, int stationId);
-    // The day's internal documents of one kind on a desk; nothing on failure.
-    static std::optional<Sums> dayTotals(Session& session, int stationId, const QString& date,
-                                         int transType);
     // The number as it is kept in Atf and compared: its digits without leading zeros.
     static QString invoiceNumber(const QString& typed);
 };

@@ -37,17 +37,6 @@ const QString kVoucherTimePattern = QStringLiteral("HH:mm");
 // Serial numbers typed for a document wait under this key until it is saved.
 constexpr qint64 kPendingSerialCode = 1;
 
-// The one place a saved purchase brings Stock up to date: its own articles, recomputed.
-bool updateStock(Session& s, const QList<PurchaseLine>& lines) {
-    QStringList barcodes;
-    for (const PurchaseLine& line : lines) {
-        if (!barcodes.contains(line.barcode)) {
-            barcodes << line.barcode;
-        }
-    }
-    return sp_StockRepair(s, barcodes);
-}
-
 enum class Outcome { Written, Failed, NoSupplierAccount };
 
 Outcome write(Session& s, const PurchaseSession& purchase, const QDateTime& now,
@@ -148,7 +137,9 @@ Outcome write(Session& s, const PurchaseSession& purchase, const QDateTime& now,
             return Outcome::Failed;
         }
     }
-    return updateStock(s, purchase.lines().lines()) ? Outcome::Written : Outcome::Failed;
+    // Stock follows the document's own lines, as the sale's does: the result of a scoped
+    // sp_StockRepair, at a cost that does not grow with the articles' history.
+    return StockDocumentWriter::addToStock(s, r.code) ? Outcome::Written : Outcome::Failed;
 }
 
 }  // namespace

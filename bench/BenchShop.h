@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <cstdio>
 
@@ -18,6 +19,28 @@ inline QString env(const char* bench, const char* test) {
 
 inline bool postgresConfigured() {
     return !env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty();
+}
+
+// The shop sizes of a run: SANDOGH_BENCH_SIZES ("10000,1000000") or the program's default.
+inline QList<qint64> sizes(const QString& defaults) {
+    const QString text = qEnvironmentVariable("SANDOGH_BENCH_SIZES");
+    QList<qint64> result;
+    for (const QString& part : (text.isEmpty() ? defaults : text).split(QLatin1Char(','))) {
+        if (part.trimmed().toLongLong() > 0) {
+            result << part.trimmed().toLongLong();
+        }
+    }
+    return result;
+}
+
+// SQLite always, PostgreSQL when a server is configured; program names the benchmark in the
+// line that says PostgreSQL is left out.
+inline QList<Backend> backends(const char* program) {
+    if (postgresConfigured()) {
+        return {Backend::SQLite, Backend::PostgreSQL};
+    }
+    std::fprintf(stderr, "%s: PostgreSQL not configured, SQLite only\n", program);
+    return {Backend::SQLite};
 }
 
 // A shop of the benchmarks: on SQLite the file shop.sqlite in sqliteFolder below
@@ -51,6 +74,14 @@ inline ConnectionSettings shopSettings(Backend backend, const QString& sqliteFol
         std::fprintf(stderr, "%s: %s\n", program, qPrintable(error));
     }
     return settings;
+}
+
+// The shop of `documents` documents that bench_data generates: shop_N under the bench
+// folder on SQLite, the database sandogh_bench_N on PostgreSQL.
+inline ConnectionSettings generatedShop(Backend backend, qint64 documents, const char* program) {
+    return shopSettings(backend, QStringLiteral("shop_%1").arg(documents),
+                        QStringLiteral("sandogh_bench_%1").arg(documents),
+                        QStringLiteral("/tmp/sandogh-bench"), program);
 }
 
 // The row source 1..:rows of each backend, and the clause that must precede the statement

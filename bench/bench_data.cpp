@@ -44,9 +44,7 @@ const QString kBenchFolder = QStringLiteral("/tmp/sandogh-bench");
 constexpr qint64 kDocumentsPerArticle = 50;
 
 ConnectionSettings settingsFor(Backend backend, qint64 documents) {
-    return bench::shopSettings(backend, QStringLiteral("shop_%1").arg(documents),
-                               QStringLiteral("sandogh_bench_%1").arg(documents), kBenchFolder,
-                               "bench_data");
+    return bench::generatedShop(backend, documents, "bench_data");
 }
 
 // A Jalali date of 1403 spread over the year by the row's place among :span rows.
@@ -234,32 +232,15 @@ void averagePurchasePrice(benchmark::State& state, Shop* shop) {
     }
 }
 
-QList<qint64> sizes() {
-    QList<qint64> result;
-    const QString text = qEnvironmentVariable("SANDOGH_BENCH_SIZES");
-    for (const QString& part :
-         (text.isEmpty() ? QStringLiteral("10000,1000000") : text).split(QLatin1Char(','))) {
-        if (part.trimmed().toLongLong() > 0) {
-            result << part.trimmed().toLongLong();
-        }
-    }
-    return result;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     std::vector<std::unique_ptr<Shop>> shops;
-    QList<Backend> backends{Backend::SQLite};
-    if (bench::postgresConfigured()) {
-        backends << Backend::PostgreSQL;
-    } else {
-        std::fprintf(stderr, "bench_data: PostgreSQL not configured, SQLite only\n");
-    }
+    const QList<Backend> backends = bench::backends("bench_data");
     for (const Backend backend : backends) {
-        for (const qint64 documents : sizes()) {
+        for (const qint64 documents : bench::sizes(QStringLiteral("10000,1000000"))) {
             auto shop = std::make_unique<Shop>();
             shop->database = openShop(backend, documents);
             if (!shop->database) {

@@ -252,12 +252,7 @@ void saveSale(benchmark::State& state, Database* database, int firstArticle) {
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
-    QList<Backend> backends{Backend::SQLite};
-    if (!bench::env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
-        backends << Backend::PostgreSQL;
-    } else {
-        std::fprintf(stderr, "bench_desks: PostgreSQL not configured, SQLite only\n");
-    }
+    const QList<Backend> backends = bench::backends("bench_desks");
     std::vector<std::unique_ptr<Database>> shops;
     for (const Backend backend : backends) {
         auto database = freshShop(backend);

@@ -199,28 +199,13 @@ void report(benchmark::State& state, Run run) {
     state.counters["rows"] = double(rows);
 }
 
-QList<qint64> sizes() {
-    QList<qint64> result;
-    const QString text = qEnvironmentVariable("SANDOGH_BENCH_SIZES");
-    for (const QString& part :
-         (text.isEmpty() ? QStringLiteral("1000000") : text).split(QLatin1Char(','))) {
-        if (part.trimmed().toLongLong() > 0) {
-            result << part.trimmed().toLongLong();
-        }
-    }
-    return result;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     std::vector<std::unique_ptr<Database>> shops;
-    QList<Backend> backends{Backend::SQLite};
-    if (!bench::env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
-        backends << Backend::PostgreSQL;
-    }
+    const QList<Backend> backends = bench::backends("bench_reports");
     const struct {
         const char* name;
         ReportKind kind;
@@ -233,7 +218,7 @@ int main(int argc, char** argv) {
         const char* to;
     } ranges[] = {{"Month", "1403/07/01", "1403/07/30"}, {"Year", "1403/01/01", "1403/12/30"}};
     for (const Backend backend : backends) {
-        for (const qint64 documents : sizes()) {
+        for (const qint64 documents : bench::sizes(QStringLiteral("1000000"))) {
             auto database = openShop(backend, documents);
             if (!database) {
                 return 1;

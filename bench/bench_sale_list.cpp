@@ -170,30 +170,15 @@ void firstPage(benchmark::State& state, Database* database, Case c) {
     state.counters["rows"] = static_cast<double>(rows);
 }
 
-QList<qint64> sizes() {
-    QList<qint64> result;
-    const QString text = qEnvironmentVariable("SANDOGH_BENCH_SIZES");
-    for (const QString& part :
-         (text.isEmpty() ? QStringLiteral("10000,1000000") : text).split(QLatin1Char(','))) {
-        if (part.trimmed().toLongLong() > 0) {
-            result << part.trimmed().toLongLong();
-        }
-    }
-    return result;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     std::vector<std::unique_ptr<Database>> shops;
-    QList<Backend> backends{Backend::SQLite};
-    if (!bench::env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST").isEmpty()) {
-        backends << Backend::PostgreSQL;
-    }
+    const QList<Backend> backends = bench::backends("bench_sale_list");
     for (const Backend backend : backends) {
-        for (const qint64 documents : sizes()) {
+        for (const qint64 documents : bench::sizes(QStringLiteral("10000,1000000"))) {
             std::unique_ptr<Database> shop = openShop(backend, documents);
             if (!shop) {
                 return 1;

@@ -35,28 +35,6 @@ using namespace sandogh;
 
 constexpr int kLines = 20;
 
-// The connection of a shop made by bench_data.
-QString providerOf(Backend backend, qint64 documents) {
-    if (backend == Backend::SQLite) {
-        return QStringLiteral(
-                   "Provider=SQLite;Data Source=shop_%1;Initial Catalog=shop;User ID=;"
-                   "Password=;")
-            .arg(documents);
-    }
-    QString source = bench::env("SANDOGH_BENCH_PG_HOST", "SANDOGH_TEST_PG_HOST");
-    const QString port = bench::env("SANDOGH_BENCH_PG_PORT", "SANDOGH_TEST_PG_PORT");
-    if (!port.isEmpty()) {
-        source += QLatin1Char(',') + port;
-    }
-    return QStringLiteral(
-               "Provider=PostgreSQL;Data Source=%1;Initial Catalog=sandogh_bench_%2;"
-               "User ID=%3;Password=%4;")
-        .arg(source)
-        .arg(documents)
-        .arg(bench::env("SANDOGH_BENCH_PG_USER", "SANDOGH_TEST_PG_USER"),
-             bench::env("SANDOGH_BENCH_PG_PASSWORD", "SANDOGH_TEST_PG_PASSWORD"));
-}
-
 class QuietMessages final : public MessageService {
 public:
     bool show(const QString& text, MessageStyle style, const QString&) override {
@@ -79,13 +57,8 @@ struct Shop {
 
     bool open(Backend backend, qint64 size) {
         documents = size;
-        ConnectionSettings connection;
-        QString error;
-        if (!ConnectionSettings::parse(providerOf(backend, size),
-                                       QStringLiteral("/tmp/sandogh-bench"), connection, &error)) {
-            std::fprintf(stderr, "bench_sale_save: %s\n", qPrintable(error));
-            return false;
-        }
+        const ConnectionSettings connection =
+            bench::generatedShop(backend, size, "bench_sale_save");
         database = std::make_unique<Database>(connection, nullptr);
         Session s = database->session();
         const qint64 have =

@@ -270,14 +270,20 @@ bool DatabaseProvisioner::markYear(const ConnectionSettings& settings, const QSt
     if (settings.backend != Backend::PostgreSQL) {
         return true;
     }
-    // COMMENT cannot be prepared: the text goes in as a standard string literal, its quotes
-    // doubled (standard_conforming_strings is on from PostgreSQL 9.1).
-    QString text = yearMarker(family);
-    text.replace(QLatin1Char('\''), QStringLiteral("''"));
+    // COMMENT cannot be prepared, so the server quotes the name and the text itself
+    // (format's %I and %L, both bound) and the statement it returns is run as it stands.
     return withMaintenance(settings, error, [&](QSqlDatabase& db) {
+        QSqlQuery quoted(db);
+        quoted.prepare(
+            QStringLiteral("SELECT format('COMMENT ON DATABASE %I IS %L', CAST(:name AS TEXT), "
+                           "CAST(:text AS TEXT))"));
+        quoted.bindValue(QStringLiteral(":name"), settings.catalog);
+        quoted.bindValue(QStringLiteral(":text"), yearMarker(family));
+        if (!quoted.exec() || !quoted.next()) {
+            return setError(error, quoted.lastError().text());
+        }
         QSqlQuery q(db);
-        if (!q.exec(QStringLiteral("COMMENT ON DATABASE %1 IS '%2'")
-                        .arg(quoteDatabaseName(settings.backend, settings.catalog), text))) {
+        if (!q.exec(quoted.value(0).toString())) {
             return setError(error, q.lastError().text());
         }
         return true;

@@ -177,6 +177,41 @@ TEST_P(PartiesRepositoryTest, CustomerGroupsAreNumberedAndKeptWhileCustomersHave
     EXPECT_EQ(rows(QStringLiteral("tblCustomerGroup")), 0);
 }
 
+TEST_P(PartiesRepositoryTest, ListSearchesEachColumnAsPeopleTypeIt) {
+    PartiesRepository parties(db());
+    // Stored as older data has it: Arabic kaf and yeh, a non-joiner, Persian digits.
+    Party arabic = person(QStringLiteral("1"), QStringLiteral(u"\u0643\u0631\u064A\u0645"));
+    arabic.family = QStringLiteral(u"\u0645\u06CC\u200C\u0632\u0627\u062F\u0647");
+    arabic.telephone = QStringLiteral(u"\u06F0\u06F2\u06F1\u06F5\u06F5");
+    Party latin = person(QStringLiteral("2"), QStringLiteral("Sara"));
+    latin.mobile = QStringLiteral("0912 100");
+    ASSERT_TRUE(parties.save(arabic).ok);
+    ASSERT_TRUE(parties.save(latin).ok);
+    using Column = PartiesRepository::SearchColumn;
+    struct Case {
+        Column column;
+        const char* typed;
+        QStringList codes;
+    };
+    const Case cases[] = {
+        {Column::Name, "\u06A9\u0631\u06CC", {"1"}},                // Persian keheh and yeh
+        {Column::Family, "\u0645\u06CC\u0632\u0627\u062F", {"1"}},  // without the non-joiner
+        {Column::Telephone, "215", {"1"}},                          // Latin digits
+        {Column::Telephone, "\u0669\u0661\u0662", {"2"}},           // Arabic-Indic, the mobile
+        {Column::Code, "\u06F2", {"2"}},
+        {Column::Name, "SAR", {"2"}},
+        {Column::Name, "%", {}},
+        {Column::Name, "", {"1", "2"}},
+    };
+    for (const Case& c : cases) {
+        QStringList codes;
+        for (const Party& p : parties.list(Party::kPerson, c.column, QString::fromUtf8(c.typed))) {
+            codes << p.code;
+        }
+        EXPECT_EQ(codes, c.codes) << c.typed;
+    }
+}
+
 SANDOGH_INSTANTIATE_BACKENDS(PartiesRepositoryTest);
 
 }  // namespace

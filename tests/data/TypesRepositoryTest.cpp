@@ -61,9 +61,13 @@ TEST_P(TypesRepositoryTest, ListIsOrderedByCodeAndSearchedBySubstring) {
     add(1011, QStringLiteral("10"), QStringLiteral("معلم"), {}, QStringLiteral("Teacher"),
         QStringLiteral("school"));
     add(1011, QStringLiteral("20"), QStringLiteral("راننده"), {}, QStringLiteral("Driver"));
+    // Stored with Persian yeh and a zero-width non-joiner; searched as people type it.
+    add(1011, QStringLiteral("45"),
+        QStringLiteral(u"\u0686\u0627\u06CC\u200C\u062E\u0627\u0646\u0647"), {},
+        QStringLiteral("Tea House"));
     add(1012, QStringLiteral("11"), QStringLiteral("other list"));
     TypesRepository r = repo();
-    EXPECT_EQ(codesOf(r.list(1011)), (QStringList{"10", "20", "30"}));
+    EXPECT_EQ(codesOf(r.list(1011)), (QStringList{"10", "20", "30", "45"}));
     struct Case {
         Column column;
         const char* text;
@@ -75,9 +79,16 @@ TEST_P(TypesRepositoryTest, ListIsOrderedByCodeAndSearchedBySubstring) {
         {Column::Name, "نانو", {"30"}},
         {Column::NameEng, "iv", {"20"}},
         {Column::Note, "hoo", {"10"}},
-        {Column::Name, "", {"10", "20", "30"}},
+        {Column::Name, "", {"10", "20", "30", "45"}},
         {Column::Name, "none", {}},
         {Column::Code, "' OR '1'='1", {}},
+        {Column::Name, "\u0686\u0627\u064A", {"45"}},                          // Arabic yeh typed
+        {Column::Name, "\u0686\u0627\u06CC\u062E\u0627\u0646\u0647", {"45"}},  // no non-joiner
+        {Column::Code, "\u06F4", {"45"}},                                      // Persian four
+        {Column::Code, "\u0664\u0665", {"45"}},                                // Arabic-Indic 45
+        {Column::NameEng, "HOUSE", {"45"}},
+        {Column::Code, "%", {}},
+        {Column::Code, "_0", {}},
     };
     for (const Case& c : cases) {
         QStringList found = codesOf(r.list(1011, c.column, QString::fromUtf8(c.text)));

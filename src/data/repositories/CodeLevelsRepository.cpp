@@ -1,11 +1,13 @@
 #include "data/repositories/CodeLevelsRepository.h"
 
 #include "data/Database.h"
+#include "data/Dialect.h"
 #include "data/SqlQuery.h"
 #include "data/procedures/KeyConflictRetry.h"
 #include "data/procedures/ReturningInsert.h"
 #include "data/repositories/DigitText.h"
 #include "data/repositories/ListMessages.h"
+#include "data/repositories/TypedSearch.h"
 
 namespace sandogh {
 
@@ -36,14 +38,18 @@ QList<CodeLevelsRepository::Level> CodeLevelsRepository::list(Family family, Sea
                       "COALESCE(ParameterLevel, 0) FROM Code_Parameters WHERE ") +
                   familyCondition(family);
     if (column == SearchColumn::Name) {
-        sql += QStringLiteral(" AND COALESCE(Name, '') LIKE :pattern");
+        sql += QStringLiteral(" AND ") +
+               TypedSearch::condition(s.dialect(), QStringLiteral("COALESCE(Name, '')"),
+                                      QStringLiteral(":pattern"));
     } else if (column == SearchColumn::NameEnglish) {
-        sql += QStringLiteral(" AND COALESCE(NameEnglish, '') LIKE :pattern");
+        sql += QStringLiteral(" AND ") +
+               TypedSearch::condition(s.dialect(), QStringLiteral("COALESCE(NameEnglish, '')"),
+                                      QStringLiteral(":pattern"));
     }
     sql += QStringLiteral(" ORDER BY TypeNo");
     SqlQuery q(s, sql);
     if (column != SearchColumn::None) {
-        q.bind(QStringLiteral(":pattern"), QLatin1Char('%') + text + QLatin1Char('%'));
+        q.bind(QStringLiteral(":pattern"), TypedSearch::contains(text));
     }
     QList<Level> levels;
     if (!q.exec()) {

@@ -1,10 +1,12 @@
 #include "data/repositories/CustomerGroupRepository.h"
 
 #include "data/Database.h"
+#include "data/Dialect.h"
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
 #include "data/procedures/ReturningInsert.h"
 #include "data/repositories/PartyMessages.h"
+#include "data/repositories/TypedSearch.h"
 
 namespace sandogh {
 
@@ -39,11 +41,13 @@ QList<CustomerGroup> CustomerGroupRepository::list(const QString& nameText) {
     Session s = m_database.session(kModule, QStringLiteral("list"));
     QString sql = QStringLiteral("SELECT ") + kColumns + QStringLiteral(" FROM tblCustomerGroup");
     if (!nameText.isEmpty()) {
-        sql += QStringLiteral(" WHERE COALESCE(Name, '') LIKE :pattern");
+        sql += QStringLiteral(" WHERE ") +
+               TypedSearch::condition(s.dialect(), QStringLiteral("COALESCE(Name, '')"),
+                                      QStringLiteral(":pattern"));
     }
     SqlQuery q(s, sql + QStringLiteral(" ORDER BY Code"));
     if (!nameText.isEmpty()) {
-        q.bind(QStringLiteral(":pattern"), QLatin1Char('%') + nameText + QLatin1Char('%'));
+        q.bind(QStringLiteral(":pattern"), TypedSearch::contains(nameText));
     }
     QList<CustomerGroup> groups;
     if (q.exec()) {

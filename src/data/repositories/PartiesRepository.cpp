@@ -4,10 +4,12 @@
 
 #include "common/JalaliCalendar.h"
 #include "data/Database.h"
+#include "data/Dialect.h"
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
 #include "data/procedures/ReturningInsert.h"
 #include "data/repositories/PartyMessages.h"
+#include "data/repositories/TypedSearch.h"
 #include "data/repositories/TypesRepository.h"
 
 namespace sandogh {
@@ -93,20 +95,30 @@ QList<Party> PartiesRepository::list(int typeNo, SearchColumn column, const QStr
                   QStringLiteral(
                       " FROM Types T LEFT JOIN tblCustomerGroup G ON G.Code = "
                       "T.CstGrpCode WHERE T.TypeNo = :typeNo");
+    const Dialect& d = s.dialect();
+    const auto searched = [&d](const QString& searchedColumn, const QString& parameter) {
+        return TypedSearch::condition(d, searchedColumn, parameter);
+    };
     switch (column) {
         case SearchColumn::Code:
-            sql += QStringLiteral(" AND COALESCE(T.Code, '') LIKE :pattern");
+            sql += QStringLiteral(" AND ") +
+                   searched(QStringLiteral("COALESCE(T.Code, '')"), QStringLiteral(":pattern"));
             break;
         case SearchColumn::Name:
-            sql += QStringLiteral(" AND COALESCE(T.Name, '') LIKE :pattern");
+            sql += QStringLiteral(" AND ") +
+                   searched(QStringLiteral("COALESCE(T.Name, '')"), QStringLiteral(":pattern"));
             break;
         case SearchColumn::Family:
-            sql += QStringLiteral(" AND COALESCE(T.Value1, '') LIKE :pattern");
+            sql += QStringLiteral(" AND ") +
+                   searched(QStringLiteral("COALESCE(T.Value1, '')"), QStringLiteral(":pattern"));
             break;
         case SearchColumn::Telephone:
-            sql += QStringLiteral(
-                " AND (COALESCE(T.Value2, '') LIKE :pattern OR "
-                "COALESCE(T.Value5, '') LIKE :patternAgain)");
+            sql += QStringLiteral(" AND (") +
+                   searched(QStringLiteral("COALESCE(T.Value2, '')"), QStringLiteral(":pattern")) +
+                   QStringLiteral(" OR ") +
+                   searched(QStringLiteral("COALESCE(T.Value5, '')"),
+                            QStringLiteral(":patternAgain")) +
+                   QLatin1Char(')');
             break;
         case SearchColumn::None:
             break;
@@ -117,7 +129,7 @@ QList<Party> PartiesRepository::list(int typeNo, SearchColumn column, const QStr
     sql += QStringLiteral(" ORDER BY T.Code");
     SqlQuery q(s, sql);
     q.bind(QStringLiteral(":typeNo"), typeNo);
-    const QString pattern = QLatin1Char('%') + text + QLatin1Char('%');
+    const QString pattern = TypedSearch::contains(text);
     if (column != SearchColumn::None) {
         q.bind(QStringLiteral(":pattern"), pattern);
     }

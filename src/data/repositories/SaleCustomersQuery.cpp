@@ -4,8 +4,7 @@
 #include "data/Dialect.h"
 #include "data/Session.h"
 #include "data/SqlQuery.h"
-#include "data/repositories/GoodsListQuery.h"
-#include "data/repositories/GoodsSearchQuery.h"
+#include "data/repositories/TypedSearch.h"
 
 namespace sandogh {
 
@@ -53,9 +52,7 @@ std::optional<QList<SaleCustomer>> SaleCustomersQuery::search(Session& session, 
     // Compared as people type: both the typed text and the columns in their search form
     // (Persian letters, ASCII digits, no zero-width non-joiner, lower case).
     const Dialect& d = session.dialect();
-    const QString pattern =
-        QLatin1Char('%') + GoodsListQuery::escapeLike(GoodsSearchQuery::searchKey(text.trimmed())) +
-        QLatin1Char('%');
+    const QString pattern = TypedSearch::contains(text);
     const auto folded = [&d](const QString& column) {
         return d.searchKeyExpression(column) + QStringLiteral(" LIKE ");
     };

@@ -3,11 +3,13 @@
 #include <QLocale>
 
 #include "data/Database.h"
+#include "data/Dialect.h"
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
 #include "data/procedures/ReturningInsert.h"
 #include "data/procedures/TypesProcedures.h"
 #include "data/repositories/ListMessages.h"
+#include "data/repositories/TypedSearch.h"
 
 namespace sandogh {
 
@@ -15,26 +17,36 @@ namespace {
 
 const QString kModule = QStringLiteral("TypesRepository");
 
-// " AND <column> LIKE :pattern" for the searched column; the pattern is bound.
-QString searchCondition(TypesRepository::SearchColumn column, const QString& prefix) {
+// " AND <column> LIKE :pattern" for the searched column, compared in search form; the
+// pattern is bound.
+QString searchCondition(const Dialect& dialect, TypesRepository::SearchColumn column,
+                        const QString& prefix) {
+    QString searched;
     switch (column) {
         case TypesRepository::SearchColumn::Code:
-            return QStringLiteral(" AND COALESCE(%1Code, '') LIKE :pattern").arg(prefix);
-        case TypesRepository::SearchColumn::Name:
-            return QStringLiteral(" AND COALESCE(%1Name, '') LIKE :pattern").arg(prefix);
-        case TypesRepository::SearchColumn::NameEng:
-            return QStringLiteral(" AND COALESCE(%1NameEng, '') LIKE :pattern").arg(prefix);
-        case TypesRepository::SearchColumn::Note:
-            return QStringLiteral(" AND COALESCE(%1Note, '') LIKE :pattern").arg(prefix);
-        case TypesRepository::SearchColumn::None:
+            searched = QStringLiteral("Code");
             break;
+        case TypesRepository::SearchColumn::Name:
+            searched = QStringLiteral("Name");
+            break;
+        case TypesRepository::SearchColumn::NameEng:
+            searched = QStringLiteral("NameEng");
+            break;
+        case TypesRepository::SearchColumn::Note:
+            searched = QStringLiteral("Note");
+            break;
+        case TypesRepository::SearchColumn::None:
+            return {};
     }
-    return {};
+    return QStringLiteral(" AND ") +
+           TypedSearch::condition(dialect,
+                                  QStringLiteral("COALESCE(%1%2, '')").arg(prefix, searched),
+                                  QStringLiteral(":pattern"));
 }
 
 void bindSearch(SqlBinds& binds, TypesRepository::SearchColumn column, const QString& text) {
     if (column != TypesRepository::SearchColumn::None) {
-        binds.append({QStringLiteral(":pattern"), QLatin1Char('%') + text + QLatin1Char('%')});
+        binds.append({QStringLiteral(":pattern"), TypedSearch::contains(text)});
     }
 }
 
@@ -92,7 +104,7 @@ QList<TypesRepository::Value> TypesRepository::list(int typeNo, SearchColumn col
                    QStringLiteral("SELECT Counter, COALESCE(Code, ''), COALESCE(Name, ''), "
                                   "COALESCE(NameEng, ''), COALESCE(Note, '') FROM Types "
                                   "WHERE TypeNo = :typeNo") +
-                       searchCondition(column, {}) + QStringLiteral(" ORDER BY Code"),
+                       searchCondition(s.dialect(), column, {}) + QStringLiteral(" ORDER BY Code"),
                    binds);
     for (Value& v : values) {
         v.typeNo = typeNo;
@@ -126,16 +138,16 @@ QList<TypesRepository::Value> TypesRepository::picker(int typeNo, int parentCoun
                                            "COALESCE(T.Name, '') FROM Types T INNER JOIN "
                                            "TypesLink TL ON T.Counter = TL.Counter "
                                            "WHERE T.TypeNo = :typeNo AND TL.Link = :parent") +
-                                searchCondition(column, QStringLiteral("T.")) +
+                                searchCondition(s.dialect(), column, QStringLiteral("T.")) +
                                 QStringLiteral(" ORDER BY T.Code, T.Counter"),
                             binds);
     } else {
-        values =
-            readValues(s,
-                       QStringLiteral("SELECT Counter, COALESCE(Code, ''), COALESCE(Name, '') "
-                                      "FROM Types WHERE TypeNo = :typeNo") +
-                           searchCondition(column, {}) + QStringLiteral(" ORDER BY Code, Counter"),
-                       binds);
+        values = readValues(s,
+                            QStringLiteral("SELECT Counter, COALESCE(Code, ''), COALESCE(Name, '') "
+                                           "FROM Types WHERE TypeNo = :typeNo") +
+                                searchCondition(s.dialect(), column, {}) +
+                                QStringLiteral(" ORDER BY Code, Counter"),
+                            binds);
     }
     for (Value& v : values) {
         v.typeNo = typeNo;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -10,6 +11,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
 
@@ -115,6 +117,29 @@ TEST_F(frmSalePanelsTest, CustomerSearchEnterSearchesArrowsMove) {
 
     QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
     EXPECT_EQ(screen().session().CompanyId(), 13);
+}
+
+TEST_F(frmSalePanelsTest, OnA768PixelScreenFavouritesAndCustomerResultsEachShowFiveRows) {
+    addFavourites();
+    openScreen();
+    // What a maximized screen gets at 1366x768 below the title, menu and status bars.
+    screen().resize(1366, 768 - 22 - 32 - 32);
+    QApplication::processEvents();
+    auto* side = screen().findChild<QTabWidget*>(QStringLiteral("tabSide"));
+    ASSERT_NE(side, nullptr);
+    QTableWidget* grid = favouritesGrid();
+    EXPECT_EQ(side->currentWidget(), screen().favouritesPanel());
+    EXPECT_GE(grid->viewport()->height(), 5 * grid->verticalHeader()->defaultSectionSize());
+
+    // The customer key brings the customer page to the front and its five result rows.
+    press(Qt::Key_S, Qt::ControlModifier);
+    SaleCustomerPanel* panel = screen().customerPanel();
+    ASSERT_TRUE(panel->txtAccountSearch->hasFocus());
+    EXPECT_TRUE(side->currentWidget()->isAncestorOf(panel));
+    panel->lstCustomers->addItem(QStringLiteral("x"));
+    EXPECT_GE(panel->lstCustomers->viewport()->height(),
+              5 * panel->lstCustomers->sizeHintForRow(0));
+    EXPECT_LE(panel->width(), side->width());
 }
 
 TEST_F(frmSalePanelsTest, DailyTotalsShownOnOpeningAndOnCtrlT) {

@@ -10,7 +10,6 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QToolBar>
 #include <algorithm>
 
 #include "app/AppContext.h"
@@ -28,6 +27,8 @@ namespace {
 
 // The share of the MDI area a child window opens with, at least.
 constexpr double kChildShare = 0.85;
+// Set to true on a screen that opens maximized in the main window.
+constexpr const char* kWholeAreaProperty = "wholeArea";
 constexpr int kCascadeStep = 28;
 
 // Child windows show no icon (the platform would put its own there).
@@ -58,17 +59,20 @@ frmMain::frmMain(AppContext& context, QWidget* parent) : QMainWindow(parent), m_
     mdiMain->setBackground(QColor(0xe6, 0xe9, 0xed));
     setCentralWidget(mdiMain);
 
-    auto* tools = addToolBar(QStringLiteral("tlbMain"));
-    tools->setObjectName(QStringLiteral("tlbMain"));
-    tools->setMovable(false);
-    cmdCashDraw = new QPushButton(QStringLiteral("کشوی پول"), tools);
+    // The drawer button sits in the status bar rather than on a tool bar of its own: on a
+    // 768-pixel screen the sale screen needs that height for its rows, and a maximized screen
+    // takes the menu bar's corners for its own buttons.
+    cmdCashDraw = new QPushButton(QStringLiteral("کشوی پول"), this);
     cmdCashDraw->setObjectName(QStringLiteral("cmdCashDraw"));
     cmdCashDraw->setToolTip(QStringLiteral("باز کردن کشوی پول"));
-    tools->addWidget(cmdCashDraw);
+    cmdCashDraw->setFocusPolicy(Qt::NoFocus);
+    cmdCashDraw->setStyleSheet(QStringLiteral("QPushButton { padding: 1px 14px; }"));
     connect(cmdCashDraw, &QPushButton::clicked, this, &frmMain::mnuOpenCash_Click);
 
     buildMenus();
+
     buildStatusBar();
+    statusBar()->addPermanentWidget(cmdCashDraw);
     resize(1100, 720);
 }
 
@@ -207,7 +211,11 @@ void frmMain::mnuScale_Click() {
 
 QWidget* frmMain::openChild(const QString& name, const std::function<QWidget*()>& create) {
     if (QMdiSubWindow* open = m_children.value(name); open != nullptr) {
-        open->showNormal();
+        if (open->widget()->property(kWholeAreaProperty).toBool()) {
+            open->showMaximized();
+        } else {
+            open->showNormal();
+        }
         mdiMain->setActiveSubWindow(open);
         return open->widget();
     }
@@ -230,7 +238,12 @@ QWidget* frmMain::openChild(const QString& name, const std::function<QWidget*()>
     const int x = std::max(0, area.width() - window->width() - step);
     window->move(isRightToLeft() ? x : std::min(step, area.width() - window->width()),
                  std::min(step, std::max(0, area.height() - window->height())));
-    window->show();
+    // A cash desk screen takes the whole area, its title joining the menu bar.
+    if (screen->property(kWholeAreaProperty).toBool()) {
+        window->showMaximized();
+    } else {
+        window->show();
+    }
     mdiMain->setActiveSubWindow(window);
     return screen;
 }

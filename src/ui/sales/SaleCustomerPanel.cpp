@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTabWidget>
 
 #include "common/AmountText.h"
 #include "sales/CustomerSummary.h"
@@ -110,9 +111,14 @@ void SaleCustomerPanel::buildLayout() {
     grid->addWidget(lblCredit, 3, 1, 1, 2);
     grid->addWidget(btnCustomerDetail, 3, 3);
     grid->setColumnStretch(1, 1);
-    // The results always hold their room, five rows, so that nothing moves when they come.
-    lstCustomers->setFixedHeight(fontMetrics().lineSpacing() * kResultRows + 4 * kResultRows +
-                                 2 * lstCustomers->frameWidth() + 4);
+    // The results always hold their room, five rows, so that nothing moves when they come;
+    // the room is measured on a row as the style draws it.
+    lstCustomers->setStyleSheet(QStringLiteral("QListWidget::item { padding: 1px 4px; }"));
+    lstCustomers->setUniformItemSizes(true);
+    lstCustomers->addItem(QStringLiteral("0"));
+    const int row = lstCustomers->sizeHintForRow(0);
+    lstCustomers->clear();
+    lstCustomers->setFixedHeight(row * kResultRows + 2 * lstCustomers->frameWidth() + 2);
 }
 
 int SaleCustomerPanel::search() {
@@ -177,6 +183,17 @@ void SaleCustomerPanel::reset() {
 }
 
 void SaleCustomerPanel::focusSearch() {
+    // On a low screen the panel shares tabs with the favourites: its page comes to the front
+    // first, as a hidden box takes no focus.
+    for (QWidget* up = parentWidget(); up != nullptr; up = up->parentWidget()) {
+        if (auto* tabs = qobject_cast<QTabWidget*>(up)) {
+            for (int i = 0; i < tabs->count(); ++i) {
+                if (tabs->widget(i)->isAncestorOf(this)) {
+                    tabs->setCurrentIndex(i);
+                }
+            }
+        }
+    }
     txtAccountSearch->setFocus(Qt::ShortcutFocusReason);
     txtAccountSearch->selectAll();
 }

@@ -1,5 +1,6 @@
 #include "ui/sales/SaleScreenLayout.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -8,6 +9,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStyle>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "ui/sales/SaleCustomerPanel.h"
@@ -27,7 +29,7 @@ constexpr double kGridScale = 1.3;
 constexpr double kButtonScale = 1.1;
 constexpr double kSaveScale = 1.3;
 constexpr double kSettledScale = 1.5;
-constexpr int kSideColumnWidth = 400;
+constexpr int kSideColumnWidth = 440;
 constexpr int kBarcodeMinWidth = 420;
 
 QFont scaled(const QFont& base, double scale, bool bold = false) {
@@ -114,20 +116,63 @@ QHBoxLayout* barcodeRow(frmSale& s) {
     return row;
 }
 
-QVBoxLayout* sideColumn(frmSale& s) {
+// The customer, its buttons and the detail panel: a page of the side column that scrolls
+// when the open detail panel would squeeze the fields past reading.
+QScrollArea* customerPage(frmSale& s) {
     auto* customerButtons = new QHBoxLayout;
     customerButtons->addWidget(s.btnCalculateHesab);
     customerButtons->addWidget(s.btnBuyFactor);
     customerButtons->addStretch(1);
     auto* column = new QVBoxLayout;
+    column->setContentsMargins(4, 4, 4, 4);
     column->addWidget(s.customerPanel());
     column->addLayout(customerButtons);
     column->addWidget(s.frmDetail);
-    column->addWidget(s.favouritesPanel(), 1);
-    if (!s.favouritesPanel()->isVisibleTo(&s)) {
-        column->addStretch(1);
+    column->addStretch(1);
+    auto* page = new QWidget(&s);
+    page->setObjectName(QStringLiteral("fraSide"));
+    page->setLayout(column);
+    auto* scroll = new QScrollArea(&s);
+    scroll->setObjectName(QStringLiteral("scrSide"));
+    scroll->setWidget(page);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    return scroll;
+}
+
+// The side column: the customer and the favourite goods on two tabs of the full height, so
+// that on a low screen each shows its rows rather than both being squeezed. The tab follows
+// the keyboard: focus on the customer search shows the customer page.
+QTabWidget* sideColumn(frmSale& s) {
+    auto* tabs = new QTabWidget(&s);
+    tabs->setObjectName(QStringLiteral("tabSide"));
+    tabs->setFixedWidth(kSideColumnWidth + s.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    QScrollArea* customer = customerPage(s);
+    const bool favourites = s.favouritesPanel()->isVisibleTo(&s);
+    if (favourites) {
+        tabs->addTab(s.favouritesPanel(), QStringLiteral("کالاهای منتخب"));
     }
-    return column;
+    tabs->addTab(customer, QStringLiteral("مشتری"));
+    QObject::connect(qApp, &QApplication::focusChanged, tabs, [tabs](QWidget*, QWidget* now) {
+        for (int i = 0; now != nullptr && i < tabs->count(); ++i) {
+            if (tabs->widget(i)->isAncestorOf(now)) {
+                tabs->setCurrentIndex(i);
+                return;
+            }
+        }
+    });
+    // Queued: the panel is shown by the same toggle, after this layout is made.
+    QObject::connect(
+        s.btnDetail, &QPushButton::toggled, customer,
+        [tabs, customer, &s](bool on) {
+            if (on) {
+                tabs->setCurrentWidget(customer);
+                customer->ensureWidgetVisible(s.frmDetail);
+            }
+        },
+        Qt::QueuedConnection);
+    return tabs;
 }
 
 QHBoxLayout* buttonRow(frmSale& s) {
@@ -159,37 +204,15 @@ QHBoxLayout* buttonRow(frmSale& s) {
 
 void SaleScreenLayout::arrange(frmSale& s) {
     s.setLayoutDirection(Qt::RightToLeft);
+    // The main window opens a screen so marked maximized.
+    s.setProperty("wholeArea", true);
     s.Grid1->setFont(scaled(s.font(), kGridScale));
     s.Grid1->horizontalHeader()->setFont(scaled(s.font(), kButtonScale, true));
-
-    auto* side = new QWidget(&s);
-    side->setObjectName(QStringLiteral("fraSide"));
-    side->setLayout(sideColumn(s));
-    side->layout()->setContentsMargins(0, 0, 0, 0);
-    // On a low screen the open detail panel would squeeze the customer and detail fields
-    // past reading; the column scrolls instead.
-    auto* sideScroll = new QScrollArea(&s);
-    sideScroll->setObjectName(QStringLiteral("scrSide"));
-    sideScroll->setWidget(side);
-    sideScroll->setWidgetResizable(true);
-    sideScroll->setFrameShape(QFrame::NoFrame);
-    sideScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    sideScroll->setFixedWidth(kSideColumnWidth +
-                              s.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
-    // Queued: the panel is shown by the same toggle, after this layout is made.
-    QObject::connect(
-        s.btnDetail, &QPushButton::toggled, sideScroll,
-        [sideScroll, &s](bool on) {
-            if (on) {
-                sideScroll->ensureWidgetVisible(s.frmDetail);
-            }
-        },
-        Qt::QueuedConnection);
 
     // The goods name takes what the side column leaves.
     auto* body = new QHBoxLayout;
     body->addWidget(s.Grid1, 1);
-    body->addWidget(sideScroll);
+    body->addWidget(sideColumn(s));
 
     auto* page = new QVBoxLayout(&s);
     page->setContentsMargins(8, 6, 8, 6);

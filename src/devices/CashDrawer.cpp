@@ -48,7 +48,7 @@ QString CashDrawer::drawerWorkingDirectory() const {
     return withoutTrailingSeparator(m_config.programFolder) + kDrawerWorkingDirSuffix;
 }
 
-void CashDrawer::mnuOpenCash_Click() {
+void CashDrawer::open() {
     if (drawerOnPrinter()) {
         OpenCashDrawer();
         return;

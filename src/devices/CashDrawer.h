@@ -26,7 +26,7 @@ public:
                MessageService& messages);
 
     // The one entry through which every screen opens the drawer.
-    void mnuOpenCash_Click();
+    void open();
     // The kick through the default printer.
     void OpenCashDrawer();
 

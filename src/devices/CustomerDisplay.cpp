@@ -17,7 +17,7 @@ CustomerDisplay::CustomerDisplay(const DisplayConfig& config, GeneralPorts& gene
     : QObject(parent)
     , m_config(config)
     , m_general(generalPorts)
-    , m_port(SerialPortConfig::MSCommCustomerDisplay(), this) {
+    , m_port(SerialPortConfig::port(), this) {
     m_port.setDevicePath(config.devicePath);
     m_pause.setSingleShot(true);
     connect(&m_pause, &QTimer::timeout, this, &CustomerDisplay::writeSingleLineAmount);
@@ -29,10 +29,10 @@ int CustomerDisplay::singleLinePauseMs() const {
 
 void CustomerDisplay::saleScreenLoaded() {
     if (m_config.enabled && m_config.kind == kPriceDisplayKind)
-        SetMSCommCustomerDisplay();
+        openPort();
 }
 
-void CustomerDisplay::SetMSCommCustomerDisplay() {
+void CustomerDisplay::openPort() {
     if (!m_port.setCommPort(m_config.port))
         return;
     m_port.setSettings(QString::fromLatin1(kPriceDisplaySettings));

@@ -26,7 +26,7 @@ public:
     CustomerDisplay(const DisplayConfig& config, GeneralPorts& generalPorts,
                     QObject* parent = nullptr);
 
-    SerialLine& MSCommCustomerDisplay() { return m_port; }
+    SerialLine& port() { return m_port; }
     const DisplayConfig& config() const { return m_config; }
     void setGreeting(const QString& greeting) { m_config.greeting = greeting; }
 
@@ -34,7 +34,7 @@ public:
     // display is on and of kind 3.
     void saleScreenLoaded();
     // Configures and opens the price display's port.
-    void SetMSCommCustomerDisplay();
+    void openPort();
     // Shows an amount text as the sale screen shows it (with ",").
     void ShowOnCustomerDisplay(const QString& amountText);
     // The sale screen's exit: resets the price display and closes its port.

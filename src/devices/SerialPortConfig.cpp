@@ -23,7 +23,7 @@ SerialPortConfig SerialPortConfig::MSComm2() {
     return make(kMSComm2BuiltInPort, "9600,n,8,1");
 }
 
-SerialPortConfig SerialPortConfig::MSCommCustomerDisplay() {
+SerialPortConfig SerialPortConfig::port() {
     return make(3, "2400,n,8,1");
 }
 

@@ -19,10 +19,10 @@ struct SerialPortConfig {
     static constexpr int kMSComm2BuiltInPort = 2;
 
     // The built-in defaults of the four port objects of the cash desk.
-    static SerialPortConfig MSComm1();                // first general port
-    static SerialPortConfig MSComm2();                // second general port, caller ID
-    static SerialPortConfig MSCommCustomerDisplay();  // eight-digit price display
-    static SerialPortConfig MSCommPec();              // bank card terminal
+    static SerialPortConfig MSComm1();    // first general port
+    static SerialPortConfig MSComm2();    // second general port, caller ID
+    static SerialPortConfig port();       // eight-digit price display
+    static SerialPortConfig MSCommPec();  // bank card terminal
 };
 
 }  // namespace sandogh

@@ -6,7 +6,7 @@
 namespace sandogh {
 
 bool BranchTransferSettings::ownsStore() const {
-    return store_.application().compare(
+    return m_store.application().compare(
                QString::fromLatin1(settingkeys::TransferShowPrice.application),
                Qt::CaseInsensitive) == 0;
 }
@@ -14,7 +14,7 @@ bool BranchTransferSettings::ownsStore() const {
 int BranchTransferSettings::showPrice() const {
     const SettingKey& key = settingkeys::TransferShowPrice;
     const QString kept =
-        ownsStore() ? store_.read(QString::fromLatin1(key.section), QString::fromLatin1(key.key))
+        ownsStore() ? m_store.read(QString::fromLatin1(key.section), QString::fromLatin1(key.key))
                     : QString();
     const QString text = SettingReaders::orDefault(kept, QString::fromLatin1(key.defaultText));
     return SettingReaders::toInteger(SettingReaders::numericValue(text));
@@ -22,15 +22,16 @@ int BranchTransferSettings::showPrice() const {
 
 QString BranchTransferSettings::folder() const {
     const SettingKey& key = settingkeys::TransferFolder;
-    return ownsStore() ? store_.read(QString::fromLatin1(key.section), QString::fromLatin1(key.key))
-                             .trimmed()
-                       : QString();
+    return ownsStore()
+               ? m_store.read(QString::fromLatin1(key.section), QString::fromLatin1(key.key))
+                     .trimmed()
+               : QString();
 }
 
 bool BranchTransferSettings::setShowPrice(int value) {
     const SettingKey& key = settingkeys::TransferShowPrice;
-    return ownsStore() && store_.write(QString::fromLatin1(key.section),
-                                       QString::fromLatin1(key.key), QString::number(value));
+    return ownsStore() && m_store.write(QString::fromLatin1(key.section),
+                                        QString::fromLatin1(key.key), QString::number(value));
 }
 
 }  // namespace sandogh

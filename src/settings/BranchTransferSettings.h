@@ -9,7 +9,7 @@ namespace sandogh {
 // for that application.
 class BranchTransferSettings {
 public:
-    explicit BranchTransferSettings(SettingsStore& store) : store_(store) {}
+    explicit BranchTransferSettings(SettingsStore& store) : m_store(store) {}
 
     // "FC"/"ShowPrice": 1 or 2; 1 when nothing is kept.
     int showPrice() const;
@@ -21,7 +21,7 @@ public:
 private:
     bool ownsStore() const;
 
-    SettingsStore& store_;
+    SettingsStore& m_store;
 };
 
 }  // namespace sandogh

@@ -30,11 +30,12 @@ QString programPath(const QString& setting, const QString& programFolder) {
 }  // namespace
 
 bool MachineSettings::ownsKey(const SettingKey& key) const {
-    return store_.application().compare(latin(key.application), Qt::CaseInsensitive) == 0;
+    return m_store.application().compare(latin(key.application), Qt::CaseInsensitive) == 0;
 }
 
 QString MachineSettings::rawText(const SettingKey& key) const {
-    const QString kept = ownsKey(key) ? store_.read(latin(key.section), latin(key.key)) : QString();
+    const QString kept =
+        ownsKey(key) ? m_store.read(latin(key.section), latin(key.key)) : QString();
     return SettingReaders::orDefault(kept, latin(key.defaultText));
 }
 
@@ -55,7 +56,7 @@ int MachineSettings::integer(const SettingKey& key) const {
 }
 
 bool MachineSettings::write(const SettingKey& key, const QString& text) {
-    return ownsKey(key) && store_.write(latin(key.section), latin(key.key), text);
+    return ownsKey(key) && m_store.write(latin(key.section), latin(key.key), text);
 }
 
 bool MachineSettings::setFlag(const SettingKey& key, bool on) {
@@ -67,15 +68,15 @@ bool MachineSettings::setNumber(const SettingKey& key, double value) {
 }
 
 bool MachineSettings::reset(const SettingKey& key) {
-    return ownsKey(key) && store_.remove(latin(key.section), latin(key.key));
+    return ownsKey(key) && m_store.remove(latin(key.section), latin(key.key));
 }
 
 bool MachineSettings::setUserInfo(int id, const QString& loginName, const QString& displayName) {
-    store_.beginBatch();
+    m_store.beginBatch();
     const bool idKept = setNumber(settingkeys::UserId, id);
     const bool nameKept = write(settingkeys::UserName, loginName);
     const bool displayKept = write(settingkeys::UserDisplayName, displayName);
-    const bool flushed = store_.endBatch();
+    const bool flushed = m_store.endBatch();
     return idKept && nameKept && displayKept && flushed;
 }
 

@@ -15,9 +15,9 @@ namespace sandogh {
 // value; texts are trimmed unless said otherwise. The store is not owned.
 class MachineSettings {
 public:
-    explicit MachineSettings(SettingsStore& store) : store_(store) {}
+    explicit MachineSettings(SettingsStore& store) : m_store(store) {}
 
-    SettingsStore& store() const { return store_; }
+    SettingsStore& store() const { return m_store; }
 
     // Generic reading and writing by key, for the settings screen and for keys that a
     // screen reads in its own way. A key of another application reads as its default and
@@ -216,7 +216,7 @@ public:
 private:
     bool ownsKey(const SettingKey& key) const;
 
-    SettingsStore& store_;
+    SettingsStore& m_store;
 };
 
 }  // namespace sandogh

@@ -44,30 +44,31 @@ QString QSettingsStore::defaultIniPath(const QString& application) {
 }
 
 QSettingsStore::QSettingsStore(const QString& application, const QString& iniPath)
-    : application_(application) {
+    : m_application(application) {
     const QString path = iniPath.isEmpty() ? defaultIniPath(application) : iniPath;
     if (path.isEmpty()) {
-        settings_ = std::make_unique<QSettings>(registryPath(application), QSettings::NativeFormat);
+        m_settings =
+            std::make_unique<QSettings>(registryPath(application), QSettings::NativeFormat);
     } else {
-        settings_ = std::make_unique<QSettings>(path, QSettings::IniFormat);
+        m_settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
     }
-    settings_->setFallbacksEnabled(false);
+    m_settings->setFallbacksEnabled(false);
 }
 
 QSettingsStore::~QSettingsStore() = default;
 
 QString QSettingsStore::location() const {
-    return settings_->fileName();
+    return m_settings->fileName();
 }
 
 bool QSettingsStore::isIniFile() const {
-    return settings_->format() == QSettings::IniFormat;
+    return m_settings->format() == QSettings::IniFormat;
 }
 
 QStringList QSettingsStore::matches(const QString& section, const QString& key) const {
     QStringList found;
     const QString exact = section + u'/' + key;
-    const QStringList kept = settings_->allKeys();
+    const QStringList kept = m_settings->allKeys();
     for (const QString& path : kept) {
         const qsizetype slash = path.indexOf(u'/');
         if (slash <= 0 || path.indexOf(u'/', slash + 1) >= 0) {
@@ -88,7 +89,7 @@ QStringList QSettingsStore::matches(const QString& section, const QString& key) 
 }
 
 QString QSettingsStore::keptSection(const QString& section) const {
-    const QStringList groups = settings_->childGroups();
+    const QStringList groups = m_settings->childGroups();
     if (groups.contains(section)) {
         return section;
     }
@@ -108,7 +109,7 @@ QString QSettingsStore::read(const QString& section, const QString& key) const {
     if (found.isEmpty()) {
         return {};
     }
-    const QVariant value = settings_->value(found.first());
+    const QVariant value = m_settings->value(found.first());
     // An INI line edited by hand with an unquoted comma reads as a list; it was one text.
     if (value.typeId() == QMetaType::QStringList) {
         return value.toStringList().join(u',');
@@ -122,9 +123,9 @@ bool QSettingsStore::write(const QString& section, const QString& key, const QSt
     }
     QStringList found = matches(section, key);
     const QString target = found.isEmpty() ? keptSection(section) + u'/' + key : found.takeFirst();
-    settings_->setValue(target, text);
+    m_settings->setValue(target, text);
     for (const QString& other : std::as_const(found)) {
-        settings_->remove(other);
+        m_settings->remove(other);
     }
     return flush();
 }
@@ -135,28 +136,28 @@ bool QSettingsStore::remove(const QString& section, const QString& key) {
     }
     const QStringList found = matches(section, key);
     for (const QString& path : found) {
-        settings_->remove(path);
+        m_settings->remove(path);
     }
     return flush();
 }
 
 void QSettingsStore::beginBatch() {
-    ++batchDepth_;
+    ++m_batchDepth;
 }
 
 bool QSettingsStore::endBatch() {
-    if (batchDepth_ > 0) {
-        --batchDepth_;
+    if (m_batchDepth > 0) {
+        --m_batchDepth;
     }
     return flush();
 }
 
 bool QSettingsStore::flush() {
-    if (batchDepth_ > 0) {
+    if (m_batchDepth > 0) {
         return true;
     }
-    settings_->sync();
-    return settings_->status() == QSettings::NoError;
+    m_settings->sync();
+    return m_settings->status() == QSettings::NoError;
 }
 
 }  // namespace sandogh

@@ -35,7 +35,7 @@ public:
     QSettingsStore(const QSettingsStore&) = delete;
     QSettingsStore& operator=(const QSettingsStore&) = delete;
 
-    QString application() const override { return application_; }
+    QString application() const override { return m_application; }
     QString read(const QString& section, const QString& key) const override;
     bool write(const QString& section, const QString& key, const QString& text) override;
     bool remove(const QString& section, const QString& key) override;
@@ -59,9 +59,9 @@ private:
     // Writes the changes out unless a batch is open; false when they could not be kept.
     bool flush();
 
-    QString application_;
-    std::unique_ptr<QSettings> settings_;
-    int batchDepth_ = 0;
+    QString m_application;
+    std::unique_ptr<QSettings> m_settings;
+    int m_batchDepth = 0;
 };
 
 }  // namespace sandogh

@@ -37,7 +37,7 @@ TEST_P(DrawerPath, FollowsPrinterPortUsb) {
     RecordingLauncher launcher;
     RecordingMessageService messages;
     CashDrawer drawer(config, printer, launcher, messages);
-    drawer.mnuOpenCash_Click();
+    drawer.open();
     EXPECT_EQ(printer.jobs.size(), GetParam().onPrinter ? 1 : 0) << GetParam().usb;
     EXPECT_EQ(launcher.calls.size(), GetParam().onPrinter ? 0 : 1) << GetParam().usb;
     EXPECT_TRUE((messages.count() == 0));
@@ -66,7 +66,7 @@ TEST(CashDrawer, UnknownPrinterIsReportedPlainly) {
     RecordingLauncher launcher;
     RecordingMessageService messages;
     CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
-    drawer.mnuOpenCash_Click();
+    drawer.open();
     ASSERT_EQ(messages.count(), 1);
     EXPECT_EQ(messages.messages()[0].text,
               QStringLiteral("The Printer Name you typed wasn't recognized."));
@@ -93,7 +93,7 @@ TEST_P(DrawerProgram, StartsHiddenWithParameterZero) {
     RecordingLauncher launcher;
     RecordingMessageService messages;
     CashDrawer drawer(config, printer, launcher, messages);
-    drawer.mnuOpenCash_Click();
+    drawer.open();
     ASSERT_EQ(launcher.calls.size(), 1);
     EXPECT_EQ(launcher.calls[0].program, QString::fromLatin1(c.program));
     EXPECT_EQ(launcher.calls[0].arguments, QStringList{QStringLiteral("0")});

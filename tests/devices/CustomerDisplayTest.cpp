@@ -92,8 +92,8 @@ TEST_F(DisplayOnPty, SingleLineUpdateDuringThePauseReplacesTheAmount) {
 TEST_F(DisplayOnPty, PriceDisplaySendsEscQAAndDigits) {
     GeneralPorts ports(portsConfig(true));
     CustomerDisplay display(displayConfig(3), ports);
-    display.SetMSCommCustomerDisplay();
-    ASSERT_TRUE(display.MSCommCustomerDisplay().isOpen());
+    display.openPort();
+    ASSERT_TRUE(display.port().isOpen());
     display.ShowOnCustomerDisplay(QStringLiteral("1,250,000"));
     EXPECT_EQ(price.readMaster(11).toHex(' ').toUpper(),
               QByteArray("1B 51 41 31 32 35 30 30 30 30 0D"));
@@ -114,7 +114,7 @@ TEST_P(SaleScreenLoad, OpensOnlyAnActivePriceDisplay) {
     GeneralPorts ports(portsConfig(true));
     CustomerDisplay display(displayConfig(GetParam().kind, GetParam().enabled), ports);
     display.saleScreenLoaded();
-    EXPECT_EQ(display.MSCommCustomerDisplay().isOpen(), GetParam().opens);
+    EXPECT_EQ(display.port().isOpen(), GetParam().opens);
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, SaleScreenLoad,
@@ -142,7 +142,7 @@ TEST_P(SilentDisplay, SendsNothing) {
     GeneralPorts ports(portsConfig(c.portsActive));
     ASSERT_TRUE(ports.MSComm1().open());  // open even so: the switches decide
     CustomerDisplay display(displayConfig(c.kind, c.enabled), ports);
-    display.SetMSCommCustomerDisplay();
+    display.openPort();
     display.ShowOnCustomerDisplay(QStringLiteral("12,500"));
     EXPECT_EQ(general.readAllFor(100), QByteArray()) << c.name;
     EXPECT_EQ(price.readAllFor(10), QByteArray()) << c.name;
@@ -158,9 +158,9 @@ INSTANTIATE_TEST_SUITE_P(Switches, SilentDisplay,
 TEST_F(DisplayOnPty, LeavingTheSaleScreenResetsAndCloses) {
     GeneralPorts ports(portsConfig(true));
     CustomerDisplay display(displayConfig(3), ports);
-    display.SetMSCommCustomerDisplay();
+    display.openPort();
     display.leaveSaleScreen();
-    EXPECT_FALSE(display.MSCommCustomerDisplay().isOpen());
+    EXPECT_FALSE(display.port().isOpen());
     EXPECT_EQ(price.readMaster(4).toHex(' ').toUpper(), QByteArray("1B 73 31 0D"));
     display.leaveSaleScreen();  // closed already: nothing more
     EXPECT_EQ(price.readAllFor(50), QByteArray());

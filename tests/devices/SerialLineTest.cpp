@@ -54,8 +54,8 @@ INSTANTIATE_TEST_SUITE_P(
     FourPorts, PortDefaults,
     ::testing::Values(DefaultCase{"MSComm1", SerialPortConfig::MSComm1(), 1, "9600,n,8,1"},
                       DefaultCase{"MSComm2", SerialPortConfig::MSComm2(), 2, "9600,n,8,1"},
-                      DefaultCase{"MSCommCustomerDisplay",
-                                  SerialPortConfig::MSCommCustomerDisplay(), 3, "2400,n,8,1"},
+                      DefaultCase{"MSCommCustomerDisplay", SerialPortConfig::port(), 3,
+                                  "2400,n,8,1"},
                       DefaultCase{"MSCommPec", SerialPortConfig::MSCommPec(), 1, "9600,n,8,1"}));
 
 SerialPortConfig onPty(const PtyPair& pty) {

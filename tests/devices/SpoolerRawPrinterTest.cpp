@@ -50,7 +50,7 @@ TEST_F(SpoolerOnLocalCups, DrawerKickArrivesAtTheDefaultPrinter) {
 
     SpoolerRawPrinter printer;
     CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
-    drawer.mnuOpenCash_Click();
+    drawer.open();
 
     ASSERT_TRUE(waitUntil([&] { return contents(out).size() >= 5; }, 20000));
     EXPECT_EQ(contents(out).toHex(' ').toUpper(), QByteArray("1B 70 00 19 1E"));
@@ -66,7 +66,7 @@ TEST_F(SpoolerOnLocalCups, NoDefaultPrinterShowsTheMessage) {
 
     SpoolerRawPrinter printer;
     CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
-    drawer.mnuOpenCash_Click();
+    drawer.open();
     ASSERT_EQ(messages.count(), 1);
     EXPECT_EQ(messages.messages()[0].text,
               QStringLiteral("The Printer Name you typed wasn't recognized."));

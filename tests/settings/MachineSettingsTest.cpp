@@ -21,11 +21,11 @@ QString latin(const char* text) {
 class MachineSettingsTest : public ::testing::Test {
 protected:
     QTemporaryDir dir_;
-    QSettingsStore store_{QStringLiteral("Retail"), dir_.filePath(QStringLiteral("Retail.ini"))};
-    MachineSettings settings_{store_};
+    QSettingsStore m_store{QStringLiteral("Retail"), dir_.filePath(QStringLiteral("Retail.ini"))};
+    MachineSettings m_settings{m_store};
 
     void keep(const char* section, const char* key, const QString& text) {
-        ASSERT_TRUE(store_.write(latin(section), latin(key), text));
+        ASSERT_TRUE(m_store.write(latin(section), latin(key), text));
     }
 };
 
@@ -40,12 +40,12 @@ TEST_F(MachineSettingsTest, DrawerOnThePrinterWhenUsbIsTrueInAnyCase) {
     };
     for (const auto& c : cases) {
         keep("PrinterPort", "USB", latin(c.kept));
-        EXPECT_EQ(settings_.printerPortUsb(), c.onPrinter) << '"' << c.kept << '"';
+        EXPECT_EQ(m_settings.printerPortUsb(), c.onPrinter) << '"' << c.kept << '"';
     }
-    ASSERT_TRUE(settings_.setPrinterPortUsb(false));
-    EXPECT_FALSE(settings_.printerPortUsb());
-    ASSERT_TRUE(settings_.setPrinterPortUsb(true));
-    EXPECT_TRUE(settings_.printerPortUsb());
+    ASSERT_TRUE(m_settings.setPrinterPortUsb(false));
+    EXPECT_FALSE(m_settings.printerPortUsb());
+    ASSERT_TRUE(m_settings.setPrinterPortUsb(true));
+    EXPECT_TRUE(m_settings.printerPortUsb());
 }
 
 TEST_F(MachineSettingsTest, DisplayPortIsOneUnlessSomethingIsKept) {
@@ -59,21 +59,21 @@ TEST_F(MachineSettingsTest, DisplayPortIsOneUnlessSomethingIsKept) {
         {"ISActivePoolDisplay", "abc", 0}, {"IsActivePoolDisplay", "2.5", 2},
     };
     for (const auto& c : cases) {
-        ASSERT_TRUE(store_.remove(QStringLiteral("ISActivePoolDisplay"), QStringLiteral("Port")));
+        ASSERT_TRUE(m_store.remove(QStringLiteral("ISActivePoolDisplay"), QStringLiteral("Port")));
         keep(c.section, "Port", latin(c.kept));
-        EXPECT_EQ(settings_.displayPort(), c.port) << c.section << " \"" << c.kept << '"';
+        EXPECT_EQ(m_settings.displayPort(), c.port) << c.section << " \"" << c.kept << '"';
     }
 }
 
 TEST_F(MachineSettingsTest, PortNumbersOfTwoCashDesksStayApart) {
     QSettingsStore otherStore(QStringLiteral("Retail"), dir_.filePath(QStringLiteral("desk2.ini")));
     MachineSettings other(otherStore);
-    ASSERT_TRUE(settings_.setNumber(k::PortNo, 1));
-    ASSERT_TRUE(settings_.setNumber(k::DisplayLine, 3));
+    ASSERT_TRUE(m_settings.setNumber(k::PortNo, 1));
+    ASSERT_TRUE(m_settings.setNumber(k::DisplayLine, 3));
     ASSERT_TRUE(other.setNumber(k::PortNo, 4));
     ASSERT_TRUE(other.setNumber(k::DisplayLine, 1));
-    EXPECT_EQ(settings_.portNo(), 1);
-    EXPECT_EQ(settings_.displayLine(), 3);
+    EXPECT_EQ(m_settings.portNo(), 1);
+    EXPECT_EQ(m_settings.displayLine(), 3);
     EXPECT_EQ(other.portNo(), 4);
     EXPECT_EQ(other.displayLine(), 1);
 }
@@ -92,9 +92,9 @@ TEST_F(MachineSettingsTest, ProgramPathsAreTakenFromTheProgramFolder) {
     };
     for (const auto& c : cases) {
         keep("Programs", "Companion", latin(c.kept));
-        EXPECT_EQ(settings_.companionProgramPath(folder), QDir::cleanPath(c.path)) << c.kept;
+        EXPECT_EQ(m_settings.companionProgramPath(folder), QDir::cleanPath(c.path)) << c.kept;
     }
-    EXPECT_EQ(settings_.drawerProgramPath(folder), folder + QStringLiteral("/Program/Tamvex.exe"));
+    EXPECT_EQ(m_settings.drawerProgramPath(folder), folder + QStringLiteral("/Program/Tamvex.exe"));
 }
 
 TEST_F(MachineSettingsTest, ReceiptOutputNamesAnyCase) {
@@ -108,20 +108,20 @@ TEST_F(MachineSettingsTest, ReceiptOutputNamesAnyCase) {
     };
     for (const auto& c : cases) {
         keep("Receipt", "Output", latin(c.kept));
-        EXPECT_EQ(settings_.receiptOutput(), c.output) << c.kept;
+        EXPECT_EQ(m_settings.receiptOutput(), c.output) << c.kept;
     }
     for (ReceiptOutput output :
          {ReceiptOutput::Pdf, ReceiptOutput::EscPos, ReceiptOutput::Printer}) {
-        ASSERT_TRUE(settings_.setReceiptOutput(output));
-        EXPECT_EQ(settings_.receiptOutput(), output);
+        ASSERT_TRUE(m_settings.setReceiptOutput(output));
+        EXPECT_EQ(m_settings.receiptOutput(), output);
     }
 }
 
 TEST_F(MachineSettingsTest, KeysOfAnotherApplicationAreNeitherReadNorWritten) {
     keep("FC", "ShowPrice", QStringLiteral("2"));
-    EXPECT_EQ(settings_.integer(k::TransferShowPrice), 1);
-    EXPECT_FALSE(settings_.write(k::TransferShowPrice, QStringLiteral("2")));
-    EXPECT_FALSE(settings_.reset(k::TransferShowPrice));
+    EXPECT_EQ(m_settings.integer(k::TransferShowPrice), 1);
+    EXPECT_FALSE(m_settings.write(k::TransferShowPrice, QStringLiteral("2")));
+    EXPECT_FALSE(m_settings.reset(k::TransferShowPrice));
 
     QSettingsStore transferStore(QStringLiteral("Factortransfer"),
                                  dir_.filePath(QStringLiteral("Factortransfer.ini")));
@@ -141,9 +141,9 @@ TEST_F(MachineSettingsTest, BranchTransferKeepsShowPriceUnderItsOwnApplication) 
     EXPECT_EQ(transfer.showPrice(), 2);
     EXPECT_EQ(transferStore.read(QStringLiteral("fc"), QStringLiteral("showprice")),
               QStringLiteral("2"));
-    EXPECT_EQ(store_.read(QStringLiteral("FC"), QStringLiteral("ShowPrice")), QString());
+    EXPECT_EQ(m_store.read(QStringLiteral("FC"), QStringLiteral("ShowPrice")), QString());
 
-    BranchTransferSettings onRetail(store_);
+    BranchTransferSettings onRetail(m_store);
     keep("FC", "ShowPrice", QStringLiteral("2"));
     EXPECT_EQ(onRetail.showPrice(), 1);
     EXPECT_FALSE(onRetail.setShowPrice(2));

@@ -125,7 +125,7 @@ TEST(frmSalePaymentTest, RowsMustAddUpBeforeOk) {
     RecordingMessageService messages;
     frmSalePayment dialog(paymentAccounts(), messages);
     dialog.DocSum(95000);
-    dialog.ComapanyName(QStringLiteral("رضا"));
+    dialog.setCustomerName(QStringLiteral("رضا"));
     dialog.FillTextValue();
     dialog.show();
     EXPECT_EQ(dialog.txtAmount->text(), QStringLiteral("95,000"));

@@ -119,9 +119,9 @@ int runDisplay(AdminCall& call, const QStringList& words, const MachineSettings&
     if (kind == 1)
         ports.MSComm1().setSettings(QStringLiteral("2400,n,8,1"));
     CustomerDisplay display(config, ports);
-    SerialLine& line = kind == 3 ? display.MSCommCustomerDisplay() : ports.MSComm1();
+    SerialLine& line = kind == 3 ? display.port() : ports.MSComm1();
     if (kind == 3) {
-        display.SetMSCommCustomerDisplay();
+        display.openPort();
     } else {
         ports.OpenPort();
     }
@@ -149,7 +149,7 @@ int runDrawer(AdminCall& call, const QStringList& words, const MachineSettings& 
     KeptMessages messages;
     CashDrawer drawer(DeviceConfigs::drawer(settings, call.programDir), printer, launcher,
                       messages);
-    drawer.mnuOpenCash_Click();
+    drawer.open();
     if (!messages.texts.isEmpty()) {
         call.err << "sandogh-admin device: " << messages.texts.join(QLatin1Char('\n')) << '\n';
         return ExitFailed;
@@ -249,7 +249,7 @@ int runPorts(AdminCall& call, const QStringList& words, const MachineSettings& s
     const Row rows[] = {
         {"MSComm1", SerialPortConfig::MSComm1(), settings.portNo(), settings.mscomm1Device()},
         {"MSComm2", SerialPortConfig::MSComm2(), settings.portNo2(), settings.mscomm2Device()},
-        {"MSCommCustomerDisplay", SerialPortConfig::MSCommCustomerDisplay(), settings.displayPort(),
+        {"MSCommCustomerDisplay", SerialPortConfig::port(), settings.displayPort(),
          settings.customerDisplayDevice()},
         {"MSCommPec", SerialPortConfig::MSCommPec(), settings.pecPort(), settings.pecDevice()},
     };

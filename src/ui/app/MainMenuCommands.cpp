@@ -186,7 +186,7 @@ QList<MainMenuCommand> MainMenuCommands::all() {
          Permission::Sale,
          child(QStringLiteral("frmSaleInter"), [](AppContext& c) { return new frmSaleInter(c); })},
         {QStringLiteral("mnuOpenCash"), QStringLiteral("باز کردن کشوی پول"), MainMenu::Sales,
-         Permission::OpenDrawer, [](frmMain& main) { main.mnuOpenCash_Click(); },
+         Permission::OpenDrawer, [](frmMain& main) { main.openCashDrawer(); },
          QKeySequence(Qt::CTRL | Qt::Key_K)},
         {QStringLiteral("mnuShift"), QStringLiteral("شیفت صندوق"), MainMenu::Sales,
          Permission::Shift,

@@ -24,8 +24,8 @@ constexpr double kMaxScreenShare = 0.8;
 
 frmLogo::frmLogo(const QString& programFolder, MessageService& messages, QWidget* parent)
     : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
-    , messages_(messages)
-    , image_(imagePath(programFolder)) {
+    , m_messages(messages)
+    , m_image(imagePath(programFolder)) {
     setObjectName(QStringLiteral("frmLogo"));
     setAttribute(Qt::WA_TranslucentBackground);
     setWindowTitle(productName());
@@ -56,7 +56,7 @@ QString frmLogo::productName() {
 }
 
 void frmLogo::placeOnScreen() {
-    QSize size = hasImage() ? image_.size() : kPanelSize;
+    QSize size = hasImage() ? m_image.size() : kPanelSize;
     QRect area(QPoint(0, 0), size);
     if (const QScreen* screen = QGuiApplication::primaryScreen()) {
         area = screen->availableGeometry();
@@ -77,8 +77,8 @@ void frmLogo::placeOnScreen() {
 }
 
 void frmLogo::start() {
-    if (step_ && !step_()) {
-        messages_.show(missingConnectionFileMessage(), MessageStyle::Information);
+    if (m_step && !m_step()) {
+        m_messages.show(missingConnectionFileMessage(), MessageStyle::Information);
         emit failed();
         return;
     }
@@ -102,7 +102,7 @@ void frmLogo::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (hasImage()) {
-        painter.drawPixmap(rect(), image_);
+        painter.drawPixmap(rect(), m_image);
         return;
     }
 

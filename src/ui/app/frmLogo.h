@@ -40,8 +40,8 @@ public:
     static QString productName();
 
     // Run by start(); none means nothing to do.
-    void setStartupStep(StartupStep step) { step_ = std::move(step); }
-    bool hasImage() const { return !image_.isNull(); }
+    void setStartupStep(StartupStep step) { m_step = std::move(step); }
+    bool hasImage() const { return !m_image.isNull(); }
 
     // Runs the step, then shows the splash and starts the timer.
     void start();
@@ -58,9 +58,9 @@ private:
     void onPauseOver();
     void placeOnScreen();
 
-    MessageService& messages_;
-    StartupStep step_;
-    QPixmap image_;
+    MessageService& m_messages;
+    StartupStep m_step;
+    QPixmap m_image;
     QTimer tmrLogo;
     QTimer tmrPause;
 };

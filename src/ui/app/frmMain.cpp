@@ -67,7 +67,7 @@ frmMain::frmMain(AppContext& context, QWidget* parent) : QMainWindow(parent), m_
     cmdCashDraw->setToolTip(QStringLiteral("باز کردن کشوی پول"));
     cmdCashDraw->setFocusPolicy(Qt::NoFocus);
     cmdCashDraw->setStyleSheet(QStringLiteral("QPushButton { padding: 1px 14px; }"));
-    connect(cmdCashDraw, &QPushButton::clicked, this, &frmMain::mnuOpenCash_Click);
+    connect(cmdCashDraw, &QPushButton::clicked, this, &frmMain::openCashDrawer);
 
     buildMenus();
 
@@ -193,10 +193,10 @@ bool frmMain::switchUser() {
     return true;
 }
 
-void frmMain::mnuOpenCash_Click() {
+void frmMain::openCashDrawer() {
     CashDrawer drawer(DeviceConfigs::drawer(m_context.machineSettings(), m_context.programFolder()),
                       m_context.rawPrinter(), m_context.launcher(), m_context.messages());
-    drawer.mnuOpenCash_Click();
+    drawer.open();
 }
 
 void frmMain::mnuScale_Click() {

@@ -42,7 +42,7 @@ public:
     void applyPermissions(const Permissions& permissions);
 
     // The single entry through which every screen opens the cash drawer.
-    void mnuOpenCash_Click();
+    void openCashDrawer();
     // Starts the scale vendor's program.
     void mnuScale_Click();
     // Opens the child window called name, made by create, or brings it forward when it is

@@ -6,29 +6,29 @@
 namespace sandogh {
 
 GoodsListModel::GoodsListModel(Database& database, QObject* parent)
-    : QAbstractTableModel(parent), database_(database) {
+    : QAbstractTableModel(parent), m_database(database) {
     search(GoodsListQuery::SearchColumn::None, {});
 }
 
 void GoodsListModel::search(GoodsListQuery::SearchColumn column, const QString& text) {
-    column_ = column;
-    text_ = text;
+    m_column = column;
+    m_text = text;
     refresh();
 }
 
 void GoodsListModel::refresh() {
     beginResetModel();
-    query_ = std::make_unique<GoodsListQuery>(database_, column_, text_);
-    rows_.clear();
-    next_ = {};
-    atEnd_ = false;
-    pages_ = 0;
+    m_query = std::make_unique<GoodsListQuery>(m_database, m_column, m_text);
+    m_rows.clear();
+    m_next = {};
+    m_atEnd = false;
+    m_pages = 0;
     endResetModel();
     fetchMore({});
 }
 
 int GoodsListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(rows_.size());
+    return parent.isValid() ? 0 : int(m_rows.size());
 }
 
 int GoodsListModel::columnCount(const QModelIndex& parent) const {
@@ -36,10 +36,10 @@ int GoodsListModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant GoodsListModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid() || index.row() >= rows_.size()) {
+    if (!index.isValid() || index.row() >= m_rows.size()) {
         return {};
     }
-    const GoodsListQuery::Row& r = rows_.at(index.row());
+    const GoodsListQuery::Row& r = m_rows.at(index.row());
     if (role == Qt::CheckStateRole && index.column() == Active) {
         return r.active ? Qt::Checked : Qt::Unchecked;
     }
@@ -96,33 +96,33 @@ QVariant GoodsListModel::headerData(int section, Qt::Orientation orientation, in
 }
 
 bool GoodsListModel::canFetchMore(const QModelIndex& parent) const {
-    return !parent.isValid() && !atEnd_;
+    return !parent.isValid() && !m_atEnd;
 }
 
 void GoodsListModel::fetchMore(const QModelIndex& parent) {
-    if (parent.isValid() || atEnd_ || !query_) {
+    if (parent.isValid() || m_atEnd || !m_query) {
         return;
     }
-    const GoodsListQuery::Page page = query_->fetch(next_, kPageRows);
+    const GoodsListQuery::Page page = m_query->fetch(m_next, kPageRows);
     if (!page.ok) {
-        atEnd_ = true;  // reported already; scrolling does not ask again
+        m_atEnd = true;  // reported already; scrolling does not ask again
         return;
     }
-    ++pages_;
-    atEnd_ = page.atEnd;
-    next_ = page.next;
+    ++m_pages;
+    m_atEnd = page.atEnd;
+    m_next = page.next;
     if (page.rows.isEmpty()) {
         return;
     }
-    const int first = int(rows_.size());
+    const int first = int(m_rows.size());
     beginInsertRows({}, first, first + int(page.rows.size()) - 1);
-    rows_ << page.rows;
+    m_rows << page.rows;
     endInsertRows();
 }
 
 int GoodsListModel::rowOf(const QString& barcode) const {
-    for (qsizetype i = 0; i < rows_.size(); ++i) {
-        if (rows_.at(i).barcode == barcode) {
+    for (qsizetype i = 0; i < m_rows.size(); ++i) {
+        if (m_rows.at(i).barcode == barcode) {
             return int(i);
         }
     }

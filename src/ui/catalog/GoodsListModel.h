@@ -38,21 +38,21 @@ public:
     bool canFetchMore(const QModelIndex& parent) const override;
     void fetchMore(const QModelIndex& parent) override;
 
-    const GoodsListQuery::Row& row(int index) const { return rows_.at(index); }
+    const GoodsListQuery::Row& row(int index) const { return m_rows.at(index); }
     // The row of a barcode among those read so far; -1 when not read (yet).
     int rowOf(const QString& barcode) const;
     // Pages read since the last search.
-    int pagesRead() const { return pages_; }
+    int pagesRead() const { return m_pages; }
 
 private:
-    Database& database_;
-    std::unique_ptr<GoodsListQuery> query_;
-    GoodsListQuery::SearchColumn column_ = GoodsListQuery::SearchColumn::None;
-    QString text_;
-    QList<GoodsListQuery::Row> rows_;
-    GoodsListQuery::Position next_;
-    bool atEnd_ = true;
-    int pages_ = 0;
+    Database& m_database;
+    std::unique_ptr<GoodsListQuery> m_query;
+    GoodsListQuery::SearchColumn m_column = GoodsListQuery::SearchColumn::None;
+    QString m_text;
+    QList<GoodsListQuery::Row> m_rows;
+    GoodsListQuery::Position m_next;
+    bool m_atEnd = true;
+    int m_pages = 0;
 };
 
 }  // namespace sandogh

@@ -6,13 +6,13 @@
 namespace sandogh {
 
 ScaleHookOwner::ScaleHookOwner(const ScaleExportConfig& config, MessageService& messages)
-    : exporter_(std::make_unique<ScaleExporter>(config, messages))
-    , hook_(std::make_unique<ScaleGoodsHook>(*exporter_)) {}
+    : m_exporter(std::make_unique<ScaleExporter>(config, messages))
+    , m_hook(std::make_unique<ScaleGoodsHook>(*m_exporter)) {}
 
 ScaleHookOwner::~ScaleHookOwner() = default;
 
 GoodsSavedHook* ScaleHookOwner::hook() const {
-    return hook_.get();
+    return m_hook.get();
 }
 
 }  // namespace sandogh

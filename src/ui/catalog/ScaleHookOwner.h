@@ -23,8 +23,8 @@ public:
     GoodsSavedHook* hook() const;
 
 private:
-    std::unique_ptr<ScaleExporter> exporter_;
-    std::unique_ptr<ScaleGoodsHook> hook_;
+    std::unique_ptr<ScaleExporter> m_exporter;
+    std::unique_ptr<ScaleGoodsHook> m_hook;
 };
 
 }  // namespace sandogh

@@ -21,10 +21,10 @@ namespace sandogh {
 frmCodeParameters::frmCodeParameters(Database& database, MessageService& messages,
                                      CodeLevelsRepository::Family family, QWidget* parent)
     : QWidget(parent)
-    , database_(database)
-    , messages_(messages)
-    , family_(family)
-    , repository_(database)
+    , m_database(database)
+    , m_messages(messages)
+    , m_family(family)
+    , m_repository(database)
     , txtSearch(new QLineEdit(this))
     , cboSearchColumn(new QComboBox(this))
     , grdLevels(new QTableView(this))
@@ -47,7 +47,7 @@ frmCodeParameters::frmCodeParameters(Database& database, MessageService& message
     cmdValues->setObjectName(QStringLiteral("cmdValues"));
     cmdExit->setObjectName(QStringLiteral("cmdExit"));
     cboSearchColumn->addItems({kLevelName, kLevelNameEnglish});
-    model_ = GridSetup::configure(
+    m_model = GridSetup::configure(
         grdLevels, {kLevelTypeNo, kLevelName, kLevelNameEnglish, kDigitQty, kParameterLevel});
 
     auto* search = new QHBoxLayout;
@@ -97,15 +97,16 @@ void frmCodeParameters::reload() {
     const auto column = cboSearchColumn->currentIndex() == 1
                             ? CodeLevelsRepository::SearchColumn::NameEnglish
                             : CodeLevelsRepository::SearchColumn::Name;
-    levels_ = text.isEmpty() ? repository_.list(family_) : repository_.list(family_, column, text);
-    model_->removeRows(0, model_->rowCount());
-    for (const auto& level : levels_) {
+    m_levels =
+        text.isEmpty() ? m_repository.list(m_family) : m_repository.list(m_family, column, text);
+    m_model->removeRows(0, m_model->rowCount());
+    for (const auto& level : m_levels) {
         QList<QStandardItem*> row{new QStandardItem(QString::number(level.typeNo)),
                                   new QStandardItem(level.name),
                                   new QStandardItem(level.nameEnglish),
                                   new QStandardItem(QString::number(level.digitQty)),
                                   new QStandardItem(QString::number(level.parameterLevel))};
-        model_->appendRow(row);
+        m_model->appendRow(row);
     }
     if (keep == 0 || !selectTypeNo(keep)) {
         GridSetup::selectRow(grdLevels, 0);
@@ -114,12 +115,12 @@ void frmCodeParameters::reload() {
 
 CodeLevelsRepository::Level frmCodeParameters::currentLevel() const {
     const int row = GridSetup::selectedRow(grdLevels);
-    return row >= 0 && row < levels_.size() ? levels_.at(row) : CodeLevelsRepository::Level{};
+    return row >= 0 && row < m_levels.size() ? m_levels.at(row) : CodeLevelsRepository::Level{};
 }
 
 bool frmCodeParameters::selectTypeNo(int typeNo) {
-    for (qsizetype i = 0; i < levels_.size(); ++i) {
-        if (levels_.at(i).typeNo == typeNo) {
+    for (qsizetype i = 0; i < m_levels.size(); ++i) {
+        if (m_levels.at(i).typeNo == typeNo) {
             GridSetup::selectRow(grdLevels, int(i));
             return true;
         }
@@ -129,12 +130,12 @@ bool frmCodeParameters::selectTypeNo(int typeNo) {
 
 frmNewCodePara* frmCodeParameters::openEditor(int counter) {
     CodeLevelsRepository::Level level;
-    for (const auto& l : levels_) {
+    for (const auto& l : m_levels) {
         if (l.counter == counter) {
             level = l;
         }
     }
-    auto* editor = new frmNewCodePara(database_, messages_, family_, level, this);
+    auto* editor = new frmNewCodePara(m_database, m_messages, m_family, level, this);
     editor->setAttribute(Qt::WA_DeleteOnClose);
     connect(editor, &frmNewCodePara::saved, this, [this](int typeNo) {
         reload();
@@ -149,7 +150,7 @@ frmParameters* frmCodeParameters::openValues() {
     if (level.typeNo <= 0) {
         return nullptr;
     }
-    auto* values = new frmParameters(database_, messages_, level.typeNo, this);
+    auto* values = new frmParameters(m_database, m_messages, level.typeNo, this);
     values->setWindowFlag(Qt::Window);
     values->setAttribute(Qt::WA_DeleteOnClose);
     values->show();
@@ -161,15 +162,15 @@ void frmCodeParameters::deleteCurrent() {
     if (level.counter <= 0) {
         return;
     }
-    const CheckResult allowed = repository_.canDelete(level.typeNo);
+    const CheckResult allowed = m_repository.canDelete(level.typeNo);
     if (!allowed.ok) {
-        ResultMessage::show(messages_, allowed);
+        ResultMessage::show(m_messages, allowed);
         return;
     }
-    if (!messages_.show(allowed.message, MessageStyle::QuestionOkCancel)) {
+    if (!m_messages.show(allowed.message, MessageStyle::QuestionOkCancel)) {
         return;
     }
-    if (repository_.remove(level.counter)) {
+    if (m_repository.remove(level.counter)) {
         reload();
     }
 }

@@ -29,9 +29,9 @@ public:
     frmCodeParameters(Database& database, MessageService& messages,
                       CodeLevelsRepository::Family family, QWidget* parent = nullptr);
 
-    CodeLevelsRepository::Family family() const { return family_; }
+    CodeLevelsRepository::Family family() const { return m_family; }
     void reload();
-    const QList<CodeLevelsRepository::Level>& levels() const { return levels_; }
+    const QList<CodeLevelsRepository::Level>& levels() const { return m_levels; }
     // The level under the cursor; counter 0 without one.
     CodeLevelsRepository::Level currentLevel() const;
     bool selectTypeNo(int typeNo);
@@ -44,16 +44,16 @@ public:
     void deleteCurrent();
 
 private:
-    Database& database_;
-    MessageService& messages_;
-    CodeLevelsRepository::Family family_;
-    CodeLevelsRepository repository_;
-    QList<CodeLevelsRepository::Level> levels_;
+    Database& m_database;
+    MessageService& m_messages;
+    CodeLevelsRepository::Family m_family;
+    CodeLevelsRepository m_repository;
+    QList<CodeLevelsRepository::Level> m_levels;
 
     QLineEdit* txtSearch;
     QComboBox* cboSearchColumn;
     QTableView* grdLevels;
-    QStandardItemModel* model_;
+    QStandardItemModel* m_model;
     QPushButton* cmdNew;
     QPushButton* cmdEdit;
     QPushButton* cmdDelete;

@@ -50,9 +50,9 @@ T* named(T* widget, const char* name) {
 frmGood::frmGood(Database& database, MessageService& messages, const Clock& clock, int userId,
                  GoodsSavedHook* hook, const QString& barcode, QWidget* parent)
     : QWidget(parent)
-    , database_(database)
-    , messages_(messages)
-    , repository_(database, clock, userId, hook)
+    , m_database(database)
+    , m_messages(messages)
+    , m_repository(database, clock, userId, hook)
     , txtBarcode(named(new QLineEdit(this), "txtBarcode"))
     , txtName(named(new QLineEdit(this), "txtName"))
     , txtEnName(named(new QLineEdit(this), "txtEnName"))
@@ -159,13 +159,13 @@ QGroupBox* frmGood::buildLevels() {
     auto* box = new QGroupBox(kLevels, this);
     auto* grid = new QGridLayout(box);
     int row = 0;
-    CodeLevelsRepository levels(database_);
+    CodeLevelsRepository levels(m_database);
     for (const auto& level : levels.list(CodeLevelsRepository::Family::Goods)) {
         const int n = level.typeNo - kFirstLevel + 1;
         if (n < 1 || n > GoodsArticle::kLevels) {
             continue;
         }
-        LevelRow& r = levelRows_[slot(n)];
+        LevelRow& r = m_levelRows[slot(n)];
         r.digits = level.digitQty;
         r.label =
             new QLabel(level.name.isEmpty() ? QString::number(level.typeNo) : level.name, box);
@@ -202,7 +202,7 @@ QGroupBox* frmGood::buildLevels() {
 void frmGood::fillUnits() {
     cboUnit->clear();
     cboUnit->addItem(QString(), 0);
-    TypesRepository types(database_, &messages_);
+    TypesRepository types(m_database, &m_messages);
     for (const auto& unit : types.units()) {
         cboUnit->addItem(unit.name, unit.counter);
     }
@@ -210,7 +210,7 @@ void frmGood::fillUnits() {
 
 void frmGood::startNew() {
     GoodsArticle fresh;
-    fresh.barcode = repository_.proposedBarcode();
+    fresh.barcode = m_repository.proposedBarcode();
     display(fresh);
     txtBarcode->setReadOnly(false);
     txtBarcode->setFocus();
@@ -218,9 +218,9 @@ void frmGood::startNew() {
 }
 
 bool frmGood::load(const QString& barcode) {
-    const std::optional<GoodsArticle> found = repository_.find(barcode);
+    const std::optional<GoodsArticle> found = m_repository.find(barcode);
     if (!found) {
-        messages_.show(goodsmessages::kArticleNotFound, MessageStyle::Critical);
+        m_messages.show(goodsmessages::kArticleNotFound, MessageStyle::Critical);
         return false;
     }
     display(*found);
@@ -231,7 +231,7 @@ bool frmGood::load(const QString& barcode) {
 }
 
 void frmGood::display(const GoodsArticle& a) {
-    article_ = a;
+    m_article = a;
     txtBarcode->setText(a.barcode);
     txtName->setText(a.name);
     txtEnName->setText(a.enName);
@@ -250,7 +250,7 @@ void frmGood::display(const GoodsArticle& a) {
     txtStockNo1->setText(a.stockNo1);
     txtStockNo2->setText(a.stockNo2);
     chkActive->setChecked(a.active);
-    levels_ = a.levels;
+    m_levels = a.levels;
     showLevels();
     if (!a.complexCode.isEmpty()) {
         txtComplexCode->setText(a.complexCode);
@@ -259,17 +259,17 @@ void frmGood::display(const GoodsArticle& a) {
 }
 
 void frmGood::showLevels() {
-    const auto values = repository_.levelValues(levels_);
+    const auto values = m_repository.levelValues(m_levels);
     for (int n = 1; n <= GoodsArticle::kLevels; ++n) {
-        if (LevelRow& r = levelRows_[slot(n)]; r.text != nullptr) {
+        if (LevelRow& r = m_levelRows[slot(n)]; r.text != nullptr) {
             r.text->setText(levelText(values[slot(n)]));
         }
     }
-    txtComplexCode->setText(repository_.composeComplexCode(levels_));
+    txtComplexCode->setText(m_repository.composeComplexCode(m_levels));
 }
 
 GoodsArticle frmGood::article() const {
-    GoodsArticle a = article_;  // keeps the columns the screen does not show
+    GoodsArticle a = m_article;  // keeps the columns the screen does not show
     a.barcode = txtBarcode->text();
     a.name = txtName->text();
     a.enName = txtEnName->text();
@@ -283,7 +283,7 @@ GoodsArticle frmGood::article() const {
     a.favourite = chkFavorite->isChecked();
     a.favoriteTab = spnFavoriteTab->value();
     a.askQuantity = chkAQIS->isChecked();
-    a.levels = levels_;
+    a.levels = m_levels;
     a.complexCode = txtComplexCode->text();
     a.stockNo1 = txtStockNo1->text();
     a.stockNo2 = txtStockNo2->text();
@@ -292,18 +292,18 @@ GoodsArticle frmGood::article() const {
 }
 
 bool frmGood::hasLevel(int level) const {
-    return level >= 1 && level <= GoodsArticle::kLevels && levelRows_[slot(level)].text != nullptr;
+    return level >= 1 && level <= GoodsArticle::kLevels && m_levelRows[slot(level)].text != nullptr;
 }
 
 frmParametersList* frmGood::openLevelPicker(int level) {
     if (!hasLevel(level)) {
         return nullptr;
     }
-    const int parent = level > 1 ? levels_[slot(level - 1)] : 0;
+    const int parent = level > 1 ? m_levels[slot(level - 1)] : 0;
     auto* picker =
-        new frmParametersList(database_, messages_, kFirstLevel + level - 1, parent, this);
+        new frmParametersList(m_database, m_messages, kFirstLevel + level - 1, parent, this);
     picker->setAttribute(Qt::WA_DeleteOnClose);
-    picker->selectCounter(levels_[slot(level)]);
+    picker->selectCounter(m_levels[slot(level)]);
     connect(
         picker, &frmParametersList::chosen, this,
         [this, level](const TypesRepository::Value& value) { chooseLevel(level, value.counter); });
@@ -315,14 +315,14 @@ void frmGood::chooseLevel(int level, int counter) {
     if (level < 1 || level > GoodsArticle::kLevels) {
         return;
     }
-    levels_[slot(level)] = counter;
+    m_levels[slot(level)] = counter;
     showLevels();
 }
 
 bool frmGood::save() {
     GoodsArticle a = article();
-    const CheckResult result = repository_.save(a);
-    ResultMessage::show(messages_, result);
+    const CheckResult result = m_repository.save(a);
+    ResultMessage::show(m_messages, result);
     if (!result.ok) {
         return false;
     }
@@ -336,25 +336,25 @@ void frmGood::deleteArticle() {
     if (!isEditing()) {
         return;
     }
-    const QString barcode = article_.barcode;
-    const CheckResult allowed = repository_.canDelete(barcode);
+    const QString barcode = m_article.barcode;
+    const CheckResult allowed = m_repository.canDelete(barcode);
     if (!allowed.ok) {
-        ResultMessage::show(messages_, allowed);
-        if (article_.active &&
-            messages_.show(goodsmessages::kDeactivateQuestion, MessageStyle::QuestionYesNo) &&
-            repository_.setActive(barcode, false)) {
-            article_.active = false;
+        ResultMessage::show(m_messages, allowed);
+        if (m_article.active &&
+            m_messages.show(goodsmessages::kDeactivateQuestion, MessageStyle::QuestionYesNo) &&
+            m_repository.setActive(barcode, false)) {
+            m_article.active = false;
             chkActive->setChecked(false);
             emit saved(barcode);
         }
         return;
     }
-    if (!messages_.show(allowed.message, MessageStyle::QuestionOkCancel)) {
+    if (!m_messages.show(allowed.message, MessageStyle::QuestionOkCancel)) {
         return;
     }
-    const CheckResult removed = repository_.remove(barcode);
+    const CheckResult removed = m_repository.remove(barcode);
     if (!removed.ok) {
-        ResultMessage::show(messages_, removed);
+        ResultMessage::show(m_messages, removed);
         return;
     }
     emit deleted(barcode);

@@ -46,7 +46,7 @@ public:
     bool load(const QString& barcode);
     // Empties the screen for a new article and proposes its barcode.
     void startNew();
-    bool isEditing() const { return !article_.isNew(); }
+    bool isEditing() const { return !m_article.isNew(); }
 
     // The article as the screen shows it now.
     GoodsArticle article() const;
@@ -83,12 +83,12 @@ private:
     void display(const GoodsArticle& article);
     void showLevels();
 
-    Database& database_;
-    MessageService& messages_;
-    GoodsRepository repository_;
-    GoodsArticle article_;
-    std::array<int, GoodsArticle::kLevels> levels_{};
-    std::array<LevelRow, GoodsArticle::kLevels> levelRows_{};
+    Database& m_database;
+    MessageService& m_messages;
+    GoodsRepository m_repository;
+    GoodsArticle m_article;
+    std::array<int, GoodsArticle::kLevels> m_levels{};
+    std::array<LevelRow, GoodsArticle::kLevels> m_levelRows{};
 
     QLineEdit* txtBarcode;
     QLineEdit* txtName;

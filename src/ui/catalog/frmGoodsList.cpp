@@ -31,13 +31,13 @@ constexpr Column kSearchColumns[] = {Column::Barcode, Column::SpecCode, Column::
 frmGoodsList::frmGoodsList(Database& database, MessageService& messages, const Clock& clock,
                            int userId, GoodsSavedHook* hook, QWidget* parent)
     : QWidget(parent)
-    , database_(database)
-    , messages_(messages)
-    , clock_(clock)
-    , userId_(userId)
-    , hook_(hook)
-    , repository_(database, clock, userId, hook)
-    , model_(new GoodsListModel(database, this))
+    , m_database(database)
+    , m_messages(messages)
+    , m_clock(clock)
+    , m_userId(userId)
+    , m_hook(hook)
+    , m_repository(database, clock, userId, hook)
+    , m_model(new GoodsListModel(database, this))
     , txtSearch(new QLineEdit(this))
     , cboSearchColumn(new QComboBox(this))
     , grdGoods(new QTableView(this))
@@ -61,7 +61,7 @@ frmGoodsList::frmGoodsList(Database& database, MessageService& messages, const C
     cboSearchColumn->addItems({kBarcode, kSpecCode, kGoodsName});
     cboSearchColumn->setCurrentIndex(2);
 
-    grdGoods->setModel(model_);
+    grdGoods->setModel(m_model);
     grdGoods->setSelectionBehavior(QAbstractItemView::SelectRows);
     grdGoods->setSelectionMode(QAbstractItemView::SingleSelection);
     grdGoods->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -120,12 +120,12 @@ void frmGoodsList::runSearch() {
     const int index = cboSearchColumn->currentIndex();
     const Column column =
         index >= 0 && index < int(std::size(kSearchColumns)) ? kSearchColumns[index] : Column::Name;
-    model_->search(column, txtSearch->text());
+    m_model->search(column, txtSearch->text());
     GridSetup::selectRow(grdGoods, 0);
 }
 
 void frmGoodsList::refreshKeeping(const QString& barcode) {
-    model_->refresh();
+    m_model->refresh();
     if (barcode.isEmpty() || !selectBarcode(barcode)) {
         GridSetup::selectRow(grdGoods, 0);
     }
@@ -133,11 +133,11 @@ void frmGoodsList::refreshKeeping(const QString& barcode) {
 
 QString frmGoodsList::currentBarcode() const {
     const int row = GridSetup::selectedRow(grdGoods);
-    return row >= 0 && row < model_->rowCount() ? model_->row(row).barcode : QString();
+    return row >= 0 && row < m_model->rowCount() ? m_model->row(row).barcode : QString();
 }
 
 bool frmGoodsList::selectBarcode(const QString& barcode) {
-    const int row = model_->rowOf(barcode);
+    const int row = m_model->rowOf(barcode);
     if (row < 0) {
         return false;
     }
@@ -146,7 +146,7 @@ bool frmGoodsList::selectBarcode(const QString& barcode) {
 }
 
 frmGood* frmGoodsList::openArticle(const QString& barcode) {
-    auto* screen = new frmGood(database_, messages_, clock_, userId_, hook_, barcode, this);
+    auto* screen = new frmGood(m_database, m_messages, m_clock, m_userId, m_hook, barcode, this);
     screen->setWindowFlag(Qt::Window);
     screen->setAttribute(Qt::WA_DeleteOnClose);
     connect(screen, &frmGood::saved, this, &frmGoodsList::refreshKeeping);
@@ -158,10 +158,10 @@ frmGood* frmGoodsList::openArticle(const QString& barcode) {
 void frmGoodsList::deactivateCurrent() {
     const QString barcode = currentBarcode();
     if (barcode.isEmpty() ||
-        !messages_.show(goodsmessages::kDeactivateConfirm, MessageStyle::QuestionYesNo)) {
+        !m_messages.show(goodsmessages::kDeactivateConfirm, MessageStyle::QuestionYesNo)) {
         return;
     }
-    if (repository_.setActive(barcode, false)) {
+    if (m_repository.setActive(barcode, false)) {
         refreshKeeping(barcode);
     }
 }
@@ -171,20 +171,20 @@ void frmGoodsList::deleteCurrent() {
     if (barcode.isEmpty()) {
         return;
     }
-    const CheckResult allowed = repository_.canDelete(barcode);
+    const CheckResult allowed = m_repository.canDelete(barcode);
     if (!allowed.ok) {
-        ResultMessage::show(messages_, allowed);
-        if (messages_.show(goodsmessages::kDeactivateQuestion, MessageStyle::QuestionYesNo) &&
-            repository_.setActive(barcode, false)) {
+        ResultMessage::show(m_messages, allowed);
+        if (m_messages.show(goodsmessages::kDeactivateQuestion, MessageStyle::QuestionYesNo) &&
+            m_repository.setActive(barcode, false)) {
             refreshKeeping(barcode);
         }
         return;
     }
-    if (!messages_.show(allowed.message, MessageStyle::QuestionOkCancel)) {
+    if (!m_messages.show(allowed.message, MessageStyle::QuestionOkCancel)) {
         return;
     }
-    const CheckResult removed = repository_.remove(barcode);
-    ResultMessage::show(messages_, removed);
+    const CheckResult removed = m_repository.remove(barcode);
+    ResultMessage::show(m_messages, removed);
     if (removed.ok) {
         refreshKeeping({});
     }

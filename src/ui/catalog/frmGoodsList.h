@@ -30,7 +30,7 @@ public:
     frmGoodsList(Database& database, MessageService& messages, const Clock& clock, int userId,
                  GoodsSavedHook* hook, QWidget* parent = nullptr);
 
-    GoodsListModel* model() const { return model_; }
+    GoodsListModel* model() const { return m_model; }
     // The barcode of the row under the cursor; empty without one.
     QString currentBarcode() const;
     bool selectBarcode(const QString& barcode);
@@ -47,13 +47,13 @@ private:
     void runSearch();
     void refreshKeeping(const QString& barcode);
 
-    Database& database_;
-    MessageService& messages_;
-    const Clock& clock_;
-    int userId_;
-    GoodsSavedHook* hook_;
-    GoodsRepository repository_;
-    GoodsListModel* model_;
+    Database& m_database;
+    MessageService& m_messages;
+    const Clock& m_clock;
+    int m_userId;
+    GoodsSavedHook* m_hook;
+    GoodsRepository m_repository;
+    GoodsListModel* m_model;
 
     QLineEdit* txtSearch;
     QComboBox* cboSearchColumn;

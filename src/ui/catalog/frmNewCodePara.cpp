@@ -25,10 +25,10 @@ frmNewCodePara::frmNewCodePara(Database& database, MessageService& messages,
                                CodeLevelsRepository::Family family,
                                const CodeLevelsRepository::Level& level, QWidget* parent)
     : QDialog(parent)
-    , messages_(messages)
-    , family_(family)
-    , repository_(database)
-    , level_(level)
+    , m_messages(messages)
+    , m_family(family)
+    , m_repository(database)
+    , m_level(level)
     , txtTypeNo(new QLineEdit(this))
     , txtName(new QLineEdit(this))
     , txtNameEnglish(new QLineEdit(this))
@@ -54,15 +54,15 @@ frmNewCodePara::frmNewCodePara(Database& database, MessageService& messages,
     spnParameterLevel->setRange(1, kMostLevels);
     cmdSave->setDefault(true);
 
-    if (level_.counter == 0) {
-        level_.typeNo = repository_.nextTypeNo(family);
-        level_.parameterLevel = repository_.nextParameterLevel(family);
+    if (m_level.counter == 0) {
+        m_level.typeNo = m_repository.nextTypeNo(family);
+        m_level.parameterLevel = m_repository.nextParameterLevel(family);
     }
-    txtTypeNo->setText(QString::number(level_.typeNo));
-    txtName->setText(level_.name);
-    txtNameEnglish->setText(level_.nameEnglish);
-    spnDigitQty->setValue(level_.digitQty);
-    spnParameterLevel->setValue(qMax(1, level_.parameterLevel));
+    txtTypeNo->setText(QString::number(m_level.typeNo));
+    txtName->setText(m_level.name);
+    txtNameEnglish->setText(m_level.nameEnglish);
+    spnDigitQty->setValue(m_level.digitQty);
+    spnParameterLevel->setValue(qMax(1, m_level.parameterLevel));
 
     auto* form = new QFormLayout;
     form->addRow(kLevelTypeNo, txtTypeNo);
@@ -85,7 +85,7 @@ frmNewCodePara::frmNewCodePara(Database& database, MessageService& messages,
 }
 
 bool frmNewCodePara::save() {
-    CodeLevelsRepository::Level level = level_;
+    CodeLevelsRepository::Level level = m_level;
     level.name = txtName->text();
     level.nameEnglish = txtNameEnglish->text();
     level.digitQty = spnDigitQty->value();
@@ -95,14 +95,14 @@ bool frmNewCodePara::save() {
         // two seats adding one at a time get two numbers.
         level.typeNo = 0;
     }
-    const CheckResult result = repository_.save(level, family_);
-    ResultMessage::show(messages_, result);
+    const CheckResult result = m_repository.save(level, m_family);
+    ResultMessage::show(m_messages, result);
     if (!result.ok) {
         return false;
     }
-    level_ = level;
-    txtTypeNo->setText(QString::number(level_.typeNo));
-    emit saved(level_.typeNo);
+    m_level = level;
+    txtTypeNo->setText(QString::number(m_level.typeNo));
+    emit saved(m_level.typeNo);
     accept();
     return true;
 }

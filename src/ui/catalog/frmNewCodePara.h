@@ -25,7 +25,7 @@ public:
                    CodeLevelsRepository::Family family, const CodeLevelsRepository::Level& level,
                    QWidget* parent = nullptr);
 
-    const CodeLevelsRepository::Level& level() const { return level_; }
+    const CodeLevelsRepository::Level& level() const { return m_level; }
 
     // Checks and writes the level; on success shows the notice, emits saved() and closes.
     bool save();
@@ -34,10 +34,10 @@ signals:
     void saved(int typeNo);
 
 private:
-    MessageService& messages_;
-    CodeLevelsRepository::Family family_;
-    CodeLevelsRepository repository_;
-    CodeLevelsRepository::Level level_;
+    MessageService& m_messages;
+    CodeLevelsRepository::Family m_family;
+    CodeLevelsRepository m_repository;
+    CodeLevelsRepository::Level m_level;
 
     QLineEdit* txtTypeNo;
     QLineEdit* txtName;

@@ -26,15 +26,15 @@ int frmNewPara::parentListOf(int typeNo) {
 frmNewPara::frmNewPara(Database& database, MessageService& messages, int typeNo, int counter,
                        QWidget* parent)
     : QDialog(parent)
-    , messages_(messages)
-    , typeNo_(typeNo)
-    , repository_(database, &messages)
+    , m_messages(messages)
+    , m_typeNo(typeNo)
+    , m_repository(database, &messages)
     , txtName(new QLineEdit(this))
     , txtNameEng(new QLineEdit(this))
     , txtCode(new QLineEdit(this))
     , txtNote(new QLineEdit(this))
     , grpParents(new QGroupBox(this))
-    , parentBoxes_(nullptr)
+    , m_parentBoxes(nullptr)
     , cmdSave(new QPushButton(catalogcaptions::kSave, this))
     , cmdCancel(new QPushButton(ButtonCaptions::cancel(), this)) {
     using namespace catalogcaptions;
@@ -61,8 +61,8 @@ frmNewPara::frmNewPara(Database& database, MessageService& messages, int typeNo,
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     auto* boxes = new QWidget(scroll);
-    parentBoxes_ = new QVBoxLayout(boxes);
-    parentBoxes_->setContentsMargins(4, 4, 4, 4);
+    m_parentBoxes = new QVBoxLayout(boxes);
+    m_parentBoxes->setContentsMargins(4, 4, 4, 4);
     scroll->setWidget(boxes);
     auto* parents = new QVBoxLayout(grpParents);
     parents->addWidget(scroll);
@@ -75,42 +75,42 @@ frmNewPara::frmNewPara(Database& database, MessageService& messages, int typeNo,
     layout->addWidget(grpParents, 1);
     layout->addLayout(buttons);
 
-    value_.typeNo = typeNo;
-    value_.counter = counter;
+    m_value.typeNo = typeNo;
+    m_value.counter = counter;
     if (counter > 0) {
-        for (const TypesRepository::Value& v : repository_.list(typeNo)) {
+        for (const TypesRepository::Value& v : m_repository.list(typeNo)) {
             if (v.counter == counter) {
-                value_ = v;
+                m_value = v;
                 break;
             }
         }
-        txtName->setText(value_.name);
-        txtNameEng->setText(value_.nameEng);
-        txtCode->setText(value_.code);
-        txtNote->setText(value_.note);
+        txtName->setText(m_value.name);
+        txtNameEng->setText(m_value.nameEng);
+        txtCode->setText(m_value.code);
+        txtNote->setText(m_value.note);
     }
 
-    parentTypeNo_ = parentListOf(typeNo);
+    m_parentTypeNo = parentListOf(typeNo);
     QString parentName;
-    if (parentTypeNo_ > 0) {
+    if (m_parentTypeNo > 0) {
         CodeLevelsRepository levels(database);
         bool defined = false;
-        for (const auto& level : levels.list(CodeLevelsRepository::familyOf(parentTypeNo_))) {
-            if (level.typeNo == parentTypeNo_) {
+        for (const auto& level : levels.list(CodeLevelsRepository::familyOf(m_parentTypeNo))) {
+            if (level.typeNo == m_parentTypeNo) {
                 defined = true;
                 parentName = level.name;
             }
         }
         if (!defined) {
-            parentTypeNo_ = 0;
+            m_parentTypeNo = 0;
         }
     }
     grpParents->setTitle(kLevelHeading + parentName);
-    grpParents->setVisible(parentTypeNo_ > 0);
-    if (parentTypeNo_ > 0) {
+    grpParents->setVisible(m_parentTypeNo > 0);
+    if (m_parentTypeNo > 0) {
         loadParents();
     }
-    if (parentTypeNo_ == 0) {
+    if (m_parentTypeNo == 0) {
         resize(420, 200);
     } else {
         resize(420, 440);
@@ -121,24 +121,24 @@ frmNewPara::frmNewPara(Database& database, MessageService& messages, int typeNo,
 }
 
 void frmNewPara::loadParents() {
-    QWidget* holder = parentBoxes_->parentWidget();
-    for (const auto& option : repository_.parentOptions(parentTypeNo_, value_.counter)) {
+    QWidget* holder = m_parentBoxes->parentWidget();
+    for (const auto& option : m_repository.parentOptions(m_parentTypeNo, m_value.counter)) {
         auto* box = new QCheckBox(option.code + QStringLiteral(" - ") + option.name, holder);
         box->setObjectName(QStringLiteral("chkParent%1").arg(option.counter));
         box->setProperty("counter", option.counter);
         box->setChecked(option.linked);
-        parentBoxes_->addWidget(box);
-        chkParents_ << box;
+        m_parentBoxes->addWidget(box);
+        m_chkParents << box;
     }
-    parentBoxes_->addStretch(1);
+    m_parentBoxes->addStretch(1);
 }
 
 QList<int> frmNewPara::tickedParents() const {
     QList<int> parents;
-    if (parentTypeNo_ == 0) {
+    if (m_parentTypeNo == 0) {
         return parents;
     }
-    for (const QCheckBox* box : chkParents_) {
+    for (const QCheckBox* box : m_chkParents) {
         if (box->isChecked()) {
             parents << box->property("counter").toInt();
         }
@@ -147,7 +147,7 @@ QList<int> frmNewPara::tickedParents() const {
 }
 
 bool frmNewPara::setParentTicked(int parentCounter, bool ticked) {
-    for (QCheckBox* box : chkParents_) {
+    for (QCheckBox* box : m_chkParents) {
         if (box->property("counter").toInt() == parentCounter) {
             box->setChecked(ticked);
             return true;
@@ -157,18 +157,18 @@ bool frmNewPara::setParentTicked(int parentCounter, bool ticked) {
 }
 
 bool frmNewPara::save() {
-    TypesRepository::Value value = value_;
+    TypesRepository::Value value = m_value;
     value.name = txtName->text();
     value.nameEng = txtNameEng->text();
     value.code = txtCode->text();
     value.note = txtNote->text();
-    const CheckResult result = repository_.save(value, tickedParents());
+    const CheckResult result = m_repository.save(value, tickedParents());
     if (!result.ok) {
-        ResultMessage::show(messages_, result);
+        ResultMessage::show(m_messages, result);
         return false;
     }
-    value_ = value;
-    emit saved(value_.counter);
+    m_value = value;
+    emit saved(m_value.counter);
     accept();
     return true;
 }

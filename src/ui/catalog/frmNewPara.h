@@ -30,10 +30,10 @@ public:
     frmNewPara(Database& database, MessageService& messages, int typeNo, int counter,
                QWidget* parent = nullptr);
 
-    int typeNo() const { return typeNo_; }
-    int counter() const { return value_.counter; }
+    int typeNo() const { return m_typeNo; }
+    int counter() const { return m_value.counter; }
     // The list whose values are the parents of this list's values; 0 for none.
-    int parentTypeNo() const { return parentTypeNo_; }
+    int parentTypeNo() const { return m_parentTypeNo; }
     // The parents ticked now.
     QList<int> tickedParents() const;
     // Ticks or clears the box of a parent value; false when there is none.
@@ -51,19 +51,19 @@ signals:
 private:
     void loadParents();
 
-    MessageService& messages_;
-    int typeNo_;
-    int parentTypeNo_ = 0;
-    TypesRepository repository_;
-    TypesRepository::Value value_;
+    MessageService& m_messages;
+    int m_typeNo;
+    int m_parentTypeNo = 0;
+    TypesRepository m_repository;
+    TypesRepository::Value m_value;
 
     QLineEdit* txtName;
     QLineEdit* txtNameEng;
     QLineEdit* txtCode;
     QLineEdit* txtNote;
     QGroupBox* grpParents;
-    QVBoxLayout* parentBoxes_;
-    QList<QCheckBox*> chkParents_;
+    QVBoxLayout* m_parentBoxes;
+    QList<QCheckBox*> m_chkParents;
     QPushButton* cmdSave;
     QPushButton* cmdCancel;
 };

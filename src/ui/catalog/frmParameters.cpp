@@ -31,10 +31,10 @@ constexpr Column kSearchColumns[] = {Column::Code, Column::Name, Column::NameEng
 frmParameters::frmParameters(Database& database, MessageService& messages, int typeNo,
                              QWidget* parent)
     : QWidget(parent)
-    , database_(database)
-    , messages_(messages)
-    , typeNo_(typeNo)
-    , repository_(database, &messages)
+    , m_database(database)
+    , m_messages(messages)
+    , m_typeNo(typeNo)
+    , m_repository(database, &messages)
     , txtSearch(new QLineEdit(this))
     , cboSearchColumn(new QComboBox(this))
     , grdList(new QTableView(this))
@@ -56,7 +56,7 @@ frmParameters::frmParameters(Database& database, MessageService& messages, int t
 
     cboSearchColumn->addItems({kCode, kName, kNameEng, kNote});
     cboSearchColumn->setCurrentIndex(1);
-    model_ = GridSetup::configure(grdList, {kCode, kName, kNameEng, kNote});
+    m_model = GridSetup::configure(grdList, {kCode, kName, kNameEng, kNote});
 
     auto* search = new QHBoxLayout;
     search->addWidget(new QLabel(kSearch, this));
@@ -107,8 +107,8 @@ TypesRepository::SearchColumn frmParameters::searchColumn() const {
 void frmParameters::reload() {
     const int keep = currentCounter();
     const QString text = txtSearch->text();
-    values_ = text.isEmpty() ? repository_.list(typeNo_)
-                             : repository_.list(typeNo_, searchColumn(), text);
+    m_values = text.isEmpty() ? m_repository.list(m_typeNo)
+                              : m_repository.list(m_typeNo, searchColumn(), text);
     fill();
     if (keep == 0 || !selectCounter(keep)) {
         GridSetup::selectRow(grdList, 0);
@@ -116,24 +116,24 @@ void frmParameters::reload() {
 }
 
 void frmParameters::fill() {
-    model_->removeRows(0, model_->rowCount());
-    for (const TypesRepository::Value& v : values_) {
+    m_model->removeRows(0, m_model->rowCount());
+    for (const TypesRepository::Value& v : m_values) {
         QList<QStandardItem*> row{new QStandardItem(v.code), new QStandardItem(v.name),
                                   new QStandardItem(v.nameEng), new QStandardItem(v.note)};
         row.first()->setData(v.counter, Qt::UserRole);
-        model_->appendRow(row);
+        m_model->appendRow(row);
     }
     grdList->resizeColumnToContents(0);
 }
 
 int frmParameters::currentCounter() const {
     const int row = GridSetup::selectedRow(grdList);
-    return row >= 0 && row < values_.size() ? values_.at(row).counter : 0;
+    return row >= 0 && row < m_values.size() ? m_values.at(row).counter : 0;
 }
 
 bool frmParameters::selectCounter(int counter) {
-    for (qsizetype i = 0; i < values_.size(); ++i) {
-        if (values_.at(i).counter == counter) {
+    for (qsizetype i = 0; i < m_values.size(); ++i) {
+        if (m_values.at(i).counter == counter) {
             GridSetup::selectRow(grdList, int(i));
             return true;
         }
@@ -142,7 +142,7 @@ bool frmParameters::selectCounter(int counter) {
 }
 
 frmNewPara* frmParameters::openEditor(int counter) {
-    auto* editor = new frmNewPara(database_, messages_, typeNo_, counter, this);
+    auto* editor = new frmNewPara(m_database, m_messages, m_typeNo, counter, this);
     editor->setAttribute(Qt::WA_DeleteOnClose);
     connect(editor, &frmNewPara::saved, this, [this](int savedCounter) {
         reload();
@@ -157,15 +157,15 @@ void frmParameters::deleteCurrent() {
     if (counter <= 0) {
         return;
     }
-    const CheckResult allowed = repository_.canDelete(typeNo_, counter);
+    const CheckResult allowed = m_repository.canDelete(m_typeNo, counter);
     if (!allowed.ok) {
-        ResultMessage::show(messages_, allowed);
+        ResultMessage::show(m_messages, allowed);
         return;
     }
-    if (!messages_.show(allowed.message, MessageStyle::QuestionOkCancel)) {
+    if (!m_messages.show(allowed.message, MessageStyle::QuestionOkCancel)) {
         return;
     }
-    if (repository_.remove(counter)) {
+    if (m_repository.remove(counter)) {
         reload();
     }
 }

@@ -29,11 +29,11 @@ public:
     frmParameters(Database& database, MessageService& messages, int typeNo,
                   QWidget* parent = nullptr);
 
-    int typeNo() const { return typeNo_; }
+    int typeNo() const { return m_typeNo; }
     // Reads the list again with the search in force, keeping the row under the cursor.
     void reload();
     // The values shown, in grid order.
-    const QList<TypesRepository::Value>& values() const { return values_; }
+    const QList<TypesRepository::Value>& values() const { return m_values; }
     // The Counter of the row under the cursor; 0 without one.
     int currentCounter() const;
     // Moves the cursor to the row of a counter; false when the grid does not show it.
@@ -49,16 +49,16 @@ private:
     TypesRepository::SearchColumn searchColumn() const;
     void fill();
 
-    Database& database_;
-    MessageService& messages_;
-    int typeNo_;
-    TypesRepository repository_;
-    QList<TypesRepository::Value> values_;
+    Database& m_database;
+    MessageService& m_messages;
+    int m_typeNo;
+    TypesRepository m_repository;
+    QList<TypesRepository::Value> m_values;
 
     QLineEdit* txtSearch;
     QComboBox* cboSearchColumn;
     QTableView* grdList;
-    QStandardItemModel* model_;
+    QStandardItemModel* m_model;
     QPushButton* cmdNew;
     QPushButton* cmdEdit;
     QPushButton* cmdDelete;

@@ -19,9 +19,9 @@ namespace sandogh {
 frmParametersList::frmParametersList(Database& database, MessageService& messages, int typeNo,
                                      int parentCounter, QWidget* parent)
     : QDialog(parent)
-    , typeNo_(typeNo)
-    , parentCounter_(parentCounter)
-    , repository_(database, &messages)
+    , m_typeNo(typeNo)
+    , m_parentCounter(parentCounter)
+    , m_repository(database, &messages)
     , txtSearch(new QLineEdit(this))
     , cboSearchColumn(new QComboBox(this))
     , grdList(new QTableView(this))
@@ -38,7 +38,7 @@ frmParametersList::frmParametersList(Database& database, MessageService& message
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     cboSearchColumn->addItems({kCode, kName});
     cboSearchColumn->setCurrentIndex(1);
-    model_ = GridSetup::configure(grdList, {kCode, kName});
+    m_model = GridSetup::configure(grdList, {kCode, kName});
     cmdOk->setDefault(true);
 
     auto* search = new QHBoxLayout;
@@ -73,19 +73,19 @@ void frmParametersList::reload() {
     const QString text = txtSearch->text();
     const auto column = cboSearchColumn->currentIndex() == 0 ? TypesRepository::SearchColumn::Code
                                                              : TypesRepository::SearchColumn::Name;
-    values_ = text.isEmpty() ? repository_.picker(typeNo_, parentCounter_)
-                             : repository_.picker(typeNo_, parentCounter_, column, text);
-    model_->removeRows(0, model_->rowCount());
-    for (const TypesRepository::Value& v : values_) {
-        model_->appendRow({new QStandardItem(v.code), new QStandardItem(v.name)});
+    m_values = text.isEmpty() ? m_repository.picker(m_typeNo, m_parentCounter)
+                              : m_repository.picker(m_typeNo, m_parentCounter, column, text);
+    m_model->removeRows(0, m_model->rowCount());
+    for (const TypesRepository::Value& v : m_values) {
+        m_model->appendRow({new QStandardItem(v.code), new QStandardItem(v.name)});
     }
     grdList->resizeColumnToContents(0);
     GridSetup::selectRow(grdList, 0);
 }
 
 bool frmParametersList::selectCounter(int counter) {
-    for (qsizetype i = 0; i < values_.size(); ++i) {
-        if (values_.at(i).counter == counter) {
+    for (qsizetype i = 0; i < m_values.size(); ++i) {
+        if (m_values.at(i).counter == counter) {
             GridSetup::selectRow(grdList, int(i));
             return true;
         }
@@ -95,7 +95,7 @@ bool frmParametersList::selectCounter(int counter) {
 
 TypesRepository::Value frmParametersList::current() const {
     const int row = GridSetup::selectedRow(grdList);
-    return row >= 0 && row < values_.size() ? values_.at(row) : TypesRepository::Value{};
+    return row >= 0 && row < m_values.size() ? m_values.at(row) : TypesRepository::Value{};
 }
 
 bool frmParametersList::confirm() {

@@ -28,9 +28,9 @@ public:
     frmParametersList(Database& database, MessageService& messages, int typeNo,
                       int parentCounter = 0, QWidget* parent = nullptr);
 
-    int typeNo() const { return typeNo_; }
-    int parentCounter() const { return parentCounter_; }
-    const QList<TypesRepository::Value>& values() const { return values_; }
+    int typeNo() const { return m_typeNo; }
+    int parentCounter() const { return m_parentCounter; }
+    const QList<TypesRepository::Value>& values() const { return m_values; }
     // Moves the cursor to the row of a counter; false when the grid does not show it.
     bool selectCounter(int counter);
     // The value confirmed, or the row under the cursor before that; counter 0 for none.
@@ -45,15 +45,15 @@ signals:
 private:
     void reload();
 
-    int typeNo_;
-    int parentCounter_;
-    TypesRepository repository_;
-    QList<TypesRepository::Value> values_;
+    int m_typeNo;
+    int m_parentCounter;
+    TypesRepository m_repository;
+    QList<TypesRepository::Value> m_values;
 
     QLineEdit* txtSearch;
     QComboBox* cboSearchColumn;
     QTableView* grdList;
-    QStandardItemModel* model_;
+    QStandardItemModel* m_model;
     QPushButton* cmdOk;
     QPushButton* cmdCancel;
 };

@@ -36,8 +36,8 @@ QString amount(double value, int decimals) {
 
 frmCustomerGroup::frmCustomerGroup(Database& database, MessageService& messages, QWidget* parent)
     : QWidget(parent)
-    , messages_(messages)
-    , repository_(database)
+    , m_messages(messages)
+    , m_repository(database)
     , txtSearch(named(new QLineEdit(this), "txtSearch"))
     , grdGroups(named(new QTableView(this), "grdGroups"))
     , txtCode(named(new QLineEdit(this), "txtCode"))
@@ -59,7 +59,7 @@ frmCustomerGroup::frmCustomerGroup(Database& database, MessageService& messages,
     txtCode->setFocusPolicy(Qt::NoFocus);
     txtDiscountPercent->setDecimals(2);
     txtBuyFactor->setDecimals(3);
-    model_ = GridSetup::configure(
+    m_model = GridSetup::configure(
         grdGroups, {kCode, kName, kDiscountPercent, kBuyFactor, kAmountRebate, kColor});
 
     auto* search = new QHBoxLayout;
@@ -88,8 +88,8 @@ frmCustomerGroup::frmCustomerGroup(Database& database, MessageService& messages,
     connect(txtSearch, &QLineEdit::textChanged, this, &frmCustomerGroup::reload);
     connect(grdGroups->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
-                if (current.isValid() && current.row() < groups_.size()) {
-                    display(groups_.at(current.row()));
+                if (current.isValid() && current.row() < m_groups.size()) {
+                    display(m_groups.at(current.row()));
                 }
             });
     connect(cmdColor, &QPushButton::clicked, this, &frmCustomerGroup::chooseColor);
@@ -98,22 +98,22 @@ frmCustomerGroup::frmCustomerGroup(Database& database, MessageService& messages,
     connect(cmdDelete, &QPushButton::clicked, this, &frmCustomerGroup::deleteCurrent);
     connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
     reload();
-    if (groups_.isEmpty()) {
+    if (m_groups.isEmpty()) {
         startNew();
     }
 }
 
 void frmCustomerGroup::reload() {
-    const int keep = group_.code;
-    groups_ = repository_.list(txtSearch->text());
-    model_->removeRows(0, model_->rowCount());
-    for (const CustomerGroup& g : groups_) {
+    const int keep = m_group.code;
+    m_groups = m_repository.list(txtSearch->text());
+    m_model->removeRows(0, m_model->rowCount());
+    for (const CustomerGroup& g : m_groups) {
         auto* color = new QStandardItem;
         color->setData(QColor(QRgb(g.color)), Qt::DecorationRole);
-        model_->appendRow({new QStandardItem(QString::number(g.code)), new QStandardItem(g.name),
-                           new QStandardItem(amount(g.discountPercent, 2)),
-                           new QStandardItem(amount(g.buyFactor, 3)),
-                           new QStandardItem(amount(g.amountRebate, 0)), color});
+        m_model->appendRow({new QStandardItem(QString::number(g.code)), new QStandardItem(g.name),
+                            new QStandardItem(amount(g.discountPercent, 2)),
+                            new QStandardItem(amount(g.buyFactor, 3)),
+                            new QStandardItem(amount(g.amountRebate, 0)), color});
     }
     if (keep == 0 || !selectCode(keep)) {
         GridSetup::selectRow(grdGroups, 0);
@@ -121,10 +121,10 @@ void frmCustomerGroup::reload() {
 }
 
 bool frmCustomerGroup::selectCode(int code) {
-    for (qsizetype i = 0; i < groups_.size(); ++i) {
-        if (groups_.at(i).code == code) {
+    for (qsizetype i = 0; i < m_groups.size(); ++i) {
+        if (m_groups.at(i).code == code) {
             GridSetup::selectRow(grdGroups, int(i));
-            display(groups_.at(i));
+            display(m_groups.at(i));
             return true;
         }
     }
@@ -132,7 +132,7 @@ bool frmCustomerGroup::selectCode(int code) {
 }
 
 void frmCustomerGroup::display(const CustomerGroup& g) {
-    group_ = g;
+    m_group = g;
     txtCode->setText(g.code > 0 ? QString::number(g.code) : QString());
     txtName->setText(g.name);
     txtDiscountPercent->setValue(g.discountPercent);
@@ -143,7 +143,7 @@ void frmCustomerGroup::display(const CustomerGroup& g) {
 }
 
 void frmCustomerGroup::setColor(qint64 rgb) {
-    group_.color = rgb;
+    m_group.color = rgb;
     const QColor color{QRgb(rgb)};
     cmdColor->setText(color.name());
     cmdColor->setStyleSheet(QStringLiteral("background: %1; color: %2;")
@@ -153,14 +153,14 @@ void frmCustomerGroup::setColor(qint64 rgb) {
 }
 
 void frmCustomerGroup::chooseColor() {
-    const QColor chosen = QColorDialog::getColor(QColor(QRgb(group_.color)), this);
+    const QColor chosen = QColorDialog::getColor(QColor(QRgb(m_group.color)), this);
     if (chosen.isValid()) {
         setColor(chosen.rgb() & 0xffffff);
     }
 }
 
 CustomerGroup frmCustomerGroup::group() const {
-    CustomerGroup g = group_;
+    CustomerGroup g = m_group;
     g.name = txtName->text();
     g.discountPercent = txtDiscountPercent->value();
     g.buyFactor = txtBuyFactor->value();
@@ -171,40 +171,40 @@ CustomerGroup frmCustomerGroup::group() const {
 void frmCustomerGroup::startNew() {
     grdGroups->clearSelection();
     display(CustomerGroup{});
-    txtCode->setText(QString::number(repository_.nextCode()));
+    txtCode->setText(QString::number(m_repository.nextCode()));
     txtName->setFocus();
 }
 
 bool frmCustomerGroup::save() {
     CustomerGroup g = group();
-    const CheckResult result = repository_.save(g);
-    ResultMessage::show(messages_, result);
+    const CheckResult result = m_repository.save(g);
+    ResultMessage::show(m_messages, result);
     if (!result.ok) {
         return false;
     }
-    group_ = g;
+    m_group = g;
     reload();
     return true;
 }
 
 void frmCustomerGroup::deleteCurrent() {
-    if (group_.code <= 0) {
+    if (m_group.code <= 0) {
         return;
     }
-    const CheckResult allowed = repository_.canDelete(group_.code);
+    const CheckResult allowed = m_repository.canDelete(m_group.code);
     if (!allowed.ok) {
-        ResultMessage::show(messages_, allowed);
+        ResultMessage::show(m_messages, allowed);
         return;
     }
-    if (!messages_.show(allowed.message, MessageStyle::QuestionOkCancel)) {
+    if (!m_messages.show(allowed.message, MessageStyle::QuestionOkCancel)) {
         return;
     }
-    const CheckResult removed = repository_.remove(group_.code);
-    ResultMessage::show(messages_, removed);
+    const CheckResult removed = m_repository.remove(m_group.code);
+    ResultMessage::show(m_messages, removed);
     if (removed.ok) {
-        group_ = {};
+        m_group = {};
         reload();
-        if (groups_.isEmpty()) {
+        if (m_groups.isEmpty()) {
             startNew();
         }
     }

@@ -26,7 +26,7 @@ public:
     frmCustomerGroup(Database& database, MessageService& messages, QWidget* parent = nullptr);
 
     void reload();
-    const QList<CustomerGroup>& groups() const { return groups_; }
+    const QList<CustomerGroup>& groups() const { return m_groups; }
     bool selectCode(int code);
     // The group as the boxes show it.
     CustomerGroup group() const;
@@ -40,14 +40,14 @@ private:
     void display(const CustomerGroup& group);
     void chooseColor();
 
-    MessageService& messages_;
-    CustomerGroupRepository repository_;
-    QList<CustomerGroup> groups_;
-    CustomerGroup group_;
+    MessageService& m_messages;
+    CustomerGroupRepository m_repository;
+    QList<CustomerGroup> m_groups;
+    CustomerGroup m_group;
 
     QLineEdit* txtSearch;
     QTableView* grdGroups;
-    QStandardItemModel* model_;
+    QStandardItemModel* m_model;
     QLineEdit* txtCode;
     QLineEdit* txtName;
     AmountEdit* txtDiscountPercent;

@@ -30,10 +30,10 @@ constexpr Column kSearchColumns[] = {Column::Code, Column::Name, Column::Family,
 
 frmParties::frmParties(Database& database, MessageService& messages, int typeNo, QWidget* parent)
     : QWidget(parent)
-    , database_(database)
-    , messages_(messages)
-    , typeNo_(typeNo == Party::kCompany ? Party::kCompany : Party::kPerson)
-    , repository_(database)
+    , m_database(database)
+    , m_messages(messages)
+    , m_typeNo(typeNo == Party::kCompany ? Party::kCompany : Party::kPerson)
+    , m_repository(database)
     , txtSearch(new QLineEdit(this))
     , cboSearchColumn(new QComboBox(this))
     , chkOnlyActive(new QCheckBox(partycaptions::kOnlyActive, this))
@@ -43,7 +43,7 @@ frmParties::frmParties(Database& database, MessageService& messages, int typeNo,
     , cmdDelete(new QPushButton(partycaptions::kDelete, this))
     , cmdExit(new QPushButton(partycaptions::kExit, this)) {
     using namespace partycaptions;
-    const bool persons = typeNo_ == Party::kPerson;
+    const bool persons = m_typeNo == Party::kPerson;
     setObjectName(QStringLiteral("frmParties"));
     setLayoutDirection(Qt::RightToLeft);
     setWindowTitle(persons ? kCustomersTitle : kSuppliersTitle);
@@ -59,7 +59,7 @@ frmParties::frmParties(Database& database, MessageService& messages, int typeNo,
     const QString family = persons ? kFamily : kContact;
     cboSearchColumn->addItems({kCode, name, family, kTelephone});
     cboSearchColumn->setCurrentIndex(1);
-    model_ = GridSetup::configure(
+    m_model = GridSetup::configure(
         grdParties, {kCode, name, family, kTelephone, kMobile, kGroup, kCredit, kActive});
 
     auto* search = new QHBoxLayout;
@@ -110,13 +110,13 @@ void frmParties::reload() {
     const Column column = text.isEmpty() || index < 0 || index >= int(std::size(kSearchColumns))
                               ? Column::None
                               : kSearchColumns[index];
-    parties_ = repository_.list(typeNo_, column, text, !chkOnlyActive->isChecked());
-    model_->removeRows(0, model_->rowCount());
-    for (const Party& p : parties_) {
+    m_parties = m_repository.list(m_typeNo, column, text, !chkOnlyActive->isChecked());
+    m_model->removeRows(0, m_model->rowCount());
+    for (const Party& p : m_parties) {
         auto* active = new QStandardItem;
         active->setCheckable(false);
         active->setData(p.active ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
-        model_->appendRow(
+        m_model->appendRow(
             {new QStandardItem(p.code), new QStandardItem(p.name), new QStandardItem(p.family),
              new QStandardItem(p.telephone), new QStandardItem(p.mobile),
              new QStandardItem(p.groupName),
@@ -129,12 +129,12 @@ void frmParties::reload() {
 
 int frmParties::currentCounter() const {
     const int row = GridSetup::selectedRow(grdParties);
-    return row >= 0 && row < parties_.size() ? parties_.at(row).counter : 0;
+    return row >= 0 && row < m_parties.size() ? m_parties.at(row).counter : 0;
 }
 
 bool frmParties::selectCounter(int counter) {
-    for (qsizetype i = 0; i < parties_.size(); ++i) {
-        if (parties_.at(i).counter == counter) {
+    for (qsizetype i = 0; i < m_parties.size(); ++i) {
+        if (m_parties.at(i).counter == counter) {
             GridSetup::selectRow(grdParties, int(i));
             return true;
         }
@@ -143,7 +143,7 @@ bool frmParties::selectCounter(int counter) {
 }
 
 frmParty* frmParties::openEditor(int counter) {
-    auto* editor = new frmParty(database_, messages_, typeNo_, counter, this);
+    auto* editor = new frmParty(m_database, m_messages, m_typeNo, counter, this);
     editor->setAttribute(Qt::WA_DeleteOnClose);
     connect(editor, &frmParty::saved, this, [this](int saved) {
         reload();
@@ -158,20 +158,20 @@ void frmParties::deleteCurrent() {
     if (counter <= 0) {
         return;
     }
-    const CheckResult allowed = repository_.canDelete(counter);
+    const CheckResult allowed = m_repository.canDelete(counter);
     if (!allowed.ok) {
-        ResultMessage::show(messages_, allowed);
-        if (messages_.show(partymessages::kDeactivateQuestion, MessageStyle::QuestionYesNo) &&
-            repository_.setActive(counter, false)) {
+        ResultMessage::show(m_messages, allowed);
+        if (m_messages.show(partymessages::kDeactivateQuestion, MessageStyle::QuestionYesNo) &&
+            m_repository.setActive(counter, false)) {
             reload();
         }
         return;
     }
-    if (!messages_.show(allowed.message, MessageStyle::QuestionOkCancel)) {
+    if (!m_messages.show(allowed.message, MessageStyle::QuestionOkCancel)) {
         return;
     }
-    const CheckResult removed = repository_.remove(counter);
-    ResultMessage::show(messages_, removed);
+    const CheckResult removed = m_repository.remove(counter);
+    ResultMessage::show(m_messages, removed);
     if (removed.ok) {
         reload();
     }

@@ -27,9 +27,9 @@ class frmParties : public QWidget {
 public:
     frmParties(Database& database, MessageService& messages, int typeNo, QWidget* parent = nullptr);
 
-    int typeNo() const { return typeNo_; }
+    int typeNo() const { return m_typeNo; }
     void reload();
-    const QList<Party>& parties() const { return parties_; }
+    const QList<Party>& parties() const { return m_parties; }
     // The Counter of the row under the cursor; 0 without one.
     int currentCounter() const;
     bool selectCounter(int counter);
@@ -39,17 +39,17 @@ public:
     void deleteCurrent();
 
 private:
-    Database& database_;
-    MessageService& messages_;
-    int typeNo_;
-    PartiesRepository repository_;
-    QList<Party> parties_;
+    Database& m_database;
+    MessageService& m_messages;
+    int m_typeNo;
+    PartiesRepository m_repository;
+    QList<Party> m_parties;
 
     QLineEdit* txtSearch;
     QComboBox* cboSearchColumn;
     QCheckBox* chkOnlyActive;
     QTableView* grdParties;
-    QStandardItemModel* model_;
+    QStandardItemModel* m_model;
     QPushButton* cmdNew;
     QPushButton* cmdEdit;
     QPushButton* cmdDelete;

@@ -30,8 +30,8 @@ T* named(T* widget, const char* name) {
 frmParty::frmParty(Database& database, MessageService& messages, int typeNo, int counter,
                    QWidget* parent)
     : QDialog(parent)
-    , messages_(messages)
-    , repository_(database)
+    , m_messages(messages)
+    , m_repository(database)
     , txtCode(named(new QLineEdit(this), "txtCode"))
     , txtName(named(new QLineEdit(this), "txtName"))
     , txtFamily(named(new QLineEdit(this), "txtFamily"))
@@ -87,12 +87,12 @@ frmParty::frmParty(Database& database, MessageService& messages, int typeNo, int
     Party party;
     party.typeNo = person ? Party::kPerson : Party::kCompany;
     if (counter > 0) {
-        if (const auto found = repository_.find(counter)) {
+        if (const auto found = m_repository.find(counter)) {
             party = *found;
         }
     }
     if (party.isNew()) {
-        party.code = repository_.newCode();
+        party.code = m_repository.newCode();
     }
     display(party);
 
@@ -103,17 +103,17 @@ frmParty::frmParty(Database& database, MessageService& messages, int typeNo, int
 
 void frmParty::fillChoices() {
     cboGroup->addItem(QString(), 0);
-    for (const auto& group : repository_.customerGroups()) {
+    for (const auto& group : m_repository.customerGroups()) {
         cboGroup->addItem(group.name, group.id);
     }
     cboAccountingGroup->addItem(QString(), 0);
-    for (const auto& ledger : repository_.accountingGroups()) {
+    for (const auto& ledger : m_repository.accountingGroups()) {
         cboAccountingGroup->addItem(ledger.code + QStringLiteral(" - ") + ledger.name, ledger.id);
     }
 }
 
 void frmParty::display(const Party& p) {
-    party_ = p;
+    m_party = p;
     txtCode->setText(p.code);
     txtName->setText(p.name);
     txtFamily->setText(p.family);
@@ -131,7 +131,7 @@ void frmParty::display(const Party& p) {
 }
 
 Party frmParty::party() const {
-    Party p = party_;
+    Party p = m_party;
     p.code = txtCode->text();
     p.name = txtName->text();
     p.family = txtFamily->text();
@@ -150,12 +150,12 @@ Party frmParty::party() const {
 
 bool frmParty::save() {
     Party p = party();
-    const CheckResult result = repository_.save(p);
+    const CheckResult result = m_repository.save(p);
     if (!result.ok) {
-        ResultMessage::show(messages_, result);
+        ResultMessage::show(m_messages, result);
         return false;
     }
-    party_ = p;
+    m_party = p;
     emit saved(p.counter);
     accept();
     return true;

@@ -40,9 +40,9 @@ private:
     void fillChoices();
     void display(const Party& party);
 
-    MessageService& messages_;
-    PartiesRepository repository_;
-    Party party_;
+    MessageService& m_messages;
+    PartiesRepository m_repository;
+    Party m_party;
 
     QLineEdit* txtCode;
     QLineEdit* txtName;

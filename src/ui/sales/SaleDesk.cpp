@@ -130,7 +130,7 @@ frmSale* SaleDesk::openNamed(frmMain& main, const QString& name) {
         frmSale* screen = create(main.context(), main.ports());
         SaleDesk* desk = of(*screen);
         // The drawer goes through the main window's one entry.
-        desk->m_actions->setDrawer([&main] { main.mnuOpenCash_Click(); });
+        desk->m_actions->setDrawer([&main] { main.openCashDrawer(); });
         // The keys and buttons that open other screens ask the user's permissions, as the
         // main window holds them.
         screen->setAccess(

@@ -131,7 +131,7 @@ bool SaleDeskActions::paymentType() {
     }
     frmSalePayment dialog(frmSalePayment::readAccounts(*m_accounts), m_messages, &m_screen);
     dialog.DocSum(AmountText::parse(payableText().toStdString()));
-    dialog.ComapanyName(m_screen.session().CompanyName());
+    dialog.setCustomerName(m_screen.session().CompanyName());
     dialog.FillTextValue();
     if (dialog.exec() != QDialog::Accepted) {
         return false;

@@ -134,7 +134,7 @@ void frmSalePayment::DocSum(double amount) {
     showRows();
 }
 
-void frmSalePayment::ComapanyName(const QString& name) {
+void frmSalePayment::setCustomerName(const QString& name) {
     lblCompanyName->setText(name);
 }
 

@@ -24,7 +24,7 @@ class MessageService;
 // with a message while the rows do not add up to the amount payable.
 //
 //   frmSalePayment dialog(accounts, messages, parent);
-//   dialog.DocSum(payable); dialog.ComapanyName(customer); dialog.FillTextValue();
+//   dialog.DocSum(payable); dialog.setCustomerName(customer); dialog.FillTextValue();
 //   if (dialog.exec() == QDialog::Accepted) settlement.payments = dialog.payments();
 class frmSalePayment : public QDialog {
     Q_OBJECT
@@ -46,7 +46,7 @@ public:
     void DocSum(double amount);
     double DocSum() const { return m_docSum; }
     // The customer's name shown above the rows.
-    void ComapanyName(const QString& name);
+    void setCustomerName(const QString& name);
     // Fills the amount of the row being entered with what is left to split, and the
     // figures under the rows.
     void FillTextValue();

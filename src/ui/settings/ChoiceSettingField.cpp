@@ -8,44 +8,44 @@ namespace sandogh {
 ChoiceSettingField::ChoiceSettingField(const SettingDescriptor& row,
                                        QList<SettingsCatalogue::Choice> choices,
                                        SettingsStore& store, QWidget* parent)
-    : row_(row), choices_(std::move(choices)), store_(store), combo_(new QComboBox(parent)) {
-    combo_->setObjectName(controlName(row));
+    : m_row(row), m_choices(std::move(choices)), m_store(store), m_combo(new QComboBox(parent)) {
+    m_combo->setObjectName(controlName(row));
 }
 
 QWidget* ChoiceSettingField::editor() const {
-    return combo_;
+    return m_combo;
 }
 
 void ChoiceSettingField::load() {
-    loaded_ = keptOrDefault(store_, row_).trimmed();
-    combo_->clear();
+    m_loaded = keptOrDefault(m_store, m_row).trimmed();
+    m_combo->clear();
     int current = -1;
-    for (const SettingsCatalogue::Choice& c : choices_) {
-        if (c.value.compare(loaded_, Qt::CaseInsensitive) == 0) {
-            current = combo_->count();
+    for (const SettingsCatalogue::Choice& c : m_choices) {
+        if (c.value.compare(m_loaded, Qt::CaseInsensitive) == 0) {
+            current = m_combo->count();
         }
-        combo_->addItem(c.caption, c.value);
+        m_combo->addItem(c.caption, c.value);
     }
     if (current < 0) {
-        current = combo_->count();
-        combo_->addItem(loaded_.isEmpty() ? QStringLiteral("(خالی)") : loaded_, loaded_);
+        current = m_combo->count();
+        m_combo->addItem(m_loaded.isEmpty() ? QStringLiteral("(خالی)") : m_loaded, m_loaded);
     }
-    combo_->setCurrentIndex(current);
+    m_combo->setCurrentIndex(current);
 }
 
 QString ChoiceSettingField::chosen() const {
-    return combo_->currentData().toString();
+    return m_combo->currentData().toString();
 }
 
 bool ChoiceSettingField::isChanged() const {
-    return chosen().compare(loaded_, Qt::CaseInsensitive) != 0;
+    return chosen().compare(m_loaded, Qt::CaseInsensitive) != 0;
 }
 
 bool ChoiceSettingField::save() {
     if (!isChanged()) {
         return true;
     }
-    return write(store_, row_, chosen());
+    return write(m_store, m_row, chosen());
 }
 
 }  // namespace sandogh

@@ -17,7 +17,7 @@ public:
     ChoiceSettingField(const SettingDescriptor& row, QList<SettingsCatalogue::Choice> choices,
                        SettingsStore& store, QWidget* parent);
 
-    QString label() const override { return row_.captionText(); }
+    QString label() const override { return m_row.captionText(); }
     QWidget* editor() const override;
     void load() override;
     bool isChanged() const override;
@@ -26,11 +26,11 @@ public:
 private:
     QString chosen() const;
 
-    SettingDescriptor row_;
-    QList<SettingsCatalogue::Choice> choices_;
-    SettingsStore& store_;
-    QComboBox* combo_;
-    QString loaded_;
+    SettingDescriptor m_row;
+    QList<SettingsCatalogue::Choice> m_choices;
+    SettingsStore& m_store;
+    QComboBox* m_combo;
+    QString m_loaded;
 };
 
 }  // namespace sandogh

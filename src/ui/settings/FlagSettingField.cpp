@@ -8,28 +8,28 @@ namespace sandogh {
 
 FlagSettingField::FlagSettingField(const SettingDescriptor& row, SettingsStore& store,
                                    QWidget* parent)
-    : row_(row), store_(store), check_(new QCheckBox(row.captionText(), parent)) {
-    check_->setObjectName(controlName(row));
+    : m_row(row), m_store(store), m_check(new QCheckBox(row.captionText(), parent)) {
+    m_check->setObjectName(controlName(row));
 }
 
 QWidget* FlagSettingField::editor() const {
-    return check_;
+    return m_check;
 }
 
 void FlagSettingField::load() {
-    loaded_ = SettingReaders::flagOn(keptOrDefault(store_, row_));
-    check_->setChecked(loaded_);
+    m_loaded = SettingReaders::flagOn(keptOrDefault(m_store, m_row));
+    m_check->setChecked(m_loaded);
 }
 
 bool FlagSettingField::isChanged() const {
-    return check_->isChecked() != loaded_;
+    return m_check->isChecked() != m_loaded;
 }
 
 bool FlagSettingField::save() {
     if (!isChanged()) {
         return true;
     }
-    return write(store_, row_, check_->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
+    return write(m_store, m_row, m_check->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 }  // namespace sandogh

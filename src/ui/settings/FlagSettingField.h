@@ -19,10 +19,10 @@ public:
     bool save() override;
 
 private:
-    SettingDescriptor row_;
-    SettingsStore& store_;
-    QCheckBox* check_;
-    bool loaded_ = false;
+    SettingDescriptor m_row;
+    SettingsStore& m_store;
+    QCheckBox* m_check;
+    bool m_loaded = false;
 };
 
 }  // namespace sandogh

@@ -13,32 +13,32 @@ constexpr int kEditWidth = 160;
 
 NumberSettingField::NumberSettingField(const SettingDescriptor& row, SettingsStore& store,
                                        QWidget* parent)
-    : row_(row), store_(store), edit_(new AmountEdit(parent)) {
-    edit_->setObjectName(controlName(row));
-    edit_->setDecimals(kDecimals);
-    edit_->setNegativeAllowed(true);
-    edit_->setMaximumWidth(kEditWidth);
+    : m_row(row), m_store(store), m_edit(new AmountEdit(parent)) {
+    m_edit->setObjectName(controlName(row));
+    m_edit->setDecimals(kDecimals);
+    m_edit->setNegativeAllowed(true);
+    m_edit->setMaximumWidth(kEditWidth);
 }
 
 QWidget* NumberSettingField::editor() const {
-    return edit_;
+    return m_edit;
 }
 
 void NumberSettingField::load() {
-    edit_->setValue(SettingReaders::numericValue(keptOrDefault(store_, row_)));
+    m_edit->setValue(SettingReaders::numericValue(keptOrDefault(m_store, m_row)));
     // What the box shows, which may be rounded to its decimals.
-    loaded_ = edit_->value();
+    m_loaded = m_edit->value();
 }
 
 bool NumberSettingField::isChanged() const {
-    return edit_->value() != loaded_;
+    return m_edit->value() != m_loaded;
 }
 
 bool NumberSettingField::save() {
     if (!isChanged()) {
         return true;
     }
-    return write(store_, row_, SettingReaders::numberText(edit_->value()));
+    return write(m_store, m_row, SettingReaders::numberText(m_edit->value()));
 }
 
 }  // namespace sandogh

@@ -14,17 +14,17 @@ public:
 
     NumberSettingField(const SettingDescriptor& row, SettingsStore& store, QWidget* parent);
 
-    QString label() const override { return row_.captionText(); }
+    QString label() const override { return m_row.captionText(); }
     QWidget* editor() const override;
     void load() override;
     bool isChanged() const override;
     bool save() override;
 
 private:
-    SettingDescriptor row_;
-    SettingsStore& store_;
-    AmountEdit* edit_;
-    double loaded_ = 0;
+    SettingDescriptor m_row;
+    SettingsStore& m_store;
+    AmountEdit* m_edit;
+    double m_loaded = 0;
 };
 
 }  // namespace sandogh

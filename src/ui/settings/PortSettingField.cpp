@@ -14,70 +14,73 @@ namespace sandogh {
 PortSettingField::PortSettingField(const SettingDescriptor& comRow,
                                    const SettingDescriptor* deviceRow, SettingsStore& store,
                                    QWidget* parent)
-    : comRow_(comRow), store_(store), editor_(new QWidget(parent)), com_(new QSpinBox(editor_)) {
-    editor_->setObjectName(controlName(comRow) + QStringLiteral("/port"));
-    auto* layout = new QHBoxLayout(editor_);
+    : m_comRow(comRow)
+    , m_store(store)
+    , m_editor(new QWidget(parent))
+    , m_com(new QSpinBox(m_editor)) {
+    m_editor->setObjectName(controlName(comRow) + QStringLiteral("/port"));
+    auto* layout = new QHBoxLayout(m_editor);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(com_);
+    layout->addWidget(m_com);
 
-    com_->setObjectName(controlName(comRow));
-    com_->setRange(0, kMaxComPort);
-    com_->setPrefix(QStringLiteral("COM"));
+    m_com->setObjectName(controlName(comRow));
+    m_com->setRange(0, kMaxComPort);
+    m_com->setPrefix(QStringLiteral("COM"));
     // 0 means the device is not fitted.
-    com_->setSpecialValueText(QStringLiteral("ندارد"));
-    com_->setLayoutDirection(Qt::LeftToRight);
-    com_->setMinimumWidth(110);
+    m_com->setSpecialValueText(QStringLiteral("ندارد"));
+    m_com->setLayoutDirection(Qt::LeftToRight);
+    m_com->setMinimumWidth(110);
     if (!deviceRow) {
         layout->addStretch(1);
         return;
     }
 
-    deviceRow_ = *deviceRow;
-    device_ = new QLineEdit(editor_);
-    device_->setObjectName(controlName(*deviceRow));
-    device_->setLayoutDirection(Qt::LeftToRight);
-    device_->setToolTip(deviceRow->captionText());
-    layout->addWidget(device_, 1);
-    QObject::connect(com_, &QSpinBox::valueChanged, device_, [this] { showMappedDevice(); });
+    m_deviceRow = *deviceRow;
+    m_device = new QLineEdit(m_editor);
+    m_device->setObjectName(controlName(*deviceRow));
+    m_device->setLayoutDirection(Qt::LeftToRight);
+    m_device->setToolTip(deviceRow->captionText());
+    layout->addWidget(m_device, 1);
+    QObject::connect(m_com, &QSpinBox::valueChanged, m_device, [this] { showMappedDevice(); });
 }
 
 QWidget* PortSettingField::editor() const {
-    return editor_;
+    return m_editor;
 }
 
 void PortSettingField::showMappedDevice() {
-    if (!device_) {
+    if (!m_device) {
         return;
     }
-    device_->setPlaceholderText(SerialLine::deviceForComPort(com_->value()));
+    m_device->setPlaceholderText(SerialLine::deviceForComPort(m_com->value()));
 }
 
 void PortSettingField::load() {
-    const double number = SettingReaders::numericValue(keptOrDefault(store_, comRow_));
-    com_->setValue(std::clamp(SettingReaders::toInteger(number), 0, kMaxComPort));
-    loadedCom_ = com_->value();
-    if (device_) {
-        loadedDevice_ = keptOrDefault(store_, *deviceRow_);
-        device_->setText(loadedDevice_);
+    const double number = SettingReaders::numericValue(keptOrDefault(m_store, m_comRow));
+    m_com->setValue(std::clamp(SettingReaders::toInteger(number), 0, kMaxComPort));
+    m_loadedCom = m_com->value();
+    if (m_device) {
+        m_loadedDevice = keptOrDefault(m_store, *m_deviceRow);
+        m_device->setText(m_loadedDevice);
         showMappedDevice();
     }
 }
 
 bool PortSettingField::deviceChanged() const {
-    return device_ && device_->text() != loadedDevice_;
+    return m_device && m_device->text() != m_loadedDevice;
 }
 
 bool PortSettingField::isChanged() const {
-    return com_->value() != loadedCom_ || deviceChanged();
+    return m_com->value() != m_loadedCom || deviceChanged();
 }
 
 bool PortSettingField::save() {
     bool kept = true;
-    if (com_->value() != loadedCom_) {
-        kept = write(store_, comRow_, QString::number(com_->value())) && kept;
+    if (m_com->value() != m_loadedCom) {
+        kept = write(m_store, m_comRow, QString::number(m_com->value())) && kept;
     }
     if (deviceChanged()) {
-        kept = write(store_, *deviceRow_, device_->text().trimmed()) && kept;
+        kept = write(m_store, *m_deviceRow, m_device->text().trimmed()) && kept;
     }
     return kept;
 }

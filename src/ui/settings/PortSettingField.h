@@ -21,7 +21,7 @@ public:
     PortSettingField(const SettingDescriptor& comRow, const SettingDescriptor* deviceRow,
                      SettingsStore& store, QWidget* parent);
 
-    QString label() const override { return comRow_.captionText(); }
+    QString label() const override { return m_comRow.captionText(); }
     QWidget* editor() const override;
     void load() override;
     bool isChanged() const override;
@@ -31,14 +31,14 @@ private:
     void showMappedDevice();
     bool deviceChanged() const;
 
-    SettingDescriptor comRow_;
-    std::optional<SettingDescriptor> deviceRow_;
-    SettingsStore& store_;
-    QWidget* editor_;
-    QSpinBox* com_;
-    QLineEdit* device_ = nullptr;
-    int loadedCom_ = 0;
-    QString loadedDevice_;
+    SettingDescriptor m_comRow;
+    std::optional<SettingDescriptor> m_deviceRow;
+    SettingsStore& m_store;
+    QWidget* m_editor;
+    QSpinBox* m_com;
+    QLineEdit* m_device = nullptr;
+    int m_loadedCom = 0;
+    QString m_loadedDevice;
 };
 
 }  // namespace sandogh

@@ -11,29 +11,29 @@ namespace sandogh {
 
 ProgramSettingField::ProgramSettingField(const SettingDescriptor& row, SettingsStore& store,
                                          const QString& programFolder, QWidget* parent)
-    : row_(row)
-    , store_(store)
-    , programFolder_(programFolder)
-    , editor_(new QWidget(parent))
-    , path_(new QLineEdit(editor_))
-    , browse_(new QToolButton(editor_)) {
-    editor_->setObjectName(controlName(row) + QStringLiteral("/program"));
-    path_->setObjectName(controlName(row));
-    path_->setLayoutDirection(Qt::LeftToRight);
-    browse_->setObjectName(controlName(row) + QStringLiteral("/browse"));
-    browse_->setText(QStringLiteral("..."));
-    browse_->setToolTip(row.captionText());
+    : m_row(row)
+    , m_store(store)
+    , m_programFolder(programFolder)
+    , m_editor(new QWidget(parent))
+    , m_path(new QLineEdit(m_editor))
+    , m_browse(new QToolButton(m_editor)) {
+    m_editor->setObjectName(controlName(row) + QStringLiteral("/program"));
+    m_path->setObjectName(controlName(row));
+    m_path->setLayoutDirection(Qt::LeftToRight);
+    m_browse->setObjectName(controlName(row) + QStringLiteral("/browse"));
+    m_browse->setText(QStringLiteral("..."));
+    m_browse->setToolTip(row.captionText());
 
-    auto* layout = new QHBoxLayout(editor_);
+    auto* layout = new QHBoxLayout(m_editor);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(path_, 1);
-    layout->addWidget(browse_);
+    layout->addWidget(m_path, 1);
+    layout->addWidget(m_browse);
 
-    QObject::connect(browse_, &QToolButton::clicked, path_, [this] { choose(); });
+    QObject::connect(m_browse, &QToolButton::clicked, m_path, [this] { choose(); });
 }
 
 QWidget* ProgramSettingField::editor() const {
-    return editor_;
+    return m_editor;
 }
 
 QString ProgramSettingField::pathToKeep(const QString& chosenFile, const QString& programFolder) {
@@ -48,40 +48,41 @@ QString ProgramSettingField::pathToKeep(const QString& chosenFile, const QString
 }
 
 void ProgramSettingField::choose() {
-    QString start = path_->text().trimmed();
+    QString start = m_path->text().trimmed();
     start.replace(u'\\', u'/');
     if (!start.isEmpty() && QDir::isRelativePath(start)) {
-        start = QDir(programFolder_).filePath(start);
+        start = QDir(m_programFolder).filePath(start);
     }
     if (start.isEmpty()) {
-        start = programFolder_;
+        start = m_programFolder;
     }
 #ifdef Q_OS_WIN
     const QString filter = QStringLiteral("*.exe *.bat *.cmd;;*.*");
 #else
     const QString filter;
 #endif
-    const QString chosen = QFileDialog::getOpenFileName(editor_, row_.captionText(), start, filter);
+    const QString chosen =
+        QFileDialog::getOpenFileName(m_editor, m_row.captionText(), start, filter);
     if (!chosen.isEmpty()) {
-        path_->setText(pathToKeep(chosen, programFolder_));
+        m_path->setText(pathToKeep(chosen, m_programFolder));
     }
 }
 
 void ProgramSettingField::load() {
-    loaded_ = keptOrDefault(store_, row_);
-    path_->setText(loaded_);
-    path_->setCursorPosition(0);
+    m_loaded = keptOrDefault(m_store, m_row);
+    m_path->setText(m_loaded);
+    m_path->setCursorPosition(0);
 }
 
 bool ProgramSettingField::isChanged() const {
-    return path_->text() != loaded_;
+    return m_path->text() != m_loaded;
 }
 
 bool ProgramSettingField::save() {
     if (!isChanged()) {
         return true;
     }
-    return write(store_, row_, path_->text().trimmed());
+    return write(m_store, m_row, m_path->text().trimmed());
 }
 
 }  // namespace sandogh

@@ -15,7 +15,7 @@ public:
     ProgramSettingField(const SettingDescriptor& row, SettingsStore& store,
                         const QString& programFolder, QWidget* parent);
 
-    QString label() const override { return row_.captionText(); }
+    QString label() const override { return m_row.captionText(); }
     QWidget* editor() const override;
     void load() override;
     bool isChanged() const override;
@@ -28,13 +28,13 @@ public:
 private:
     void choose();
 
-    SettingDescriptor row_;
-    SettingsStore& store_;
-    QString programFolder_;
-    QWidget* editor_;
-    QLineEdit* path_;
-    QToolButton* browse_;
-    QString loaded_;
+    SettingDescriptor m_row;
+    SettingsStore& m_store;
+    QString m_programFolder;
+    QWidget* m_editor;
+    QLineEdit* m_path;
+    QToolButton* m_browse;
+    QString m_loaded;
 };
 
 }  // namespace sandogh

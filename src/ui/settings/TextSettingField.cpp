@@ -6,29 +6,29 @@ namespace sandogh {
 
 TextSettingField::TextSettingField(const SettingDescriptor& row, SettingsStore& store,
                                    QWidget* parent)
-    : row_(row), store_(store), edit_(new QLineEdit(parent)) {
-    edit_->setObjectName(controlName(row));
+    : m_row(row), m_store(store), m_edit(new QLineEdit(parent)) {
+    m_edit->setObjectName(controlName(row));
 }
 
 QWidget* TextSettingField::editor() const {
-    return edit_;
+    return m_edit;
 }
 
 void TextSettingField::load() {
-    loaded_ = keptOrDefault(store_, row_);
-    edit_->setText(loaded_);
-    edit_->setCursorPosition(0);
+    m_loaded = keptOrDefault(m_store, m_row);
+    m_edit->setText(m_loaded);
+    m_edit->setCursorPosition(0);
 }
 
 bool TextSettingField::isChanged() const {
-    return edit_->text() != loaded_;
+    return m_edit->text() != m_loaded;
 }
 
 bool TextSettingField::save() {
     if (!isChanged()) {
         return true;
     }
-    return write(store_, row_, edit_->text());
+    return write(m_store, m_row, m_edit->text());
 }
 
 }  // namespace sandogh

@@ -11,17 +11,17 @@ class TextSettingField final : public SettingField {
 public:
     TextSettingField(const SettingDescriptor& row, SettingsStore& store, QWidget* parent);
 
-    QString label() const override { return row_.captionText(); }
+    QString label() const override { return m_row.captionText(); }
     QWidget* editor() const override;
     void load() override;
     bool isChanged() const override;
     bool save() override;
 
 private:
-    SettingDescriptor row_;
-    SettingsStore& store_;
-    QLineEdit* edit_;
-    QString loaded_;
+    SettingDescriptor m_row;
+    SettingsStore& m_store;
+    QLineEdit* m_edit;
+    QString m_loaded;
 };
 
 }  // namespace sandogh

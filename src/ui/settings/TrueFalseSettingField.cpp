@@ -6,31 +6,31 @@ namespace sandogh {
 
 TrueFalseSettingField::TrueFalseSettingField(const SettingDescriptor& row, SettingsStore& store,
                                              QWidget* parent)
-    : row_(row), store_(store), check_(new QCheckBox(row.captionText(), parent)) {
-    check_->setObjectName(controlName(row));
+    : m_row(row), m_store(store), m_check(new QCheckBox(row.captionText(), parent)) {
+    m_check->setObjectName(controlName(row));
 }
 
 QWidget* TrueFalseSettingField::editor() const {
-    return check_;
+    return m_check;
 }
 
 void TrueFalseSettingField::load() {
-    loaded_ =
-        keptOrDefault(store_, row_).trimmed().compare(QLatin1String("True"), Qt::CaseInsensitive) ==
-        0;
-    check_->setChecked(loaded_);
+    m_loaded = keptOrDefault(m_store, m_row)
+                   .trimmed()
+                   .compare(QLatin1String("True"), Qt::CaseInsensitive) == 0;
+    m_check->setChecked(m_loaded);
 }
 
 bool TrueFalseSettingField::isChanged() const {
-    return check_->isChecked() != loaded_;
+    return m_check->isChecked() != m_loaded;
 }
 
 bool TrueFalseSettingField::save() {
     if (!isChanged()) {
         return true;
     }
-    return write(store_, row_,
-                 check_->isChecked() ? QStringLiteral("True") : QStringLiteral("False"));
+    return write(m_store, m_row,
+                 m_check->isChecked() ? QStringLiteral("True") : QStringLiteral("False"));
 }
 
 }  // namespace sandogh

@@ -108,8 +108,8 @@ const SettingDescriptor* descriptorOf(const SettingKey& key) {
 frmSetUp::frmSetUp(const QList<SettingsStore*>& stores, const QString& programFolder,
                    MessageService& messages, QWidget* parent)
     : QWidget(parent)
-    , stores_(stores)
-    , messages_(messages)
+    , m_stores(stores)
+    , m_messages(messages)
     , lstPages(new QListWidget(this))
     , stkPages(new QStackedWidget(this))
     , cmdSave(new QPushButton(QStringLiteral("ذخيره"), this))
@@ -117,7 +117,7 @@ frmSetUp::frmSetUp(const QList<SettingsStore*>& stores, const QString& programFo
     setObjectName(QStringLiteral("frmSetUp"));
     setWindowTitle(QStringLiteral("تنظیمات"));
     setLayoutDirection(Qt::RightToLeft);
-    stores_.removeAll(nullptr);
+    m_stores.removeAll(nullptr);
 
     lstPages->setObjectName(QStringLiteral("lstPages"));
     lstPages->setMinimumWidth(170);
@@ -165,7 +165,7 @@ QString frmSetUp::notSavedMessage() {
 }
 
 SettingsStore* frmSetUp::storeFor(const SettingDescriptor& row) const {
-    for (SettingsStore* store : stores_) {
+    for (SettingsStore* store : m_stores) {
         if (store->application().compare(row.application(), Qt::CaseInsensitive) == 0) {
             return store;
         }
@@ -212,7 +212,7 @@ QWidget* frmSetUp::buildPage(const std::vector<SettingDescriptor>& rows,
         } else {
             form->addRow(field->label(), field->editor());
         }
-        fields_.push_back(std::move(field));
+        m_fields.push_back(std::move(field));
     }
     scroll->setWidget(page);
     return scroll;
@@ -251,13 +251,13 @@ std::unique_ptr<SettingField> frmSetUp::makeField(const SettingDescriptor& row,
 }
 
 void frmSetUp::reload() {
-    for (const auto& field : fields_) {
+    for (const auto& field : m_fields) {
         field->load();
     }
 }
 
 bool frmSetUp::hasChanges() const {
-    for (const auto& field : fields_) {
+    for (const auto& field : m_fields) {
         if (field->isChanged()) {
             return true;
         }
@@ -266,24 +266,24 @@ bool frmSetUp::hasChanges() const {
 }
 
 bool frmSetUp::save() {
-    for (SettingsStore* store : std::as_const(stores_)) {
+    for (SettingsStore* store : std::as_const(m_stores)) {
         store->beginBatch();
     }
     bool kept = true;
-    for (const auto& field : fields_) {
+    for (const auto& field : m_fields) {
         if (field->isChanged()) {
             kept = field->save() && kept;
         }
     }
-    for (SettingsStore* store : std::as_const(stores_)) {
+    for (SettingsStore* store : std::as_const(m_stores)) {
         kept = store->endBatch() && kept;
     }
     if (!kept) {
-        messages_.show(notSavedMessage(), MessageStyle::Critical);
+        m_messages.show(notSavedMessage(), MessageStyle::Critical);
         return false;
     }
     reload();
-    messages_.show(savedMessage(), MessageStyle::Information, savedTitle());
+    m_messages.show(savedMessage(), MessageStyle::Information, savedTitle());
     emit saved();
     return true;
 }

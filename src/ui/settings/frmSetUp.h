@@ -56,9 +56,9 @@ private:
     std::unique_ptr<SettingField> makeField(const SettingDescriptor& row,
                                             const QString& programFolder, QWidget* page) const;
 
-    QList<SettingsStore*> stores_;
-    MessageService& messages_;
-    std::vector<std::unique_ptr<SettingField>> fields_;
+    QList<SettingsStore*> m_stores;
+    MessageService& m_messages;
+    std::vector<std::unique_ptr<SettingField>> m_fields;
 
     QListWidget* lstPages;
     QStackedWidget* stkPages;

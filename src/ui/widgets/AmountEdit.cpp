@@ -9,8 +9,9 @@
 
 namespace sandogh {
 
-AmountEdit::AmountEdit(QWidget* parent) : QLineEdit(parent), validator_(new AmountValidator(this)) {
-    setValidator(validator_);
+AmountEdit::AmountEdit(QWidget* parent)
+    : QLineEdit(parent), m_validator(new AmountValidator(this)) {
+    setValidator(m_validator);
     setLayoutDirection(Qt::LeftToRight);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setInputMethodHints(Qt::ImhFormattedNumbersOnly);
@@ -32,19 +33,19 @@ void AmountEdit::setValue(double value) {
 }
 
 int AmountEdit::decimals() const {
-    return validator_->decimals();
+    return m_validator->decimals();
 }
 
 void AmountEdit::setDecimals(int decimals) {
-    validator_->setDecimals(decimals);
+    m_validator->setDecimals(decimals);
 }
 
 bool AmountEdit::negativeAllowed() const {
-    return validator_->negativeAllowed();
+    return m_validator->negativeAllowed();
 }
 
 void AmountEdit::setNegativeAllowed(bool allowed) {
-    validator_->setNegativeAllowed(allowed);
+    m_validator->setNegativeAllowed(allowed);
 }
 
 void AmountEdit::keyPressEvent(QKeyEvent* event) {

@@ -32,7 +32,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    AmountValidator* validator_;
+    AmountValidator* m_validator;
 };
 
 }  // namespace sandogh

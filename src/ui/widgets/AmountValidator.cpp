@@ -42,7 +42,7 @@ bool isDecimalPoint(QChar c) {
 AmountValidator::AmountValidator(QObject* parent) : QValidator(parent) {}
 
 void AmountValidator::setDecimals(int decimals) {
-    decimals_ = std::clamp(decimals, 0, 6);
+    m_decimals = std::clamp(decimals, 0, 6);
 }
 
 std::optional<AmountValidator::Formatted> AmountValidator::reformat(QStringView input, int cursor,
@@ -122,7 +122,7 @@ std::optional<AmountValidator::Formatted> AmountValidator::reformat(QStringView 
 }
 
 QValidator::State AmountValidator::validate(QString& input, int& pos) const {
-    const std::optional<Formatted> formatted = reformat(input, pos, decimals_, negativeAllowed_);
+    const std::optional<Formatted> formatted = reformat(input, pos, m_decimals, m_negativeAllowed);
     if (!formatted) {
         return Invalid;
     }

@@ -21,10 +21,10 @@ public:
     explicit AmountValidator(QObject* parent = nullptr);
 
     // Decimals allowed after a point; 0 (the default) refuses a point altogether.
-    int decimals() const { return decimals_; }
+    int decimals() const { return m_decimals; }
     void setDecimals(int decimals);
-    bool negativeAllowed() const { return negativeAllowed_; }
-    void setNegativeAllowed(bool allowed) { negativeAllowed_ = allowed; }
+    bool negativeAllowed() const { return m_negativeAllowed; }
+    void setNegativeAllowed(bool allowed) { m_negativeAllowed = allowed; }
 
     State validate(QString& input, int& pos) const override;
 
@@ -39,8 +39,8 @@ public:
                                              bool negativeAllowed);
 
 private:
-    int decimals_ = 0;
-    bool negativeAllowed_ = false;
+    int m_decimals = 0;
+    bool m_negativeAllowed = false;
 };
 
 }  // namespace sandogh

@@ -89,8 +89,8 @@ void JalaliDateEdit::onTextChanged() {
         style()->polish(this);
     }
     const QString date = dateText();
-    if (date != lastDate_) {
-        lastDate_ = date;
+    if (date != m_lastDate) {
+        m_lastDate = date;
         emit dateChanged(date);
     }
 }

@@ -40,7 +40,7 @@ private:
     void onTextChanged();
     void showCanonical();
 
-    QString lastDate_;
+    QString m_lastDate;
 };
 
 }  // namespace sandogh

@@ -60,7 +60,7 @@ void setCaption(QMessageBox& box, QMessageBox::StandardButton which, const QStri
 
 }  // namespace
 
-QtMessageService::QtMessageService(QWidget* parent) : parent_(parent) {}
+QtMessageService::QtMessageService(QWidget* parent) : m_parent(parent) {}
 
 bool QtMessageService::isQuestion(MessageStyle style) {
     switch (style) {
@@ -125,8 +125,8 @@ std::unique_ptr<PromptDialog> QtMessageService::buildPrompt(const QString& text,
 }
 
 QWidget* QtMessageService::dialogParent() const {
-    if (parent_) {
-        return parent_.data();
+    if (m_parent) {
+        return m_parent.data();
     }
     return QApplication::activeWindow();
 }

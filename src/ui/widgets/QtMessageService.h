@@ -31,7 +31,7 @@ public:
     // Boxes are centred on parent, or on the active window when there is none.
     explicit QtMessageService(QWidget* parent = nullptr);
 
-    void setParentWidget(QWidget* parent) { parent_ = parent; }
+    void setParentWidget(QWidget* parent) { m_parent = parent; }
 
     bool show(const QString& text, MessageStyle style,
               const QString& title = warningTitle()) override;
@@ -53,7 +53,7 @@ public:
 private:
     QWidget* dialogParent() const;
 
-    QPointer<QWidget> parent_;
+    QPointer<QWidget> m_parent;
 };
 
 }  // namespace sandogh

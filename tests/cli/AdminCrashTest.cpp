@@ -32,26 +32,19 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        Session s = db().session();
-        for (const char* sql : {
-                 "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES "
-                 "('1001', 'Bread', 2500, 2600, 0), ('3003', 'Oil', 100000, 0, 0)",
-                 "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1')",
-                 "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
-                 "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
-             }) {
-            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
-        }
+        execAll({
+            "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES "
+            "('1001', 'Bread', 2500, 2600, 0), ('3003', 'Oil', 100000, 0, 0)",
+            "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1')",
+            "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
+            "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
+        });
     }
     QStringList saleWords(int repeat) {
         return {QStringLiteral("sell"),   QStringLiteral("--dir"),    dir(),
                 QStringLiteral("--user"), QStringLiteral("cashier"),  QStringLiteral("--station"),
                 QStringLiteral("1"),      QStringLiteral("--repeat"), QString::number(repeat),
                 QStringLiteral("1001"),   QStringLiteral("3003"),     QStringLiteral("1001")};
-    }
-    qint64 scalar(const QString& sql) {
-        Session s = db().session();
-        return s.scalarInt64(sql, {}, -1);
     }
 };
 

@@ -28,30 +28,22 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        Session s = db().session();
-        for (const char* sql : {
-                 "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES "
-                 "('1001', 'Bread', 2500, 0, 0), ('3003', 'Oil', 100000, 0, 0)",
-                 "INSERT INTO Stock (Barcode, Import, Export, Stock, Branch) VALUES "
-                 "('1001', 0, 0, 0, 1), ('3003', 0, 0, 0, 1)",
-                 "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'D1'), (2, 'D2'), "
-                 "(3, 'D3'), (4, 'D4'), (5, 'D5'), (6, 'D6'), (7, 'D7'), (8, 'D8')",
-                 "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
-                 "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
-             }) {
-            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
-        }
+        execAll({
+            "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES "
+            "('1001', 'Bread', 2500, 0, 0), ('3003', 'Oil', 100000, 0, 0)",
+            "INSERT INTO Stock (Barcode, Import, Export, Stock, Branch) VALUES "
+            "('1001', 0, 0, 0, 1), ('3003', 0, 0, 0, 1)",
+            "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'D1'), (2, 'D2'), "
+            "(3, 'D3'), (4, 'D4'), (5, 'D5'), (6, 'D6'), (7, 'D7'), (8, 'D8')",
+            "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
+            "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
+        });
     }
 
     void setDailyNumbering(bool daily) {
         QFile ini(settings.filePath(QStringLiteral("Retail.ini")));
         ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
         ini.write(daily ? "[Tools]\nIsResetFactorNo=1\n" : "[Tools]\nIsResetFactorNo=0\n");
-    }
-
-    qint64 scalar(const QString& sql) {
-        Session s = db().session();
-        return s.scalarInt64(sql, {}, -1);
     }
 
     QMap<QString, double> stock() {

@@ -5,8 +5,10 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <initializer_list>
 
 #include "AdminProcess.h"
+#include "data/Database.h"
 #include "support/BackendTest.h"
 
 namespace sandogh {
@@ -35,6 +37,19 @@ protected:
         BackendTest::TearDown();
     }
     QString dir() { return testDatabase().programDir(); }
+
+    // Runs each statement on the shop; fails the test at the first that fails.
+    void execAll(std::initializer_list<const char*> statements) {
+        Session s = db().session();
+        for (const char* sql : statements) {
+            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
+        }
+    }
+    // Field 0 of the first row; -1 when the statement failed.
+    qint64 scalar(const QString& sql) {
+        Session s = db().session();
+        return s.scalarInt64(sql, {}, -1);
+    }
 
     // sandogh-admin COMMAND --dir DIR WORDS...
     AdminProcess::Result runCommand(const QString& command, QStringList words) {

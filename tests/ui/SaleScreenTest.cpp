@@ -62,21 +62,6 @@ void SaleScreenTest::addGoods(const ShopGoods& g) {
           {QStringLiteral(":aqis"), g.asksQuantity ? 1 : 0}});
 }
 
-void SaleScreenTest::addPriceChange(int code, const QString& from, const QString& to,
-                                    const QString& barcode, double newCost) {
-    exec(QStringLiteral("INSERT INTO DiscountH (Code, FDate, SDate) VALUES (:c, :f, :s)"),
-         {{QStringLiteral(":c"), code}, {QStringLiteral(":f"), from}, {QStringLiteral(":s"), to}});
-    exec(QStringLiteral("INSERT INTO DiscountD (Code, Ean_Code, NewCost) VALUES (:c, :b, :n)"),
-         {{QStringLiteral(":c"), code},
-          {QStringLiteral(":b"), barcode},
-          {QStringLiteral(":n"), newCost}});
-}
-
-void SaleScreenTest::addLock(const QString& barcode, double qty) {
-    exec(QStringLiteral("INSERT INTO ItemLock (Ean_Code, Qty, IsLock) VALUES (:b, :q, 1)"),
-         {{QStringLiteral(":b"), barcode}, {QStringLiteral(":q"), qty}});
-}
-
 void SaleScreenTest::addDocument(qint64 code, int transType, const QString& barcode, double qty,
                                  double docSum, double received, const QString& date) {
     exec(QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, StationID, "
@@ -95,15 +80,6 @@ void SaleScreenTest::addDocument(qint64 code, int transType, const QString& barc
           {QStringLiteral(":q"), qty}});
 }
 
-void SaleScreenTest::addUser(int id, const QString& userName, bool active) {
-    exec(QStringLiteral("INSERT INTO Users (ID, Name, UserName, Active) VALUES (:id, :name, :user, "
-                        ":active)"),
-         {{QStringLiteral(":id"), id},
-          {QStringLiteral(":name"), userName},
-          {QStringLiteral(":user"), userName},
-          {QStringLiteral(":active"), active ? 1 : 0}});
-}
-
 void SaleScreenTest::addCustomer(int counter, const QString& code, const QString& name,
                                  const QString& family, const QString& mobile) {
     exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, Value5, Account) "
@@ -117,7 +93,7 @@ void SaleScreenTest::addCustomer(int counter, const QString& code, const QString
 }
 
 frmSale& SaleScreenTest::openScreen() {
-    m_screen = std::make_unique<frmSale>(db(), settings(), messages(), m_clock);
+    m_screen = std::make_unique<frmSale>(db(), *m_settings, messages(), m_clock);
     m_screen->resize(1280, 720);
     m_screen->show();
     QApplication::setActiveWindow(m_screen.get());

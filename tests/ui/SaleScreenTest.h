@@ -14,7 +14,6 @@
 
 #include "data/Session.h"
 #include "sales/SaleActions.h"
-#include "sales/TotalDisplay.h"
 #include "settings/MachineSettings.h"
 #include "settings/QSettingsStore.h"
 #include "support/FixedClock.h"
@@ -28,13 +27,6 @@ namespace sandogh {
 class frmSale;
 
 namespace test {
-
-// The totals the customer display was sent.
-class RecordingTotalDisplay final : public TotalDisplay {
-public:
-    void showTotal(const QString& amountText) override { shown << amountText; }
-    QStringList shown;
-};
 
 // What the screen handed on to saving, payment and the terminals.
 class RecordingSaleActions final : public SaleActions {
@@ -94,8 +86,6 @@ protected:
 
     Database& db() { return m_db->database(); }
     RecordingMessageService& messages() { return m_db->messages(); }
-    MachineSettings& settings() { return *m_settings; }
-    FixedClock& clock() { return m_clock; }
 
     // Sets a switch of this desk before the screen opens.
     void setOption(const char* section, const char* key, const QString& value);
@@ -103,14 +93,10 @@ protected:
     void exec(const QString& sql, const SqlBinds& binds = {});
 
     void addGoods(const ShopGoods& goods);
-    void addPriceChange(int code, const QString& from, const QString& to, const QString& barcode,
-                        double newCost);
-    void addLock(const QString& barcode, double qty);
     // A document of this desk's station with one line: 1 purchase, 2 sale, 3 return.
     void addDocument(qint64 code, int transType, const QString& barcode, double qty,
                      double docSum = 0, double received = 0,
                      const QString& date = QStringLiteral("1404/01/01"));
-    void addUser(int id, const QString& userName, bool active = true);
     void addCustomer(int counter, const QString& code, const QString& name, const QString& family,
                      const QString& mobile = {});
 

@@ -27,11 +27,7 @@ namespace {
 class frmSaleInterTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(app.openShop(true));
-        UserAccount user;
-        user.id = 1;
-        app.context.setUser(user);
-        app.context.setStation({1, QStringLiteral("صندوق ۱")});
+        ASSERT_TRUE(app.openDesk());
         Session s = app.context.database().session();
         ASSERT_GT(CenterBranchesRepository::add(s, QStringLiteral("شعبه ۱"),
                                                 CenterBranchesRepository::kBranch),

@@ -116,14 +116,11 @@ TEST_F(InternalDocumentsScreensTest, TheReprintProposesTheLastNumberAndAsksTheDa
 }
 
 TEST_F(InternalDocumentsScreensTest, TheMainWindowOpensTheDeleteScreenForAnAdministrator) {
-    frmMain window(app.context);
-    window.Form_Load();
-    window.show();
-    window.applyPermissions(Permissions(PermissionLevel::Cashier));
-    EXPECT_FALSE(window.command(QStringLiteral("mnuDeleteFactorInternal"))->isEnabled());
-    window.applyPermissions(Permissions(PermissionLevel::Administrator));
-    window.command(QStringLiteral("mnuDeleteFactorInternal"))->trigger();
-    QMdiSubWindow* active = window.mdiArea()->activeSubWindow();
+    const auto window = app.openMain(PermissionLevel::Cashier);
+    EXPECT_FALSE(window->command(QStringLiteral("mnuDeleteFactorInternal"))->isEnabled());
+    window->applyPermissions(Permissions(PermissionLevel::Administrator));
+    window->command(QStringLiteral("mnuDeleteFactorInternal"))->trigger();
+    QMdiSubWindow* active = window->mdiArea()->activeSubWindow();
     ASSERT_NE(active, nullptr);
     EXPECT_NE(qobject_cast<frmDeleteFactorInternal*>(active->widget()), nullptr);
 }

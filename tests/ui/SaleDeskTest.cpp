@@ -57,19 +57,14 @@ protected:
         app.context.machineSettings().write(key, value);
     }
 
-    std::unique_ptr<frmMain> openMain(PermissionLevel level = PermissionLevel::Cashier) {
-        auto window = std::make_unique<frmMain>(app.context);
-        window->Form_Load();
-        window->applyPermissions(Permissions(level));
-        window->show();
-        QApplication::setActiveWindow(window.get());
-        return window;
-    }
-
-    // The sale screen opened through the menu, the focus in its barcode box.
-    frmSale* openSale(frmMain& window) {
-        window.command(QStringLiteral("mnuSale"))->trigger();
-        QMdiSubWindow* active = window.mdiArea()->activeSubWindow();
+    // The sale screen opened through the menu of a cashier's main window, the focus in its
+    // barcode box.
+    frmSale* openSale() {
+        if (window == nullptr) {
+            window = app.openMain(PermissionLevel::Cashier);
+        }
+        window->command(QStringLiteral("mnuSale"))->trigger();
+        QMdiSubWindow* active = window->mdiArea()->activeSubWindow();
         auto* screen = active == nullptr ? nullptr : qobject_cast<frmSale*>(active->widget());
         EXPECT_NE(screen, nullptr);
         if (screen != nullptr) {
@@ -83,41 +78,40 @@ protected:
         QTest::keyClick(screen.txtBarcode, Qt::Key_Return);
     }
 
-    static int saleScreens(const frmMain& window) {
-        int count = 0;
-        for (QMdiSubWindow* child : window.mdiArea()->subWindowList()) {
-            count += qobject_cast<frmSale*>(child->widget()) != nullptr ? 1 : 0;
+    QList<frmSale*> saleScreens() const {
+        QList<frmSale*> screens;
+        for (QMdiSubWindow* child : window->mdiArea()->subWindowList()) {
+            if (auto* screen = qobject_cast<frmSale*>(child->widget()); screen != nullptr) {
+                screens << screen;
+            }
         }
-        return count;
+        return screens;
     }
 
     test::ScreenTestContext app;
+    std::unique_ptr<frmMain> window;
 };
 
 TEST_F(SaleDeskTest, TheMenuOpensOneSaleScreenAndF3Another) {
     setOption(settingkeys::SalesNewForm, QStringLiteral("1"));
-    auto window = openMain();
-    ASSERT_TRUE(window->command(QStringLiteral("mnuSale"))->isVisible());
-    frmSale* first = openSale(*window);
+    frmSale* first = openSale();
     ASSERT_NE(first, nullptr);
     EXPECT_NE(SaleDesk::of(*first), nullptr);
     // The menu again brings the open one forward.
-    EXPECT_EQ(openSale(*window), first);
-    EXPECT_EQ(saleScreens(*window), 1);
+    EXPECT_EQ(openSale(), first);
+    EXPECT_EQ(saleScreens().size(), 1);
 
     QTest::keyClick(first->txtBarcode, Qt::Key_F3);
-    EXPECT_EQ(saleScreens(*window), 2);
+    EXPECT_EQ(saleScreens().size(), 2);
     QTest::keyClick(first->txtBarcode, Qt::Key_F3);
-    EXPECT_EQ(saleScreens(*window), 3);
+    EXPECT_EQ(saleScreens().size(), 3);
 
     // A rung-up line goes to the screen's own sale, not to the others.
     scan(*first, kBarcode);
     EXPECT_EQ(first->session().lines().size(), 1);
-    int lines = 0;
-    for (QMdiSubWindow* child : window->mdiArea()->subWindowList()) {
-        if (auto* screen = qobject_cast<frmSale*>(child->widget()); screen != nullptr) {
-            lines += static_cast<int>(screen->session().lines().size());
-        }
+    qsizetype lines = 0;
+    for (frmSale* screen : saleScreens()) {
+        lines += screen->session().lines().size();
     }
     EXPECT_EQ(lines, 1);
 }
@@ -135,8 +129,7 @@ protected:
 };
 
 TEST_F(SaleDeskPecTest, F5SendsThePayableAndTheScreenGoesOnUntilTheAnswer) {
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
+    frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     screen->txtNo->setText(QStringLiteral("57"));
     scan(*screen, kBarcode);
@@ -174,8 +167,7 @@ TEST_P(SaleDeskSaveTest, ASaleTypedAndSavedLandsInTheShopAndTheScreenStartsAnew)
     QDir(app.programFolder()).mkpath(QStringLiteral("Program"));
     QFile exe(app.path(QStringLiteral("Program/KotrimoAcc.exe")));
     ASSERT_TRUE(exe.open(QIODevice::WriteOnly));
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
+    frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     const QString number = screen->txtNo->text();
     ASSERT_FALSE(number.isEmpty());
@@ -218,8 +210,7 @@ INSTANTIATE_TEST_SUITE_P(Receipt, SaleDeskSaveTest,
                          test::CaseName());
 
 TEST_F(SaleDeskTest, TheChangeStaysInSightUntilTheNextScanAndAReturnShowsItsNumber) {
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
+    frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     scan(*screen, kBarcode);
     QTest::keyClicks(screen->totalsPanel()->txtReceivedPrice, QStringLiteral("200000"));
@@ -248,8 +239,7 @@ TEST_F(SaleDeskTest, TheChangeStaysInSightUntilTheNextScanAndAReturnShowsItsNumb
 }
 
 TEST_F(SaleDeskTest, ARefusedSaveKeepsTheSale) {
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
+    frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     const QString number = screen->txtNo->text();
     scan(*screen, kBarcode);
@@ -282,8 +272,7 @@ TEST_F(SaleDeskTest, TheLoyaltyButtonGivesTheEarnedGiftsAndSavingCountsThem) {
                                       "250000)"),
                        {{QStringLiteral(":c"), customer}}));
 
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
+    frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     scan(*screen, kBarcode);
     ASSERT_TRUE(screen->session().selectCustomer(int(customer)));

@@ -161,17 +161,13 @@ TEST_F(SavedSalesScreensTest, TheEditorSavesWhatIsTypedIntoItsGrid) {
 
 TEST_F(SavedSalesScreensTest, CtrlPOnTheSaleScreenOpensTheDeleteScreenWhenAllowed) {
     for (const PermissionLevel level : {PermissionLevel::Cashier, PermissionLevel::Administrator}) {
-        frmMain window(app.context);
-        window.Form_Load();
-        window.applyPermissions(Permissions(level));
-        window.show();
-        QApplication::setActiveWindow(&window);
-        window.command(QStringLiteral("mnuSale"))->trigger();
-        auto* sale = qobject_cast<frmSale*>(window.mdiArea()->activeSubWindow()->widget());
+        const auto window = app.openMain(level);
+        window->command(QStringLiteral("mnuSale"))->trigger();
+        auto* sale = qobject_cast<frmSale*>(window->mdiArea()->activeSubWindow()->widget());
         ASSERT_NE(sale, nullptr);
         sale->txtBarcode->setFocus();
         QTest::keyClick(sale->txtBarcode, Qt::Key_P, Qt::ControlModifier);
-        QMdiSubWindow* active = window.mdiArea()->activeSubWindow();
+        QMdiSubWindow* active = window->mdiArea()->activeSubWindow();
         const bool opened =
             active != nullptr && qobject_cast<frmDeleteFactor*>(active->widget()) != nullptr;
         EXPECT_EQ(opened, level == PermissionLevel::Administrator);

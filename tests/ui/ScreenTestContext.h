@@ -4,13 +4,16 @@
 // shop database in its program folder, made the way sandogh-admin demo makes it.
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QTest>
 
 #include "app/DemoShop.h"
+#include "app/Permissions.h"
 #include "app/ShopDatabaseSetup.h"
 #include "data/ErrorLog.h"
 #include "data/Session.h"
 #include "support/AppTestContext.h"
+#include "ui/app/frmMain.h"
 
 namespace sandogh::test {
 
@@ -48,6 +51,16 @@ public:
         context.setUser(user);
         context.setStation({1, QStringLiteral("صندوق ۱")});
         return true;
+    }
+
+    // The main window as the login leaves it for a user of the level, shown and active.
+    std::unique_ptr<frmMain> openMain(PermissionLevel level) {
+        auto window = std::make_unique<frmMain>(context);
+        window->Form_Load();
+        window->applyPermissions(Permissions(level));
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        return window;
     }
 
     qint64 count(const QString& sql, const SqlBinds& binds = {}) {

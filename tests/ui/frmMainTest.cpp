@@ -27,13 +27,7 @@ class frmMainTest : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(app.openDesk()); }
 
-    std::unique_ptr<frmMain> openWindow(PermissionLevel level) {
-        auto window = std::make_unique<frmMain>(app.context);
-        window->Form_Load();
-        window->applyPermissions(Permissions(level));
-        window->show();
-        return window;
-    }
+    std::unique_ptr<frmMain> openWindow(PermissionLevel level) { return app.openMain(level); }
     static QAction* action(const frmMain& window, const char* name) {
         return test::child<QAction>(window, name);
     }

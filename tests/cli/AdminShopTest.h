@@ -59,6 +59,30 @@ protected:
         return AdminProcess::run(words);
     }
 
+    // Every sale whole after desks saved at once or were killed: two lines under each of the
+    // headers, their total the header's, no line without its header, each header its own
+    // balanced voucher and no voucher without one.
+    void expectWholeSales(qint64 headers) {
+        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), headers);
+        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H WHERE (SELECT COUNT(*) "
+                                        "FROM Whs_QTYDocD D WHERE D.Code = H.Code) <> 2 OR "
+                                        "H.DocSum <> (SELECT SUM(D.Price) FROM Whs_QTYDocD D WHERE "
+                                        "D.Code = H.Code)")),
+                  0);
+        EXPECT_EQ(
+            scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocD D LEFT JOIN Whs_QTYDocH H "
+                                  "ON H.Code = D.Code WHERE H.Code IS NULL")),
+            0);
+        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(DISTINCT H.DocumentHID) FROM Whs_QTYDocH H "
+                                        "INNER JOIN tblDocumentH V ON V.ID = H.DocumentHID")),
+                  headers);
+        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), headers);
+        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH V WHERE (SELECT "
+                                        "COALESCE(SUM(Debt), 0) - COALESCE(SUM(Credit), 0) FROM "
+                                        "tblDocumentD D WHERE D.DocumentHID = V.ID) <> 0")),
+                  0);
+    }
+
     QTemporaryDir settings;
 };
 

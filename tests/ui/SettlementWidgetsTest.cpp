@@ -158,9 +158,11 @@ TEST(frmSalePaymentTest, RowsMustAddUpBeforeOk) {
     const QList<SalePayment> rows = dialog.payments();
     ASSERT_EQ(rows.size(), 2);
     EXPECT_EQ(rows[0].kind, SalePayment::Cash);
+    EXPECT_EQ(rows[0].accountingGroupId, 11);
     EXPECT_DOUBLE_EQ(rows[0].amount, 45000);
     EXPECT_EQ(rows[1].kind, SalePayment::BankTerminal);
     EXPECT_EQ(rows[1].posId, QStringLiteral("31005566"));
+    EXPECT_DOUBLE_EQ(rows[1].amount, 50000);
 }
 
 TEST(frmSalePaymentTest, RunsModallyAndCancelKeepsNothing) {

@@ -90,6 +90,10 @@ TEST_P(frmGoodTest, AnArticleWithItsLevelsIsSavedAsTyped) {
     auto screen = openGood();
     EXPECT_EQ(control<QLineEdit>(screen.get(), QStringLiteral("txtBarcode"))->text(),
               QStringLiteral("1"));
+    EXPECT_EQ(control<QRadioButton>(screen.get(), QStringLiteral("optCounted"))->text(),
+              QStringLiteral("کالا تعدادي"));
+    EXPECT_EQ(control<QRadioButton>(screen.get(), QStringLiteral("optWeighed"))->text(),
+              QStringLiteral("کالاي وزني"));
     EXPECT_TRUE(screen->hasLevel(1));
     EXPECT_TRUE(screen->hasLevel(2));
     EXPECT_FALSE(screen->hasLevel(3));

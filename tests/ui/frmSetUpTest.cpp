@@ -1,3 +1,6 @@
+// The set-up screen: a page and a named editor for every setting of the catalogue, the
+// kept value or the default shown, only what was changed written, and a refused write told.
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -13,8 +16,8 @@
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QToolButton>
 
+#include "ScreenTestContext.h"
 #include "TypeText.h"
 #include "settings/QSettingsStore.h"
 #include "settings/SettingsCatalogue.h"
@@ -49,13 +52,6 @@ protected:
         return screen;
     }
 
-    template <typename T>
-    static T* control(const frmSetUp& screen, const QString& name) {
-        T* found = screen.findChild<T*>(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return found;
-    }
-
     // The keys the INI file holds, as "Section/Key".
     QStringList keptKeys(const QString& path) const {
         return QSettings(path, QSettings::IniFormat).allKeys();
@@ -69,9 +65,9 @@ protected:
 
 TEST_F(frmSetUpTest, OnePageForEachPageOfTheCatalogueShownWhenChosen) {
     const auto screen = openScreen();
-    auto* pages = control<QListWidget>(*screen, QStringLiteral("lstPages"));
-    auto* stack = control<QStackedWidget>(*screen, QStringLiteral("stkPages"));
-    auto* display = control<QCheckBox>(*screen, QStringLiteral("IsActivePoolDisplay/Enable"));
+    auto* pages = test::child<QListWidget>(*screen, "lstPages");
+    auto* stack = test::child<QStackedWidget>(*screen, "stkPages");
+    auto* display = test::child<QCheckBox>(*screen, "IsActivePoolDisplay/Enable");
     ASSERT_TRUE(pages && stack && display);
     EXPECT_EQ(pages->count(), 12);
     EXPECT_EQ(stack->count(), pages->count());
@@ -170,12 +166,12 @@ TEST_F(frmSetUpTest, LoadingShowsTheKeptValueOrTheDefault) {
 
 TEST_F(frmSetUpTest, SavedValuesReadBackFromTheFile) {
     auto screen = openScreen();
-    auto* display = control<QCheckBox>(*screen, QStringLiteral("IsActivePoolDisplay/Enable"));
-    auto* device = control<QLineEdit>(*screen, QStringLiteral("Devices/MSComm1"));
-    auto* port = control<QSpinBox>(*screen, QStringLiteral("PortNo/No"));
-    auto* above = control<AmountEdit>(*screen, QStringLiteral("SaleOptions/CustomerAboveAmount"));
-    auto* output = control<QComboBox>(*screen, QStringLiteral("Receipt/Output"));
-    auto* save = control<QPushButton>(*screen, QStringLiteral("cmdSave"));
+    auto* display = test::child<QCheckBox>(*screen, "IsActivePoolDisplay/Enable");
+    auto* device = test::child<QLineEdit>(*screen, "Devices/MSComm1");
+    auto* port = test::child<QSpinBox>(*screen, "PortNo/No");
+    auto* above = test::child<AmountEdit>(*screen, "SaleOptions/CustomerAboveAmount");
+    auto* output = test::child<QComboBox>(*screen, "Receipt/Output");
+    auto* save = test::child<QPushButton>(*screen, "cmdSave");
     ASSERT_TRUE(display && device && port && above && output && save);
 
     QTest::keyClick(display, Qt::Key_Space);
@@ -210,9 +206,9 @@ TEST_F(frmSetUpTest, SavedValuesReadBackFromTheFile) {
 
 TEST_F(frmSetUpTest, ExitClosesWithoutWriting) {
     const auto screen = openScreen();
-    auto* display = control<QCheckBox>(*screen, QStringLiteral("IsActivePoolDisplay/Enable"));
-    auto* device = control<QLineEdit>(*screen, QStringLiteral("Devices/MSComm1"));
-    auto* exit = control<QPushButton>(*screen, QStringLiteral("cmdExit"));
+    auto* display = test::child<QCheckBox>(*screen, "IsActivePoolDisplay/Enable");
+    auto* device = test::child<QLineEdit>(*screen, "Devices/MSComm1");
+    auto* exit = test::child<QPushButton>(*screen, "cmdExit");
     ASSERT_TRUE(display && device && exit);
     QTest::keyClick(display, Qt::Key_Space);
     QTest::keyClicks(device, QStringLiteral("/dev/pts/7"));
@@ -231,7 +227,7 @@ TEST_F(frmSetUpTest, ARefusedWriteIsReported) {
     QSettingsStore blocked(QStringLiteral("Retail"),
                            folder.filePath(QStringLiteral("Blocked.ini")));
     frmSetUp screen({&blocked}, folder.path(), messages);
-    auto* mizan = control<QCheckBox>(screen, QStringLiteral("Scale/IsActiveMizan"));
+    auto* mizan = test::child<QCheckBox>(screen, "Scale/IsActiveMizan");
     ASSERT_NE(mizan, nullptr);
     QTest::keyClick(mizan, Qt::Key_Space);
     EXPECT_FALSE(screen.save());

@@ -1,5 +1,5 @@
-// The demo shop: everything a first look at the program needs, added once; a second
-// seeding adds nothing, and the demo users can log in.
+// The demo shop: everything a first look at the program needs, its purchase history
+// included, added once; a second seeding adds nothing, and the demo users can log in.
 
 #include <gtest/gtest.h>
 
@@ -34,6 +34,7 @@ const QStringList kTables{
     QStringLiteral("tblCustomerGroup"),
     QStringLiteral("Display"),
     QStringLiteral("Sentences"),
+    QStringLiteral("Whs_QTYDocH"),
 };
 
 class DemoShopTest : public test::ShopBackendTest {
@@ -69,6 +70,23 @@ TEST_P(DemoShopTest, TheShopIsReadyForTheCashDesk) {
     const qint64 goods = count(QStringLiteral("SELECT COUNT(*) FROM Goods"));
     EXPECT_GE(goods, 200);
     EXPECT_EQ(goods, static_cast<qint64>(DemoGoods::articles().size()));
+    // Suppliers with their accounts; purchases, each with its voucher; stock is what the lines
+    // brought in.
+    EXPECT_GT(count(QStringLiteral("SELECT COUNT(*) FROM Types WHERE TypeNo = 11")), 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types T LEFT JOIN tblAccountingGroup A "
+                                   "ON A.ID = T.AccountingGroupID WHERE T.TypeNo = 11 AND "
+                                   "A.ID IS NULL")),
+              0);
+    const qint64 purchases =
+        count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE TransType = 1"));
+    EXPECT_GT(purchases, 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H INNER JOIN tblDocumentH V "
+                                   "ON V.ID = H.DocumentHID")),
+              purchases);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Stock S WHERE S.Stock <> (SELECT "
+                                   "COALESCE(SUM(D.Qty), 0) FROM Whs_QTYDocD D WHERE "
+                                   "D.EAN_Code = S.Barcode)")),
+              0);
     // Every article has its stock row and a unit of the unit list.
     EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Goods G INNER JOIN Stock S "
                                    "ON S.Barcode = G.EAN_Code")),
@@ -92,7 +110,6 @@ TEST_P(DemoShopTest, TheShopIsReadyForTheCashDesk) {
     EXPECT_GT(count(QStringLiteral("SELECT COUNT(*) FROM Types WHERE TypeNo = 10 AND "
                                    "CstGrpCode IN (SELECT Code FROM tblCustomerGroup)")),
               0);
-    EXPECT_GT(count(QStringLiteral("SELECT COUNT(*) FROM Types WHERE TypeNo = 11")), 0);
     EXPECT_EQ(text(QStringLiteral("SELECT Company_Name FROM Company")), DemoShop::shopName());
     EXPECT_EQ(text(QStringLiteral("SELECT Display FROM Display")),
               QString::fromLatin1(DemoShop::kGreeting));

@@ -20,6 +20,8 @@ TEST(PasswordHasherTest, AHashIsArgon2idAndVerifiesOnlyItsPassword) {
     EXPECT_FALSE(PasswordHasher::verify(hash, QStringLiteral("رمز-۱۲۳")));
     EXPECT_FALSE(PasswordHasher::verify(hash, QString()));
     EXPECT_FALSE(PasswordHasher::needsRehash(hash));
+    // A column padded with blanks still verifies.
+    EXPECT_TRUE(PasswordHasher::verify(hash + QStringLiteral("   "), QStringLiteral("رمز-۱۲۳4")));
 }
 
 TEST(PasswordHasherTest, TextsThatAreNotHashesNeverVerify) {
@@ -38,11 +40,6 @@ TEST(PasswordHasherTest, TextsThatAreNotHashesNeverVerify) {
             << c.stored;
     }
     EXPECT_FALSE(PasswordHasher::isHash(QStringLiteral("argon2id")));
-}
-
-TEST(PasswordHasherTest, AHashWithPaddingBlanksStillVerifies) {
-    const QString hash = PasswordHasher::hash(QStringLiteral("pass"));
-    EXPECT_TRUE(PasswordHasher::verify(hash + QStringLiteral("   "), QStringLiteral("pass")));
 }
 
 TEST(PasswordHasherTest, AHashOfWeakerLimitsIsToBeRedone) {

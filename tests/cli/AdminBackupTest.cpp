@@ -31,16 +31,13 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        Session s = db().session();
-        for (const char* sql : {
-                 "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES "
-                 "('1001', 'Bread', 2500, 2600, 0)",
-                 "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1')",
-                 "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
-                 "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
-             }) {
-            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
-        }
+        execAll({
+            "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES "
+            "('1001', 'Bread', 2500, 2600, 0)",
+            "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1')",
+            "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
+            "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
+        });
     }
 
     void TearDown() override {

@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "AdminProcess.h"
 #include "AdminShopTest.h"
-#include "data/Database.h"
-#include "data/SqlQuery.h"
 #include "purchase/PurchaseTexts.h"
 
 namespace sandogh {
@@ -18,21 +15,18 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        Session s = db().session();
-        for (const char* sql : {
-                 "INSERT INTO Goods (EAN_Code, Name, Cost) VALUES ('1001', 'Bread', 2500), "
-                 "('3003', 'Oil', 100000)",
-                 "INSERT INTO Users (Name, UserName, Active) VALUES ('Clerk', 'clerk', 1)",
-                 "INSERT INTO tblAccountingGroup (Code, ParentCode, Name) VALUES (301, 30, 'P'), "
-                 "(401, 40, 'S')",
-                 "INSERT INTO Types (Counter, TypeNo, Name, Active, AccountingGroupID) SELECT 601, "
-                 "11, 'S', 1, ID FROM tblAccountingGroup WHERE Code = 401",
-                 "INSERT INTO Types (Counter, TypeNo, Name, Active) VALUES (602, 11, 'T', 1)",
-             }) {
-            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
-        }
+        execAll({
+            "INSERT INTO Goods (EAN_Code, Name, Cost) VALUES ('1001', 'Bread', 2500), "
+            "('3003', 'Oil', 100000)",
+            "INSERT INTO Users (Name, UserName, Active) VALUES ('Clerk', 'clerk', 1)",
+            "INSERT INTO tblAccountingGroup (Code, ParentCode, Name) VALUES (301, 30, 'P'), "
+            "(401, 40, 'S')",
+            "INSERT INTO Types (Counter, TypeNo, Name, Active, AccountingGroupID) SELECT 601, "
+            "11, 'S', 1, ID FROM tblAccountingGroup WHERE Code = 401",
+            "INSERT INTO Types (Counter, TypeNo, Name, Active) VALUES (602, 11, 'T', 1)",
+        });
         group = QString::number(
-            s.scalarInt64(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = 301")));
+            scalar(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = 301")));
     }
     AdminProcess::Result buy(const QStringList& rest, const char* supplier = "601") {
         return runCommand(QStringLiteral("buy"),
@@ -59,11 +53,9 @@ TEST_P(AdminBuyTest, SavesLinesWithTheirTermsOrTheLastOnesAndPrintsTheDocument) 
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("Code=3 DocNo=880 DocSum=250\n"));
 
-    Session s = db().session();
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT DocDate FROM Whs_QTYDocH WHERE Code = 1")),
-              QStringLiteral("1404/02/03"));
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT Discount FROM Whs_QTYDocH WHERE Code = 1")),
-              100);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE Code = 1 AND "
+                                    "DocDate = '1404/02/03' AND Discount = 100")),
+              1);
 }
 
 TEST_P(AdminBuyTest, RefusalsPrintTheirMessageAndBadWordsTheUsage) {
@@ -75,11 +67,6 @@ TEST_P(AdminBuyTest, RefusalsPrintTheirMessageAndBadWordsTheUsage) {
     };
     const QList<Case> cases = {
         {{QStringLiteral("1001")}, "602", 1, PurchaseTexts::supplierWithoutAccount()},
-        {{QStringLiteral("9999")}, "601", 1, PurchaseTexts::goodsNotFound().trimmed()},
-        {{QStringLiteral("--number"), QStringLiteral("A1"), QStringLiteral("1001")},
-         "601",
-         1,
-         PurchaseTexts::docNoNotANumber()},
         {{QStringLiteral("1001:x")}, "601", 2, QStringLiteral("bad term")},
         {{QStringLiteral("1001:1:2:3:4:5")}, "601", 2, QStringLiteral("bad LINE")},
         {{}, "601", 2, QStringLiteral("no LINE")},
@@ -91,9 +78,8 @@ TEST_P(AdminBuyTest, RefusalsPrintTheirMessageAndBadWordsTheUsage) {
         EXPECT_TRUE(QString::fromUtf8(r.err).contains(c.err)) << r.err.toStdString();
         EXPECT_TRUE(r.outText().isEmpty());
     }
-    Session s = db().session();
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), 0);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), 0);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(AdminBuyTest);

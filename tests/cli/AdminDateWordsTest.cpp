@@ -1,3 +1,6 @@
+// sandogh-admin date and words: one line of output for good words, exit 2 and a message
+// naming the bad word otherwise. The calendar and the spelling are tested under common.
+
 #include <gtest/gtest.h>
 
 #include <QDate>
@@ -25,21 +28,15 @@ TEST_P(AdminOutputTest, PrintsOneLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     Commands, AdminOutputTest,
-    testing::Values(
-        OutputCase{{"date", "2025-03-21"}, QStringLiteral("1404/01/01\tجمعه\n")},
-        OutputCase{{"date", "2025-03-20"}, QStringLiteral("1403/12/30\tپنج شنبه\n")},
-        OutputCase{{"date", "1998-03-20"}, QStringLiteral("1376/12/29\tجمعه\n")},
-        OutputCase{{"date", "1999-03-20"}, QStringLiteral("1376/12/394\tشنبه\n")},
-        OutputCase{{"date", "2025-03-23"}, QStringLiteral("1404/01/03\tيکشنبه\n")},
-        OutputCase{{"date", "--dir", "/tmp", "1901-03-21"},
-                   QStringLiteral("1280/01/01\tپنج شنبه\n")},
-        OutputCase{{"words", "0"}, QStringLiteral("\n")},
-        OutputCase{{"words", "1250000"}, QStringLiteral("يك ميليون و دويست و پنجاه هزار\n")},
-        OutputCase{{"words", "2005"}, QStringLiteral("دو هزار و پنج\n")},
-        OutputCase{{"words", "000100100"}, QStringLiteral("يكصد هزار و يكصد\n")},
-        OutputCase{{"words", "\u06F2\u06F0\u06F0\u06F5"}, QStringLiteral("دو هزار و پنج\n")},
-        OutputCase{{"words", "1000000000000000"}, QStringLiteral("بسيار بزرگ\n")},
-        OutputCase{{"words", "99999999999999999999"}, QStringLiteral("بسيار بزرگ\n")}));
+    testing::Values(OutputCase{{"date", "2025-03-21"}, QStringLiteral("1404/01/01\tجمعه\n")},
+                    OutputCase{{"date", "1999-03-20"}, QStringLiteral("1376/12/394\tشنبه\n")},
+                    OutputCase{{"date", "--dir", "/tmp", "1901-03-21"},
+                               QStringLiteral("1280/01/01\tپنج شنبه\n")},
+                    OutputCase{{"words", "0"}, QStringLiteral("\n")},
+                    OutputCase{{"words", "000100100"}, QStringLiteral("يكصد هزار و يكصد\n")},
+                    OutputCase{{"words", "\u06F2\u06F0\u06F0\u06F5"},
+                               QStringLiteral("دو هزار و پنج\n")},
+                    OutputCase{{"words", "99999999999999999999"}, QStringLiteral("بسيار بزرگ\n")}));
 
 TEST(AdminDateTest, TodayWithoutAnArgument) {
     const QString before = QDate::currentDate().toString(Qt::ISODate);
@@ -67,12 +64,11 @@ TEST_P(AdminBadArgumentsTest, ExitTwoWithAMessage) {
 INSTANTIATE_TEST_SUITE_P(
     Arguments, AdminBadArgumentsTest,
     testing::Values(QStringList{"date", "2025-02-30"}, QStringList{"date", "2025-3-1"},
-                    QStringList{"date", "21/03/2025"}, QStringList{"date", "1404/01/01"},
-                    QStringList{"date", "2025-03-21", "extra"}, QStringList{"date", "--today"},
-                    QStringList{"date", "1800-01-01"}, QStringList{"date", "2300-01-01"},
-                    QStringList{"date", ""}, QStringList{"words"}, QStringList{"words", "-5"},
-                    QStringList{"words", "1.5"}, QStringList{"words", "1,000"},
-                    QStringList{"words", "abc"}, QStringList{"words", ""},
+                    QStringList{"date", "1404/01/01"}, QStringList{"date", "2025-03-21", "extra"},
+                    QStringList{"date", "--today"}, QStringList{"date", "1800-01-01"},
+                    QStringList{"date", "2300-01-01"}, QStringList{"date", ""},
+                    QStringList{"words"}, QStringList{"words", "-5"}, QStringList{"words", "1.5"},
+                    QStringList{"words", "1,000"}, QStringList{"words", ""},
                     QStringList{"words", "12", "34"}, QStringList{"words", "--number", "5"},
                     QStringList{"words", " 12"}, QStringList{"no-such-command"}, QStringList{}));
 

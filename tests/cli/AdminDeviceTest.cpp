@@ -1,70 +1,17 @@
-#include <fcntl.h>
-#include <gtest/gtest.h>
-#include <poll.h>
-#include <termios.h>
-#include <unistd.h>
+// sandogh-admin device: the bytes of a frame printed instead of sent, the card terminal's
+// answer over a pseudo-terminal, the ports of this machine, and the words refused.
 
-#include <QDeadlineTimer>
+#include <gtest/gtest.h>
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <cstdlib>
 
 #include "AdminProcess.h"
+#include "PtyPair.h"
 
 namespace sandogh {
 namespace {
-
-// A pseudo-terminal standing in for a device on a serial line: sandogh-admin
-// opens slave(), the test reads and writes the master side.
-class Pty {
-public:
-    Pty() {
-        m_master = posix_openpt(O_RDWR | O_NOCTTY);
-        if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0)
-            return;
-        m_path = QString::fromLocal8Bit(ptsname(m_master));
-        // Held open by the test so the line never hangs up between opens.
-        m_slave = ::open(ptsname(m_master), O_RDWR | O_NOCTTY);
-        termios raw{};
-        if (m_slave >= 0 && tcgetattr(m_slave, &raw) == 0) {
-            cfmakeraw(&raw);
-            tcsetattr(m_slave, TCSANOW, &raw);
-        }
-    }
-    ~Pty() {
-        if (m_slave >= 0)
-            ::close(m_slave);
-        if (m_master >= 0)
-            ::close(m_master);
-    }
-    bool ok() const { return m_slave >= 0; }
-    const QString& slave() const { return m_path; }
-
-    QByteArray read(int count, int waitMs = 10000) {
-        QByteArray got;
-        QDeadlineTimer deadline(waitMs);
-        while (got.size() < count && !deadline.hasExpired()) {
-            pollfd p{m_master, POLLIN, 0};
-            if (::poll(&p, 1, 20) > 0 && (p.revents & POLLIN)) {
-                char buf[256];
-                const ssize_t n = ::read(m_master, buf, sizeof buf);
-                if (n > 0)
-                    got.append(buf, static_cast<int>(n));
-            }
-        }
-        return got;
-    }
-    void write(const QByteArray& bytes) {
-        if (::write(m_master, bytes.constData(), bytes.size()) != bytes.size())
-            ADD_FAILURE();
-    }
-
-private:
-    int m_master = -1;
-    int m_slave = -1;
-    QString m_path;
-};
 
 // Every device command reads the machine settings of a temporary folder.
 class AdminDevice : public testing::Test {
@@ -104,9 +51,6 @@ INSTANTIATE_TEST_SUITE_P(
         HexCase{{"display", "--kind", "3", "--total", "1,250,000", "--hex"},
                 "1B 51 41 31 32 35 30 30 30 30 0D"},
         HexCase{{"display", "--kind", "1", "--total", "12,500", "--hex"}, "0C 31 32 35 30 30"},
-        HexCase{{"display", "--kind", "2", "--total", "12,500", "--greeting", "Hi", "--hex"},
-                "0D 0A 0D 0A 20 20 20 20 50 72 69 63 65 3A 31 32 2C 35 30 30 20 20 20 20 "
-                "20 20 20 20 20 20 20 20 20 48 69 20 20 20 20 20 20 20 20 20"},
         HexCase{{"pec", "--amount", "1,250,000", "--invoice", "57", "--hex"},
                 "30 30 38 36 52 51 30 38 31 50 52 30 30 30 41 4D 30 30 37 31 32 35 30 30 30 30 "
                 "43 55 30 30 33 33 36 34 52 31 30 31 35 DD C7 98 CA E6 D1 20 DD D1 E6 D4 3A 20 "
@@ -139,15 +83,15 @@ struct PecCase {
 class AdminDevicePec : public AdminDevice, public testing::WithParamInterface<PecCase> {};
 
 TEST_P(AdminDevicePec, PrintsTheTerminalsAnswer) {
-    Pty pty;
+    test::PtyPair pty;
     ASSERT_TRUE(pty.ok());
     QProcess admin;
     admin.start(AdminProcess::binaryPath(), {"device", "pec", "--amount", "1,250,000", "--invoice",
-                                             "57", "--port", pty.slave(), "--timeout", "30"});
+                                             "57", "--port", pty.slavePath(), "--timeout", "30"});
     ASSERT_TRUE(admin.waitForStarted(10000));
-    const QByteArray request = pty.read(90);
+    const QByteArray request = pty.readMaster(90, 10000);
     EXPECT_TRUE(request.startsWith("0086RQ081PR000AM0071250000"));
-    pty.write(GetParam().answer);
+    pty.writeMaster(GetParam().answer);
     ASSERT_TRUE(admin.waitForFinished(30000));
     EXPECT_EQ(admin.exitCode(), 0) << admin.readAllStandardError().toStdString();
     const QString out = QString::fromUtf8(admin.readAllStandardOutput());
@@ -161,10 +105,10 @@ INSTANTIATE_TEST_SUITE_P(
                     PecCase{"RS00205", QStringLiteral("code 05: (no message)")}));
 
 TEST_F(AdminDevice, PortsShowWhatEachPortMapsTo) {
-    Pty pty;
+    test::PtyPair pty;
     ASSERT_TRUE(pty.ok());
     settings("[PortNo]\nNo=0\nPec=5\n[ISActivePoolDisplay]\nPort=7\n[Devices]\nMSCommPec=" +
-             pty.slave().toLocal8Bit() +
+             pty.slavePath().toLocal8Bit() +
              "\nMSCommCustomerDisplay=/dev/sandogh-no-such-port\n[IsActivePort]\nEnable=1\n");
     const AdminProcess::Result r = AdminProcess::run({"device", "ports"});
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
@@ -175,7 +119,7 @@ TEST_F(AdminDevice, PortsShowWhatEachPortMapsTo) {
     EXPECT_TRUE(lines[3].startsWith(
         QStringLiteral("MSCommCustomerDisplay\tCOM7\t/dev/sandogh-no-such-port\tdoes not open")));
     EXPECT_EQ(lines[4],
-              QStringLiteral("MSCommPec\tCOM5\t") + pty.slave() + QStringLiteral("\topens"));
+              QStringLiteral("MSCommPec\tCOM5\t") + pty.slavePath() + QStringLiteral("\topens"));
 }
 
 }  // namespace

@@ -4,16 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <QCryptographicHash>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
-#include "AdminProcess.h"
+#include "AdminFolderTest.h"
 #include "AdminShopTest.h"
 #include "common/AmountText.h"
-#include "data/Database.h"
-#include "data/SqlQuery.h"
-#include "data/schema/ShopSchema.h"
 
 namespace sandogh {
 namespace {
@@ -25,12 +20,9 @@ const QString kUnreachable = QStringLiteral("خطا در برقراري ارتب
 class AdminAmountTest : public AdminShopTest {};
 
 TEST_P(AdminAmountTest, AmountsThatAreNoFiniteNumbersAreRefusedAndNothingIsSaved) {
-    {
-        Session s = db().session();
-        ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, "
-                                  "TaxValue) VALUES ('1001', 'Bread', 2500, 0, 0)")));
-    }
+    execAll(
+        {"INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES ('1001', "
+         "'Bread', 2500, 0, 0)"});
     for (const char* option : {"--received", "--discount"}) {
         for (const char* amount : {"nan", "inf", "-inf", "1e20", "9223372036854775808", "12x"}) {
             const AdminProcess::Result r = runCommand(
@@ -40,24 +32,18 @@ TEST_P(AdminAmountTest, AmountsThatAreNoFiniteNumbersAreRefusedAndNothingIsSaved
             EXPECT_TRUE(QString::fromUtf8(r.err).contains(kNotANumber)) << r.err.toStdString();
         }
     }
-    Session s = db().session();
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH"), {}, -1), 0);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
 }
 
 TEST_P(AdminAmountTest, CodesThatDoNotExistAreRefusedAndNothingIsSaved) {
-    {
-        Session s = db().session();
-        for (const char* sql : {
-                 "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES ('1001', "
-                 "'Bread', 2500, 0, 0)",
-                 "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1')",
-                 "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0)",
-                 "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
-                 "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
-             }) {
-            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
-        }
-    }
+    execAll({
+        "INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES ('1001', 'Bread', "
+        "2500, 0, 0)",
+        "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1')",
+        "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0)",
+        "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
+        "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
+    });
     struct Case {
         QStringList words;
         QString message;
@@ -77,9 +63,7 @@ TEST_P(AdminAmountTest, CodesThatDoNotExistAreRefusedAndNothingIsSaved) {
         EXPECT_EQ(r.exitCode, 1) << c.message.toStdString();
         EXPECT_EQ(QString::fromUtf8(r.err).count(c.message), 1) << r.err.toStdString();
     }
-    Session s = db().session();
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH"), {}, -1), 0);
-    s = Session();
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
     // The same sale with codes that exist is saved.
     const AdminProcess::Result saved = runCommand(
         QStringLiteral("sell"),
@@ -93,12 +77,9 @@ TEST_P(AdminAmountTest, AnAmountReadBackThatIsNoNumberShowsAsUnreadable) {
     if (backend() != Backend::PostgreSQL) {
         GTEST_SKIP() << "SQLite keeps no NaN";
     }
-    {
-        Session s = db().session();
-        ASSERT_TRUE(s.exec(QStringLiteral(
-            "INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, DocSum, ReceivedPrice) "
-            "VALUES (1, '1', 2, '1404/01/05', 'NaN', 'NaN')")));
-    }
+    execAll(
+        {"INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, DocSum, ReceivedPrice) "
+         "VALUES (1, '1', 2, '1404/01/05', 'NaN', 'NaN')"});
     const AdminProcess::Result report = runCommand(
         QStringLiteral("report"), {QStringLiteral("daily"), QStringLiteral("1404/01/05")});
     EXPECT_EQ(report.exitCode, 0) << report.err.toStdString();
@@ -114,58 +95,19 @@ TEST_P(AdminAmountTest, AnAmountReadBackThatIsNoNumberShowsAsUnreadable) {
 SANDOGH_INSTANTIATE_BACKENDS(AdminAmountTest);
 
 // A SQLite program folder of our own, for what happens around the shop file.
-class AdminSqliteFileTest : public testing::Test {
+class AdminSqliteFileTest : public AdminFolderTest {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(program.isValid() && settings.isValid());
-        qputenv("SANDOGH_SETTINGS", settings.path().toUtf8());
-        QFile f(path(QStringLiteral("Provider.txt")));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(
-            "Provider=SQLite;\r\nData Source=Data;\r\nInitial Catalog=Shop;\r\nUser ID=;\r\n"
-            "Password=;\r\nPersist Security Info=False;\r\n");
+        AdminFolderTest::SetUp();
+        writeProvider(sqliteProvider());
     }
-    void TearDown() override { qunsetenv("SANDOGH_SETTINGS"); }
-
-    AdminProcess::Result run(const QString& command, QStringList words = {}) {
-        return AdminProcess::run(QStringList{command, QStringLiteral("--dir"), program.path()} +
-                                 words);
-    }
-    void chooseFiscalYear(const QString& database) {
-        QFile f(QDir(settings.path()).filePath(QStringLiteral("Retail.ini")));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write("[Year]\nYear=" + database.toUtf8() + "\n");
-    }
-    QString path(const QString& relative) const { return QDir(program.path()).filePath(relative); }
     QByteArray digest(const QString& relative) const {
         QFile f(path(relative));
         return f.open(QIODevice::ReadOnly)
                    ? QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha256)
                    : QByteArray();
     }
-
-    QTemporaryDir program;
-    QTemporaryDir settings;
 };
-
-TEST_F(AdminSqliteFileTest, ANewFiscalYearBuildsBesideTheVendorFilesOfTheLast) {
-    ASSERT_EQ(run(QStringLiteral("init-db")).exitCode, 0);
-    ASSERT_TRUE(QFile::exists(path(QStringLiteral("Data/MizanNet.sqlite"))));
-    const QString last = QString::number(shopMigrations().last().version);
-
-    // The next year's file beside the scale vendors' files, which stay as they are.
-    chooseFiscalYear(QStringLiteral("Shop1405"));
-    const AdminProcess::Result year = run(QStringLiteral("init-db"));
-    EXPECT_EQ(year.exitCode, 0) << year.err.toStdString();
-    EXPECT_TRUE(year.outText().contains(QStringLiteral("schema version 0 -> ") + last))
-        << year.outText().toStdString();
-
-    // And so does the demo, in a folder whose shop file was removed.
-    chooseFiscalYear(QStringLiteral("Shop"));
-    ASSERT_TRUE(QFile::remove(path(QStringLiteral("Data/Shop.sqlite"))));
-    const AdminProcess::Result demo = run(QStringLiteral("demo"));
-    EXPECT_EQ(demo.exitCode, 0) << demo.err.toStdString();
-}
 
 TEST_F(AdminSqliteFileTest, ADamagedShopFileIsRefusedAndLeftAsItWas) {
     ASSERT_EQ(run(QStringLiteral("init-db")).exitCode, 0);

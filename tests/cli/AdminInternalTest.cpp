@@ -1,9 +1,10 @@
-// sandogh-admin internal send|receive: the words and options accepted, and what is printed.
+// sandogh-admin internal sell|send|receive: the words and options accepted, and what is
+// printed for a sale, a return replacing an earlier one, a send and a receive.
 
 #include <gtest/gtest.h>
 
 #include "AdminShopTest.h"
-#include "data/Database.h"
+#include "data/repositories/CenterBranchesRepository.h"
 
 namespace sandogh {
 namespace {
@@ -15,25 +16,17 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
+        execAll(
+            {"INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES "
+             "('1001', 'Bread', 2500, 2600, 0)"});
         Session s = db().session();
-        ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost) VALUES "
-                                  "('5555', 'G', 100)")));
-        ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO tblCenterBranches (Name, TypeNo) VALUES "
-                                  "('B', 2)")));
-        branch = s.scalarText(QStringLiteral("SELECT MAX(ID) FROM tblCenterBranches"));
-        ASSERT_TRUE(s.exec(
-            QStringLiteral("INSERT INTO Whs_QTYDocHInternal (Code, DocNo, TransType, CompanyID, "
-                           "DocDate) VALUES (1, '7', 2, :b, '1404/01/01'), (2, '8', 2, :b, "
-                           "'1404/01/01')"),
-            {{QStringLiteral(":b"), branch.toInt()}}));
-        ASSERT_TRUE(s.exec(QStringLiteral(
-            "INSERT INTO Whs_QTYDocDInternal (Code, EAN_Code, Qty, Fee, Price) VALUES "
-            "(1, '5555', 1, 100, 100), (2, '5555', 2, 100, 200)")));
+        branch = QString::number(CenterBranchesRepository::add(s, QStringLiteral("Branch"), 2));
     }
     AdminProcess::Result internal(const QStringList& words) {
         return runCommand(QStringLiteral("internal"), words);
+    }
+    QStringList sell(const QStringList& rest) {
+        return QStringList{QStringLiteral("sell"), QStringLiteral("--branch"), branch} + rest;
     }
     QString file() { return QDir(dir()).filePath(QStringLiteral("out/RptFactors.txt")); }
 
@@ -41,17 +34,26 @@ protected:
 };
 
 TEST_P(AdminInternalTest, WrongWordsAndOptionsAreUsageErrors) {
+    const QString b = QStringLiteral("--branch");
+    const QString send = QStringLiteral("send");
+    const QString all = QStringLiteral("--all-unsent");
     const QList<QStringList> wrong = {
         {},
         {QStringLiteral("bogus")},
-        {QStringLiteral("send")},
-        {QStringLiteral("send"), QStringLiteral("--branch"), QStringLiteral("x"),
-         QStringLiteral("--all-unsent")},
-        {QStringLiteral("send"), QStringLiteral("--branch"), QStringLiteral("1")},
-        {QStringLiteral("send"), QStringLiteral("--branch"), QStringLiteral("1"),
-         QStringLiteral("--all-unsent"), QStringLiteral("7")},
-        {QStringLiteral("send"), QStringLiteral("--branch"), QStringLiteral("1"),
-         QStringLiteral("--all-unsent"), QStringLiteral("--out")},
+        {QStringLiteral("sell")},
+        {QStringLiteral("sell"), QStringLiteral("1001")},
+        {QStringLiteral("sell"), b, QStringLiteral("x"), QStringLiteral("1001")},
+        sell({}),
+        sell({QStringLiteral("--return"), QStringLiteral("1001")}),
+        sell({QStringLiteral("--of"), QStringLiteral("1"), QStringLiteral("1001")}),
+        sell({QStringLiteral("--return"), QStringLiteral("--of"), QStringLiteral("x"),
+              QStringLiteral("1001")}),
+        sell({QStringLiteral("--unknown"), QStringLiteral("1001")}),
+        {send},
+        {send, b, QStringLiteral("x"), all},
+        {send, b, QStringLiteral("1")},
+        {send, b, QStringLiteral("1"), all, QStringLiteral("7")},
+        {send, b, QStringLiteral("1"), all, QStringLiteral("--out")},
         {QStringLiteral("receive")},
         {QStringLiteral("receive"), QStringLiteral("a"), QStringLiteral("b")},
         {QStringLiteral("receive"), QStringLiteral("--force"), QStringLiteral("a")},
@@ -60,27 +62,49 @@ TEST_P(AdminInternalTest, WrongWordsAndOptionsAreUsageErrors) {
         SCOPED_TRACE(words.join(u' ').toStdString());
         const AdminProcess::Result r = internal(words);
         EXPECT_EQ(r.exitCode, 2);
-        EXPECT_TRUE(QString::fromUtf8(r.err).contains(QStringLiteral("usage:")));
+        EXPECT_TRUE(r.err.contains("usage: sandogh-admin internal"));
         EXPECT_TRUE(r.out.isEmpty());
     }
 }
 
+TEST_P(AdminInternalTest, ASaleAndItsReturnsPrintTheirNumbersAndAnUnknownBranchFails) {
+    AdminProcess::Result r = internal(sell({QStringLiteral("1001"), QStringLiteral("3")}));
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.outText(), QStringLiteral("Code=1 DocNo=1 DocSum=7500\n"));
+
+    const QStringList ret = sell({QStringLiteral("--return"), QStringLiteral("--of"),
+                                  QStringLiteral("1"), QStringLiteral("1001")});
+    r = internal(ret);
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.outText(), QStringLiteral("Code=2 DocNo=1 DocSum=2500\n"));
+    // The console agrees to the question: the second return replaces the first.
+    r = internal(ret);
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.outText(), QStringLiteral("Code=2 DocNo=1 DocSum=2500\nReplaced=1\n"));
+
+    r = internal({QStringLiteral("sell"), QStringLiteral("--branch"), QStringLiteral("999"),
+                  QStringLiteral("1001")});
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.err.contains("no branch 999"));
+    EXPECT_TRUE(r.out.isEmpty());
+}
+
 TEST_P(AdminInternalTest, SendPrintsTheFileAndReceivePrintsTheCounts) {
-    AdminProcess::Result r = internal({QStringLiteral("send"), QStringLiteral("--branch"), branch,
-                                       QStringLiteral("--out"), file(), QStringLiteral("8")});
+    ASSERT_EQ(internal(sell({QStringLiteral("1001")})).exitCode, 0);
+    ASSERT_EQ(internal(sell({QStringLiteral("1001")})).exitCode, 0);
+    const QStringList send{QStringLiteral("send"), QStringLiteral("--branch"), branch,
+                           QStringLiteral("--out"), file()};
+    AdminProcess::Result r = internal(send + QStringList{QStringLiteral("2")});
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QDir::toNativeSeparators(file()) + QStringLiteral("\t1\n"));
-    r = internal({QStringLiteral("send"), QStringLiteral("--branch"), branch,
-                  QStringLiteral("--all-unsent"), QStringLiteral("--out"), file()});
+    r = internal(send + QStringList{QStringLiteral("--all-unsent")});
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QDir::toNativeSeparators(file()) + QStringLiteral("\t1\n"));
-    r = internal({QStringLiteral("send"), QStringLiteral("--branch"), branch,
-                  QStringLiteral("--all-unsent"), QStringLiteral("--out"), file()});
+    r = internal(send + QStringList{QStringLiteral("--all-unsent")});
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(
         QString::fromUtf8(r.err).contains(QStringLiteral("هيچ موردي براي ارسال انتخاب نشده است")));
-    r = internal(
-        {QStringLiteral("send"), QStringLiteral("--branch"), branch, QStringLiteral("99")});
+    r = internal(send + QStringList{QStringLiteral("99")});
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(QString::fromUtf8(r.err).contains(QStringLiteral("no internal sale 99")));
 
@@ -96,8 +120,7 @@ TEST_P(AdminInternalTest, SendPrintsTheFileAndReceivePrintsTheCounts) {
     EXPECT_TRUE(QString::fromUtf8(r.err).contains(QStringLiteral("not named RptFactors.txt")));
 }
 
-}  // namespace
-
 SANDOGH_INSTANTIATE_BACKENDS(AdminInternalTest);
 
+}  // namespace
 }  // namespace sandogh

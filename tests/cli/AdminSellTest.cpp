@@ -1,19 +1,12 @@
-// sandogh-admin sell: a sale rung up through the sale session on the database of the
-// program folder, printed by --dry-run; refusals end with the message and exit code 1.
+// sandogh-admin sell: a dry run prints the lines and the total; a saved sale prints its key,
+// number and total; its options reach the document; bad words are usage errors.
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-
 #include "AdminShopTest.h"
-#include "data/Database.h"
 
 namespace sandogh {
 namespace {
-
-const QString kQuantityFirst =
-    QStringLiteral("لطفاً ابتدا بارکد مورد نظر خود را وارد کرده سپس تعداد آن را مشخص نماييد");
 
 class AdminSellTest : public AdminShopTest {
 protected:
@@ -22,22 +15,23 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        Session s = db().session();
-        ASSERT_TRUE(s.exec(QStringLiteral(
+        execAll({
             "INSERT INTO Goods (EAN_Code, Spec_Code, Name, Cost, Cost2, TaxValue) VALUES "
             "('6261234567890', '1717', 'Tea', 10000, 11000, 9), "
-            "('1001', NULL, 'Bread', 2500, 2600, 0), ('2002', NULL, 'Free', 0, 0, 0)")));
-        ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO ItemLock (Ean_Code, Qty, IsLock) "
-                                  "VALUES ('1001', 4, 1)")));
+            "('1001', NULL, 'Bread', 2500, 2600, 0), ('3003', NULL, 'Oil', 100000, 0, 0)",
+            "INSERT INTO Stations (ID, Station_Name) VALUES (1, 'Desk 1')",
+            "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
+            "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0)",
+            "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash'), (2, 'Card')",
+        });
     }
     AdminProcess::Result sell(const QStringList& words) {
         return runCommand(QStringLiteral("sell"), words);
     }
-    void setting(const char* section, const char* key, const char* value) {
-        QFile ini(QDir(settings.path()).filePath(QStringLiteral("Retail.ini")));
-        ASSERT_TRUE(ini.open(QIODevice::Append));
-        ini.write(QByteArray("[") + section + "]\n" + key + "=" + value + "\n");
+    AdminProcess::Result save(const QStringList& words) {
+        return sell(QStringList{QStringLiteral("--user"), QStringLiteral("cashier"),
+                                QStringLiteral("--station"), QStringLiteral("1")} +
+                    words);
     }
 };
 
@@ -49,15 +43,38 @@ TEST_P(AdminSellTest, ADryRunPrintsTheLinesAndTheTotal) {
     EXPECT_EQ(r.outText(), QStringLiteral("6261234567890\t3\t10000\t9\t32700\n"
                                           "1001\t2\t2500\t0\t5000\n"
                                           "37700\n"));
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
+}
+
+TEST_P(AdminSellTest, SavingPrintsTheKeyNumberAndTotal) {
+    AdminProcess::Result r =
+        save({QStringLiteral("--discount"), QStringLiteral("10000"),
+              QStringLiteral("--discount-type"), QStringLiteral("1"), QStringLiteral("3003")});
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    const qint64 code = scalar(QStringLiteral("SELECT MAX(Code) FROM Whs_QTYDocH"));
+    EXPECT_EQ(r.outText(), QStringLiteral("Code=%1 DocNo=1 DocSum=100000\n").arg(code));
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE ReceivedPrice = 90000 "
+                                    "AND Discount = 10000 AND PayType = 1 AND StationID = 1")),
+              1);
+
+    r = save({QStringLiteral("--received"), QStringLiteral("2000"), QStringLiteral("--pay-type"),
+              QStringLiteral("2"), QStringLiteral("--repeat"), QStringLiteral("2"),
+              QStringLiteral("1001")});
+    ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.outText().count(QStringLiteral("DocSum=2500\n")), 2);
+    EXPECT_TRUE(r.outText().contains(QStringLiteral(" DocNo=3 ")));
+    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE ReceivedPrice = 2000 "
+                                    "AND PayType = 2")),
+              2);
 }
 
 TEST_P(AdminSellTest, WithoutEntriesOrWithABadSalesTypeItIsAUsageError) {
-    EXPECT_EQ(sell({}).exitCode, 2);
-    EXPECT_EQ(sell({QStringLiteral("--dry-run")}).exitCode, 2);
-    EXPECT_EQ(sell({QStringLiteral("--dry-run"), QStringLiteral("--sales-type"),
-                    QStringLiteral("3"), QStringLiteral("1001")})
-                  .exitCode,
-              2);
+    for (const QStringList& words :
+         {QStringList{}, QStringList{QStringLiteral("--dry-run")},
+          QStringList{QStringLiteral("--dry-run"), QStringLiteral("--sales-type"),
+                      QStringLiteral("3"), QStringLiteral("1001")}}) {
+        EXPECT_EQ(sell(words).exitCode, 2) << words.join(u' ').toStdString();
+    }
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(AdminSellTest);

@@ -5,8 +5,10 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <initializer_list>
 
 #include "AdminProcess.h"
+#include "data/Database.h"
 #include "support/BackendTest.h"
 
 namespace sandogh {
@@ -36,12 +38,49 @@ protected:
     }
     QString dir() { return testDatabase().programDir(); }
 
+    // Runs each statement on the shop; fails the test at the first that fails.
+    void execAll(std::initializer_list<const char*> statements) {
+        Session s = db().session();
+        for (const char* sql : statements) {
+            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
+        }
+    }
+    // Field 0 of the first row; -1 when the statement failed.
+    qint64 scalar(const QString& sql) {
+        Session s = db().session();
+        return s.scalarInt64(sql, {}, -1);
+    }
+
     // sandogh-admin COMMAND --dir DIR WORDS...
     AdminProcess::Result runCommand(const QString& command, QStringList words) {
         words.prepend(dir());
         words.prepend(QStringLiteral("--dir"));
         words.prepend(command);
         return AdminProcess::run(words);
+    }
+
+    // Every sale whole after desks saved at once or were killed: two lines under each of the
+    // headers, their total the header's, no line without its header, each header its own
+    // balanced voucher and no voucher without one.
+    void expectWholeSales(qint64 headers) {
+        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), headers);
+        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H WHERE (SELECT COUNT(*) "
+                                        "FROM Whs_QTYDocD D WHERE D.Code = H.Code) <> 2 OR "
+                                        "H.DocSum <> (SELECT SUM(D.Price) FROM Whs_QTYDocD D WHERE "
+                                        "D.Code = H.Code)")),
+                  0);
+        EXPECT_EQ(
+            scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocD D LEFT JOIN Whs_QTYDocH H "
+                                  "ON H.Code = D.Code WHERE H.Code IS NULL")),
+            0);
+        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(DISTINCT H.DocumentHID) FROM Whs_QTYDocH H "
+                                        "INNER JOIN tblDocumentH V ON V.ID = H.DocumentHID")),
+                  headers);
+        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), headers);
+        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH V WHERE (SELECT "
+                                        "COALESCE(SUM(Debt), 0) - COALESCE(SUM(Credit), 0) FROM "
+                                        "tblDocumentD D WHERE D.DocumentHID = V.ID) <> 0")),
+                  0);
     }
 
     QTemporaryDir settings;

@@ -1,3 +1,5 @@
+// The amount box: separators while typing, the cursor across them, and what it refuses.
+
 #include <gtest/gtest.h>
 
 #include <QTest>
@@ -45,33 +47,34 @@ INSTANTIATE_TEST_SUITE_P(
                       TypingCase{"1.2345", "1.234", 1.234, 3},  // fourth decimal refused
                       TypingCase{"1.2.3", "1.23", 1.23, 3}));   // one point only
 
-TEST(AmountEdit, TypingInTheMiddleKeepsTheCursorBehindTheDigit) {
+struct EditCase {
+    const char* name;
+    const char* typed;
+    int cursor;
+    Qt::Key key;
+    const char* shown;
+    int cursorAfter;
+};
+
+class AmountEditEditing : public ::testing::TestWithParam<EditCase> {};
+
+TEST_P(AmountEditEditing, KeepsTheCursorBesideTheDigitAcrossTheSeparators) {
+    const EditCase& c = GetParam();
     AmountEdit edit;
-    QTest::keyClicks(&edit, QStringLiteral("125000"));
-    ASSERT_EQ(edit.text(), QStringLiteral("125,000"));
-    edit.setCursorPosition(1);  // behind "1"
-    QTest::keyClick(&edit, Qt::Key_9);
-    EXPECT_EQ(edit.text(), QStringLiteral("1,925,000"));
-    EXPECT_EQ(edit.cursorPosition(), 3);  // behind the "9", past the new separator
+    QTest::keyClicks(&edit, QString::fromLatin1(c.typed));
+    edit.setCursorPosition(c.cursor);
+    QTest::keyClick(&edit, c.key);
+    EXPECT_EQ(edit.text(), QString::fromLatin1(c.shown));
+    EXPECT_EQ(edit.cursorPosition(), c.cursorAfter);
 }
 
-TEST(AmountEdit, BackspaceBehindASeparatorRemovesTheDigitBeforeIt) {
-    AmountEdit edit;
-    QTest::keyClicks(&edit, QStringLiteral("1250000"));
-    edit.setCursorPosition(2);  // "1,|250,000"
-    QTest::keyClick(&edit, Qt::Key_Backspace);
-    EXPECT_EQ(edit.text(), QStringLiteral("250,000"));
-    EXPECT_EQ(edit.cursorPosition(), 0);
-}
-
-TEST(AmountEdit, DeleteBeforeASeparatorRemovesTheDigitAfterIt) {
-    AmountEdit edit;
-    QTest::keyClicks(&edit, QStringLiteral("1250000"));
-    edit.setCursorPosition(1);  // "1|,250,000"
-    QTest::keyClick(&edit, Qt::Key_Delete);
-    EXPECT_EQ(edit.text(), QStringLiteral("150,000"));
-    EXPECT_EQ(edit.cursorPosition(), 1);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Keys, AmountEditEditing,
+    ::testing::Values(
+        EditCase{"DigitInTheMiddle", "125000", 1, Qt::Key_9, "1,925,000", 3},
+        EditCase{"BackspaceBehindASeparator", "1250000", 2, Qt::Key_Backspace, "250,000", 0},
+        EditCase{"DeleteBeforeASeparator", "1250000", 1, Qt::Key_Delete, "150,000", 1}),
+    [](const ::testing::TestParamInfo<EditCase>& p) { return std::string(p.param.name); });
 
 TEST(AmountEdit, NegativeAmountsOnlyWhenAllowed) {
     AmountEdit edit;

@@ -22,12 +22,7 @@
 namespace sandogh {
 namespace {
 
-template <typename W>
-W* child(const QWidget& parent, const char* name) {
-    W* found = parent.findChild<W*>(QString::fromLatin1(name));
-    EXPECT_NE(found, nullptr) << name;
-    return found;
-}
+using test::child;
 
 class BackOfficeScreensTest : public ::testing::Test {
 protected:

@@ -1,48 +1,22 @@
 #pragma once
 
-// A fresh SQLite shop database for the catalogue and party screen tests: every migration
-// applied, the shared recorded messages, a fixed clock, and helpers to find the named controls,
-// type into them and read the database back.
+// The shop fixture (data/ShopFixture.h) on SQLite for the catalogue, party and purchase
+// screens, with helpers to find the named controls and type into them.
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QPointer>
-#include <QTemporaryDir>
 #include <QTest>
-#include <memory>
 
 #include "TypeText.h"
-#include "data/ConnectionSettings.h"
-#include "data/Database.h"
-#include "data/DatabaseProvisioner.h"
-#include "data/SqlQuery.h"
-#include "data/schema/Migrator.h"
-#include "data/schema/ShopSchema.h"
-#include "support/FixedClock.h"
-#include "support/RecordingMessageService.h"
+#include "data/ShopFixture.h"
 
 namespace sandogh::test {
 
-class CatalogScreenFixture : public ::testing::Test {
+class CatalogScreenFixture : public ShopFixture {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(folder.isValid());
-        QString reason;
-        ASSERT_TRUE(ConnectionSettings::parse(
-            QStringLiteral("Provider=SQLite;Data Source=Data;Initial Catalog=Shop;User ID=;"
-                           "Password=;Persist Security Info=False;"),
-            folder.path(), settings, &reason))
-            << reason.toStdString();
-        ASSERT_EQ(DatabaseProvisioner::ensureExists(settings, &reason),
-                  DatabaseProvisioner::Outcome::Created)
-            << reason.toStdString();
-        database = std::make_unique<Database>(settings, &messages);
-        const Migrator::Result applied = Migrator(*database).apply(shopMigrations());
-        ASSERT_TRUE(applied.ok) << applied.message.toStdString();
-    }
-
     void TearDown() override {
         // Windows the screens left open close before the database goes.
         QList<QPointer<QWidget>> left;
@@ -51,10 +25,8 @@ protected:
                 left << w;
             }
         }
-        for (const QPointer<QWidget>& w : left) {
-            delete w.data();
-        }
-        database.reset();
+        qDeleteAll(left);
+        ShopFixture::TearDown();
     }
 
     template <typename T>
@@ -81,8 +53,6 @@ protected:
     // Empties a box and types text into it key by key.
     static void typeInto(QLineEdit* box, const QString& text) {
         ASSERT_NE(box, nullptr);
-        box->selectAll();
-        QTest::keyClick(box, Qt::Key_Delete);
         box->clear();
         typeText(box, text);
     }
@@ -91,34 +61,19 @@ protected:
         typeInto(control<T>(screen, name), text);
     }
 
-    qint64 number(const QString& sql, const SqlBinds& binds = {}) {
-        Session s = database->session();
-        const QVariant v = s.scalar(sql, binds);
-        return v.isValid() ? v.toLongLong() : -1;
-    }
-    QString text(const QString& sql, const SqlBinds& binds = {}) {
-        Session s = database->session();
-        return s.scalarText(sql, binds);
-    }
-    bool exec(const QString& sql, const SqlBinds& binds = {}) {
-        Session s = database->session();
-        return s.exec(sql, binds);
-    }
-
     // The messages shown so far, text only.
-    QStringList shownTexts() const {
+    QStringList shownTexts() {
         QStringList texts;
-        for (const auto& m : messages.messages()) {
+        for (const auto& m : messages().messages()) {
             texts << m.text;
         }
         return texts;
     }
-
-    QTemporaryDir folder;
-    ConnectionSettings settings;
-    RecordingMessageService messages;
-    FixedClock clock;
-    std::unique_ptr<Database> database;
 };
 
 }  // namespace sandogh::test
+
+// The screens do not depend on the backend: their suites run on SQLite.
+#define SANDOGH_INSTANTIATE_SQLITE_ONLY(Suite)                                               \
+    INSTANTIATE_TEST_SUITE_P(Backends, Suite, ::testing::Values(::sandogh::Backend::SQLite), \
+                             ::sandogh::test::backendParamName)

@@ -31,11 +31,7 @@ namespace {
 class InternalDocumentsScreensTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(app.openShop(true));
-        UserAccount user;
-        user.id = 1;
-        app.context.setUser(user);
-        app.context.setStation({1, QStringLiteral("صندوق ۱")});
+        ASSERT_TRUE(app.openDesk());
         Session s = app.context.database().session();
         const int north = CenterBranchesRepository::add(s, QStringLiteral("شعبه شمال"),
                                                         CenterBranchesRepository::kBranch);
@@ -66,8 +62,7 @@ protected:
         return n;
     }
     qint64 headers() {
-        Session s = app.context.database().session();
-        return s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocHInternal"));
+        return app.count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocHInternal"));
     }
 
     test::ScreenTestContext app;
@@ -79,18 +74,16 @@ TEST_F(InternalDocumentsScreensTest, TheListShowsBranchesFiltersOnThemAndDeletes
     EXPECT_EQ(numbers(list),
               (QStringList{QStringLiteral("2 شعبه شمال"), QStringLiteral("2 شعبه جنوب"),
                            QStringLiteral("1 شعبه شمال")}));
-    EXPECT_TRUE(list.findChild<QLineEdit*>(QStringLiteral("txtBase"))->isHidden());
-    EXPECT_FALSE(list.findChild<QPushButton*>(QStringLiteral("cmdEdit"))->isHidden());
+    EXPECT_TRUE(test::child<QLineEdit>(list, "txtBase")->isHidden());
+    EXPECT_FALSE(test::child<QPushButton>(list, "cmdEdit")->isHidden());
 
-    test::typeText(list.findChild<QLineEdit*>(QStringLiteral("txtCustomer")),
-                   QStringLiteral("شمال"));
-    QTest::mouseClick(list.findChild<QPushButton*>(QStringLiteral("cmdSearch")), Qt::LeftButton);
+    test::typeText(test::child<QLineEdit>(list, "txtCustomer"), QStringLiteral("شمال"));
+    test::click(list, "cmdSearch");
     EXPECT_EQ(numbers(list),
               (QStringList{QStringLiteral("2 شعبه شمال"), QStringLiteral("1 شعبه شمال")}));
 
-    auto* grid = list.findChild<QTableView*>(QStringLiteral("Grid1"));
-    grid->setCurrentIndex(list.model().index(1, 0));  // number 1
-    QTest::mouseClick(list.findChild<QPushButton*>(QStringLiteral("cmdDelete")), Qt::LeftButton);
+    test::child<QTableView>(list, "Grid1")->setCurrentIndex(list.model().index(1, 0));  // number 1
+    test::click(list, "cmdDelete");
     EXPECT_EQ(app.messages.countOf(SaleDelete::internalDoneText()), 1);
     EXPECT_EQ(numbers(list), (QStringList{QStringLiteral("2 شعبه شمال")}));
     EXPECT_EQ(headers(), 2);
@@ -98,17 +91,16 @@ TEST_F(InternalDocumentsScreensTest, TheListShowsBranchesFiltersOnThemAndDeletes
 
 TEST_F(InternalDocumentsScreensTest, TheDeleteScreenTakesKindAndNumberWithoutADate) {
     frmDeleteFactorInternal screen(app.context);
-    auto* kind = screen.findChild<QComboBox*>(QStringLiteral("cmbType"));
+    auto* kind = test::child<QComboBox>(screen, "cmbType");
     ASSERT_EQ(kind->count(), 2);
     EXPECT_EQ(kind->currentData().toInt(), 2);
-    EXPECT_TRUE(screen.findChild<QLineEdit*>(QStringLiteral("txtDate"))->isHidden());
-    auto* number = screen.findChild<QLineEdit*>(QStringLiteral("txtNo"));
-    auto* remove = screen.findChild<QPushButton*>(QStringLiteral("cmdDelete"));
+    EXPECT_TRUE(test::child<QLineEdit>(screen, "txtDate")->isHidden());
+    auto* number = test::child<QLineEdit>(screen, "txtNo");
     test::typeText(number, QStringLiteral("9"));
-    QTest::mouseClick(remove, Qt::LeftButton);
+    test::click(screen, "cmdDelete");
     EXPECT_EQ(app.messages.countOf(SaleDelete::notFoundText()), 1);
     number->setText(QStringLiteral("1"));
-    QTest::mouseClick(remove, Qt::LeftButton);
+    test::click(screen, "cmdDelete");
     EXPECT_EQ(app.messages.countOf(SaleDelete::internalDoneText()), 1);
     EXPECT_EQ(headers(), 2);
     EXPECT_TRUE(number->text().isEmpty());
@@ -116,23 +108,19 @@ TEST_F(InternalDocumentsScreensTest, TheDeleteScreenTakesKindAndNumberWithoutADa
 
 TEST_F(InternalDocumentsScreensTest, TheReprintProposesTheLastNumberAndAsksTheDateWhenShared) {
     frmRePrintInter screen(app.context);
-    auto* number = screen.findChild<QLineEdit*>(QStringLiteral("txtNo"));
-    auto* date = screen.findChild<QLineEdit*>(QStringLiteral("txtDate"));
-    EXPECT_EQ(number->text(), QStringLiteral("2"));
+    auto* date = test::child<QLineEdit>(screen, "txtDate");
+    EXPECT_EQ(test::child<QLineEdit>(screen, "txtNo")->text(), QStringLiteral("2"));
     EXPECT_TRUE(date->isHidden());
     EXPECT_FALSE(screen.cmdPrint_Click());
     EXPECT_FALSE(date->isHidden());
 }
 
 TEST_F(InternalDocumentsScreensTest, TheMainWindowOpensTheDeleteScreenForAnAdministrator) {
-    frmMain window(app.context);
-    window.Form_Load();
-    window.show();
-    window.applyPermissions(Permissions(PermissionLevel::Cashier));
-    EXPECT_FALSE(window.command(QStringLiteral("mnuDeleteFactorInternal"))->isEnabled());
-    window.applyPermissions(Permissions(PermissionLevel::Administrator));
-    window.command(QStringLiteral("mnuDeleteFactorInternal"))->trigger();
-    QMdiSubWindow* active = window.mdiArea()->activeSubWindow();
+    const auto window = app.openMain(PermissionLevel::Cashier);
+    EXPECT_FALSE(window->command(QStringLiteral("mnuDeleteFactorInternal"))->isEnabled());
+    window->applyPermissions(Permissions(PermissionLevel::Administrator));
+    window->command(QStringLiteral("mnuDeleteFactorInternal"))->trigger();
+    QMdiSubWindow* active = window->mdiArea()->activeSubWindow();
     ASSERT_NE(active, nullptr);
     EXPECT_NE(qobject_cast<frmDeleteFactorInternal*>(active->widget()), nullptr);
 }

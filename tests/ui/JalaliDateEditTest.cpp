@@ -1,6 +1,7 @@
+// The Jalali date box: its mask, what is typed into it, and the canonical date.
+
 #include <gtest/gtest.h>
 
-#include <QSignalSpy>
 #include <QTest>
 
 #include "TypeText.h"
@@ -35,17 +36,12 @@ TEST_P(JalaliDateEditTyping, GivesTheCanonicalDateOrNothing) {
     EXPECT_EQ(edit.property("invalid").toBool(), expected.isEmpty());
 }
 
+// Which days are real is the calendar's (tested under common); the box asks it.
 INSTANTIATE_TEST_SUITE_P(Dates, JalaliDateEditTyping,
                          ::testing::Values(DateCase{"14040105", "1404/01/05"},
                                            DateCase{"۱۴۰۴۰۱۰۵", "1404/01/05"},  // Persian digits
-                                           DateCase{"14031230", "1403/12/30"},  // leap year
                                            DateCase{"14041230", ""},            // 1404 is not leap
-                                           DateCase{"14041301", ""},            // month 13
-                                           DateCase{"14040732", ""},            // day 32
-                                           DateCase{"14040631", "1404/06/31"},
-                                           DateCase{"14040731", ""},  // autumn months have 30 days
-                                           DateCase{"14040100", ""},  // day 0
-                                           DateCase{"1404", ""}));    // month and day missing
+                                           DateCase{"1404", ""}));  // month and day missing
 
 TEST(JalaliDateEdit, ShowsTheCanonicalDateWhenEditingEnds) {
     JalaliDateEdit edit;

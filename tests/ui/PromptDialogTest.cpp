@@ -1,3 +1,5 @@
+// The prompt of the message service: its dialog, and the answer typed into it.
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -37,40 +39,34 @@ TEST(PromptDialog, BuildsARightToLeftDialogWithTheQuestion) {
     EXPECT_FALSE(dialog->isPassword());
 }
 
-TEST(PromptDialog, AcceptedAnswerComesBack) {
+struct PromptCase {
+    const char* typed;  // replaces the selected starting answer ("7", or none for a password)
+    Qt::Key key;
+    bool password;
+    bool accepted;
+    const char* answer;
+};
+
+class PromptDialogAnswers : public ::testing::TestWithParam<PromptCase> {};
+
+TEST_P(PromptDialogAnswers, ComeBackOnlyWhenAccepted) {
+    const PromptCase& c = GetParam();
     QtMessageService messages;
-    QString answer = QStringLiteral("1");
-    inModal([](QLineEdit* edit) {
-        QTest::keyClicks(edit, QStringLiteral("25"));  // replaces the selected starting text
-        QTest::keyClick(edit, Qt::Key_Return);
+    QString answer = c.password ? QString() : QStringLiteral("7");
+    inModal([&c](QLineEdit* edit) {
+        EXPECT_EQ(edit->echoMode(), c.password ? QLineEdit::Password : QLineEdit::Normal);
+        QTest::keyClicks(edit, QString::fromLatin1(c.typed));
+        EXPECT_EQ(edit->displayText() == QString::fromLatin1(c.typed), !c.password);
+        QTest::keyClick(edit, c.key);
     });
-    EXPECT_TRUE(messages.prompt(QStringLiteral("تعداد"), answer));
-    EXPECT_EQ(answer, QStringLiteral("25"));
+    EXPECT_EQ(messages.prompt(QStringLiteral("تعداد"), answer, c.password), c.accepted);
+    EXPECT_EQ(answer, QString::fromLatin1(c.answer));
 }
 
-TEST(PromptDialog, PasswordIsTypedHiddenAndReturned) {
-    QtMessageService messages;
-    QString answer;
-    inModal([](QLineEdit* edit) {
-        EXPECT_EQ(edit->echoMode(), QLineEdit::Password);
-        QTest::keyClicks(edit, QStringLiteral("4321"));
-        EXPECT_NE(edit->displayText(), QStringLiteral("4321"));
-        QTest::keyClick(edit, Qt::Key_Enter);
-    });
-    EXPECT_TRUE(messages.prompt(QStringLiteral("رمز کارت"), answer, true));
-    EXPECT_EQ(answer, QStringLiteral("4321"));
-}
-
-TEST(PromptDialog, CancelLeavesTheAnswerAlone) {
-    QtMessageService messages;
-    QString answer = QStringLiteral("7");
-    inModal([](QLineEdit* edit) {
-        QTest::keyClicks(edit, QStringLiteral("99"));
-        QTest::keyClick(edit, Qt::Key_Escape);
-    });
-    EXPECT_FALSE(messages.prompt(QStringLiteral("تعداد"), answer));
-    EXPECT_EQ(answer, QStringLiteral("7"));
-}
+INSTANTIATE_TEST_SUITE_P(Keys, PromptDialogAnswers,
+                         ::testing::Values(PromptCase{"25", Qt::Key_Return, false, true, "25"},
+                                           PromptCase{"4321", Qt::Key_Enter, true, true, "4321"},
+                                           PromptCase{"99", Qt::Key_Escape, false, false, "7"}));
 
 }  // namespace
 }  // namespace sandogh

@@ -16,27 +16,21 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "DialogDriver.h"
 #include "PtyPair.h"
 #include "SaleScreenTest.h"
 #include "ScreenTestContext.h"
 #include "WaitUntil.h"
 #include "app/Permissions.h"
 #include "data/Session.h"
-#include "devices/CashDrawer.h"
 #include "devices/PecRequest.h"
-#include "devices/PecResponse.h"
 #include "devices/PecTerminal.h"
 #include "sales/SaleSession.h"
 #include "settings/SettingKeys.h"
 #include "ui/app/frmMain.h"
-#include "ui/sales/SaleCustomerPanel.h"
 #include "ui/sales/SaleDesk.h"
-#include "ui/sales/SaleDeskActions.h"
 #include "ui/sales/SaleDetailPanel.h"
 #include "ui/sales/SaleTotalsPanel.h"
 #include "ui/sales/frmSale.h"
-#include "ui/sales/frmSalePayment.h"
 #include "ui/widgets/AmountEdit.h"
 
 namespace sandogh {
@@ -47,12 +41,7 @@ const QString kBarcode = QStringLiteral("9990001112223");
 class SaleDeskTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(app.openShop(true));
-        UserAccount user;
-        user.id = 1;
-        user.userName = QStringLiteral("cashier");
-        app.context.setUser(user);
-        app.context.setStation({1, QStringLiteral("صندوق ۱")});
+        ASSERT_TRUE(app.openDesk());
         Session s = app.context.database().session();
         ASSERT_TRUE(
             s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue, "
@@ -68,19 +57,14 @@ protected:
         app.context.machineSettings().write(key, value);
     }
 
-    std::unique_ptr<frmMain> openMain(PermissionLevel level = PermissionLevel::Cashier) {
-        auto window = std::make_unique<frmMain>(app.context);
-        window->Form_Load();
-        window->applyPermissions(Permissions(level));
-        window->show();
-        QApplication::setActiveWindow(window.get());
-        return window;
-    }
-
-    // The sale screen opened through the menu, the focus in its barcode box.
-    frmSale* openSale(frmMain& window) {
-        window.command(QStringLiteral("mnuSale"))->trigger();
-        QMdiSubWindow* active = window.mdiArea()->activeSubWindow();
+    // The sale screen opened through the menu of a cashier's main window, the focus in its
+    // barcode box.
+    frmSale* openSale() {
+        if (window == nullptr) {
+            window = app.openMain(PermissionLevel::Cashier);
+        }
+        window->command(QStringLiteral("mnuSale"))->trigger();
+        QMdiSubWindow* active = window->mdiArea()->activeSubWindow();
         auto* screen = active == nullptr ? nullptr : qobject_cast<frmSale*>(active->widget());
         EXPECT_NE(screen, nullptr);
         if (screen != nullptr) {
@@ -94,54 +78,43 @@ protected:
         QTest::keyClick(screen.txtBarcode, Qt::Key_Return);
     }
 
-    static int saleScreens(const frmMain& window) {
-        int count = 0;
-        for (QMdiSubWindow* child : window.mdiArea()->subWindowList()) {
-            count += qobject_cast<frmSale*>(child->widget()) != nullptr ? 1 : 0;
+    QList<frmSale*> saleScreens() const {
+        QList<frmSale*> screens;
+        for (QMdiSubWindow* child : window->mdiArea()->subWindowList()) {
+            if (auto* screen = qobject_cast<frmSale*>(child->widget()); screen != nullptr) {
+                screens << screen;
+            }
         }
-        return count;
+        return screens;
     }
 
     test::ScreenTestContext app;
+    std::unique_ptr<frmMain> window;
 };
 
 TEST_F(SaleDeskTest, TheMenuOpensOneSaleScreenAndF3Another) {
     setOption(settingkeys::SalesNewForm, QStringLiteral("1"));
-    auto window = openMain();
-    ASSERT_TRUE(window->command(QStringLiteral("mnuSale"))->isVisible());
-    frmSale* first = openSale(*window);
+    frmSale* first = openSale();
     ASSERT_NE(first, nullptr);
     EXPECT_NE(SaleDesk::of(*first), nullptr);
     // The menu again brings the open one forward.
-    EXPECT_EQ(openSale(*window), first);
-    EXPECT_EQ(saleScreens(*window), 1);
+    EXPECT_EQ(openSale(), first);
+    EXPECT_EQ(saleScreens().size(), 1);
 
     QTest::keyClick(first->txtBarcode, Qt::Key_F3);
-    EXPECT_EQ(saleScreens(*window), 2);
+    EXPECT_EQ(saleScreens().size(), 2);
     QTest::keyClick(first->txtBarcode, Qt::Key_F3);
-    EXPECT_EQ(saleScreens(*window), 3);
+    EXPECT_EQ(saleScreens().size(), 3);
 
     // A rung-up line goes to the screen's own sale, not to the others.
     scan(*first, kBarcode);
     EXPECT_EQ(first->session().lines().size(), 1);
-    int lines = 0;
-    for (QMdiSubWindow* child : window->mdiArea()->subWindowList()) {
-        if (auto* screen = qobject_cast<frmSale*>(child->widget()); screen != nullptr) {
-            lines += static_cast<int>(screen->session().lines().size());
-        }
+    qsizetype lines = 0;
+    for (frmSale* screen : saleScreens()) {
+        lines += screen->session().lines().size();
     }
     EXPECT_EQ(lines, 1);
 }
-
-struct HandOffCase {
-    const char* name;
-    Qt::Key key;
-    const char* command;
-    bool companionThere;
-};
-
-class SaleDeskHandOffTest : public SaleDeskTest,
-                            public ::testing::WithParamInterface<HandOffCase> {};
 
 class SaleDeskPecTest : public SaleDeskTest {
 protected:
@@ -152,18 +125,11 @@ protected:
         setOption(settingkeys::PecDevice, pty.slavePath());
     }
 
-    int posRows() {
-        Session s = app.context.database().session();
-        return static_cast<int>(
-            s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM tblPOS"), {}, -1));
-    }
-
     test::PtyPair pty;
 };
 
 TEST_F(SaleDeskPecTest, F5SendsThePayableAndTheScreenGoesOnUntilTheAnswer) {
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
+    frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     screen->txtNo->setText(QStringLiteral("57"));
     scan(*screen, kBarcode);
@@ -184,7 +150,7 @@ TEST_F(SaleDeskPecTest, F5SendsThePayableAndTheScreenGoesOnUntilTheAnswer) {
     pty.writeMaster("0012RS00200");
     ASSERT_TRUE(test::waitUntil([&] { return !codes.isEmpty(); }));
     EXPECT_EQ(codes, QStringList{QStringLiteral("00")});
-    EXPECT_EQ(posRows(), 1);
+    EXPECT_EQ(app.count(QStringLiteral("SELECT COUNT(*) FROM tblPOS")), 1);
     EXPECT_FALSE(terminal.waiting());
 }
 
@@ -194,21 +160,14 @@ struct SaveCase {
     int launches;  // the receipt goes to the companion program
 };
 
-class SaleDeskSaveTest : public SaleDeskTest, public ::testing::WithParamInterface<SaveCase> {
-protected:
-    qint64 count(const QString& sql, const SqlBinds& binds = {}) {
-        Session s = app.context.database().session();
-        return s.scalarInt64(sql, binds, -1);
-    }
-};
+class SaleDeskSaveTest : public SaleDeskTest, public ::testing::WithParamInterface<SaveCase> {};
 
 TEST_P(SaleDeskSaveTest, ASaleTypedAndSavedLandsInTheShopAndTheScreenStartsAnew) {
     const SaveCase& c = GetParam();
     QDir(app.programFolder()).mkpath(QStringLiteral("Program"));
     QFile exe(app.path(QStringLiteral("Program/KotrimoAcc.exe")));
     ASSERT_TRUE(exe.open(QIODevice::WriteOnly));
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
+    frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     const QString number = screen->txtNo->text();
     ASSERT_FALSE(number.isEmpty());
@@ -222,16 +181,12 @@ TEST_P(SaleDeskSaveTest, ASaleTypedAndSavedLandsInTheShopAndTheScreenStartsAnew)
     app.messages.clear();
     QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
 
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE TransType = 2 AND "
-                                   "DocNo = :no AND StationID = 1 AND DocSum = 375000"),
-                    {{QStringLiteral(":no"), number}}),
+    // Saved as typed (three teas) under the number shown; the lines are the saver's.
+    EXPECT_EQ(app.count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE TransType = 2 AND "
+                                       "DocNo = :no AND StationID = 1 AND DocSum = 375000"),
+                        {{QStringLiteral(":no"), number}}),
               1)
         << app.messages.count();
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocD D INNER JOIN Whs_QTYDocH H "
-                                   "ON D.Code = H.Code WHERE H.DocNo = :no AND D.EAN_Code = :b "
-                                   "AND D.Qty = 3"),
-                    {{QStringLiteral(":no"), number}, {QStringLiteral(":b"), kBarcode}}),
-              1);
     EXPECT_EQ(app.launcher.calls.size(), c.launches);
 
     // Ready for the next customer: a new number, nothing rung up, the last invoice shown.
@@ -250,8 +205,7 @@ INSTANTIATE_TEST_SUITE_P(Receipt, SaleDeskSaveTest,
                          test::CaseName());
 
 TEST_F(SaleDeskTest, TheChangeStaysInSightUntilTheNextScanAndAReturnShowsItsNumber) {
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
+    frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     scan(*screen, kBarcode);
     QTest::keyClicks(screen->totalsPanel()->txtReceivedPrice, QStringLiteral("200000"));
@@ -280,8 +234,7 @@ TEST_F(SaleDeskTest, TheChangeStaysInSightUntilTheNextScanAndAReturnShowsItsNumb
 }
 
 TEST_F(SaleDeskTest, ARefusedSaveKeepsTheSale) {
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
+    frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     const QString number = screen->txtNo->text();
     scan(*screen, kBarcode);
@@ -293,10 +246,9 @@ TEST_F(SaleDeskTest, ARefusedSaveKeepsTheSale) {
     EXPECT_EQ(screen->session().lines().size(), 1);
     EXPECT_EQ(screen->txtNo->text(), number);
     EXPECT_TRUE(screen->cmdSave->isEnabled());
-    Session s = app.context.database().session();
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE DocNo = :no "
-                                           "AND StationID = 1 AND TransType = 2"),
-                            {{QStringLiteral(":no"), number}}, -1),
+    EXPECT_EQ(app.count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE DocNo = :no AND "
+                                       "StationID = 1 AND TransType = 2"),
+                        {{QStringLiteral(":no"), number}}),
               0);
 }
 
@@ -315,8 +267,7 @@ TEST_F(SaleDeskTest, TheLoyaltyButtonGivesTheEarnedGiftsAndSavingCountsThem) {
                                       "250000)"),
                        {{QStringLiteral(":c"), customer}}));
 
-    auto window = openMain();
-    frmSale* screen = openSale(*window);
+    frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     scan(*screen, kBarcode);
     ASSERT_TRUE(screen->session().selectCustomer(int(customer)));
@@ -334,9 +285,8 @@ TEST_F(SaleDeskTest, TheLoyaltyButtonGivesTheEarnedGiftsAndSavingCountsThem) {
                       {{QStringLiteral(":c"), customer}}),
         2);
 
-    // 375,000 bought now earns three gifts; with three taken the button refuses and clears
-    // the discount typed before.
-    ASSERT_TRUE(s.exec(QStringLiteral("UPDATE Types SET DiscountTakenTotal = 3 WHERE Counter = :c"),
+    // With no gift left the button refuses and clears the discount typed before.
+    ASSERT_TRUE(s.exec(QStringLiteral("UPDATE Types SET DiscountTakenTotal = 9 WHERE Counter = :c"),
                        {{QStringLiteral(":c"), customer}}));
     scan(*screen, kBarcode);
     ASSERT_TRUE(screen->session().selectCustomer(int(customer)));

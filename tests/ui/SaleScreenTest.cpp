@@ -6,39 +6,22 @@
 
 #include "data/Database.h"
 #include "data/repositories/GoodsSearchQuery.h"
-#include "data/schema/Migrator.h"
-#include "data/schema/ShopSchema.h"
 #include "sales/SaleSession.h"
-#include "support/BackendTest.h"
 #include "ui/sales/frmSale.h"
 
 namespace sandogh::test {
 
 void SaleScreenTest::SetUp() {
-    bool skip = false;
-    m_db = createOrReport(Backend::SQLite, &skip);
-    ASSERT_NE(m_db, nullptr);
-    const Migrator::Result migrated = Migrator(db()).apply(shopMigrations());
-    ASSERT_TRUE(migrated.ok) << migrated.message.toStdString();
-    ASSERT_TRUE(m_settingsDir.isValid());
-    m_store = std::make_unique<QSettingsStore>(
-        QStringLiteral("Retail"), m_settingsDir.filePath(QStringLiteral("Retail.ini")));
-    m_settings = std::make_unique<MachineSettings>(*m_store);
+    ASSERT_TRUE(app.openShop(false));
+    app.messages.clear();
     setOption("Station", "ID", QString::number(kStation));
     setOption("UserInfo", "UserName", QStringLiteral("cashier"));
     exec(QStringLiteral("INSERT INTO Stations (ID, Station_Name) VALUES (:id, 'Desk')"),
          {{QStringLiteral(":id"), kStation}});
 }
 
-void SaleScreenTest::TearDown() {
-    closeScreen();
-    m_settings.reset();
-    m_store.reset();
-    m_db.reset();
-}
-
 void SaleScreenTest::setOption(const char* section, const char* key, const QString& value) {
-    ASSERT_TRUE(m_store->write(QString::fromLatin1(section), QString::fromLatin1(key), value));
+    ASSERT_TRUE(app.settings.write(QString::fromLatin1(section), QString::fromLatin1(key), value));
 }
 
 void SaleScreenTest::exec(const QString& sql, const SqlBinds& binds) {
@@ -62,29 +45,14 @@ void SaleScreenTest::addGoods(const ShopGoods& g) {
           {QStringLiteral(":aqis"), g.asksQuantity ? 1 : 0}});
 }
 
-void SaleScreenTest::addPriceChange(int code, const QString& from, const QString& to,
-                                    const QString& barcode, double newCost) {
-    exec(QStringLiteral("INSERT INTO DiscountH (Code, FDate, SDate) VALUES (:c, :f, :s)"),
-         {{QStringLiteral(":c"), code}, {QStringLiteral(":f"), from}, {QStringLiteral(":s"), to}});
-    exec(QStringLiteral("INSERT INTO DiscountD (Code, Ean_Code, NewCost) VALUES (:c, :b, :n)"),
-         {{QStringLiteral(":c"), code},
-          {QStringLiteral(":b"), barcode},
-          {QStringLiteral(":n"), newCost}});
-}
-
-void SaleScreenTest::addLock(const QString& barcode, double qty) {
-    exec(QStringLiteral("INSERT INTO ItemLock (Ean_Code, Qty, IsLock) VALUES (:b, :q, 1)"),
-         {{QStringLiteral(":b"), barcode}, {QStringLiteral(":q"), qty}});
-}
-
 void SaleScreenTest::addDocument(qint64 code, int transType, const QString& barcode, double qty,
-                                 double docSum, double received, const QString& date) {
+                                 double docSum, double received) {
     exec(QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, StationID, "
                         "DocSum, ReceivedPrice) VALUES (:code, :no, :t, :d, :s, :sum, :rec)"),
          {{QStringLiteral(":code"), code},
           {QStringLiteral(":no"), QString::number(code)},
           {QStringLiteral(":t"), transType},
-          {QStringLiteral(":d"), date},
+          {QStringLiteral(":d"), QStringLiteral("1404/01/01")},
           {QStringLiteral(":s"), kStation},
           {QStringLiteral(":sum"), docSum},
           {QStringLiteral(":rec"), received}});
@@ -93,15 +61,6 @@ void SaleScreenTest::addDocument(qint64 code, int transType, const QString& barc
          {{QStringLiteral(":code"), code},
           {QStringLiteral(":b"), barcode},
           {QStringLiteral(":q"), qty}});
-}
-
-void SaleScreenTest::addUser(int id, const QString& userName, bool active) {
-    exec(QStringLiteral("INSERT INTO Users (ID, Name, UserName, Active) VALUES (:id, :name, :user, "
-                        ":active)"),
-         {{QStringLiteral(":id"), id},
-          {QStringLiteral(":name"), userName},
-          {QStringLiteral(":user"), userName},
-          {QStringLiteral(":active"), active ? 1 : 0}});
 }
 
 void SaleScreenTest::addCustomer(int counter, const QString& code, const QString& name,
@@ -117,16 +76,13 @@ void SaleScreenTest::addCustomer(int counter, const QString& code, const QString
 }
 
 frmSale& SaleScreenTest::openScreen() {
-    m_screen = std::make_unique<frmSale>(db(), settings(), messages(), m_clock);
+    m_screen =
+        std::make_unique<frmSale>(db(), app.context.machineSettings(), messages(), app.clock);
     m_screen->resize(1280, 720);
     m_screen->show();
     QApplication::setActiveWindow(m_screen.get());
     m_screen->txtBarcode->setFocus();
     return *m_screen;
-}
-
-void SaleScreenTest::closeScreen() {
-    m_screen.reset();
 }
 
 void SaleScreenTest::scan(const QString& text) {

@@ -1,25 +1,18 @@
 #pragma once
 
-// A sale screen on a fresh SQLite shop: the schema applied, this desk's settings in a
-// temporary INI file, a clock standing at 21 March 2025 (1404/01/01), a few goods put in
-// by each test, and helpers that type into the screen as a cashier does.
+// A sale screen on an empty SQLite shop of the screen tests' application context (this
+// desk's settings in its INI file, its clock at 21 March 2025, 1404/01/01), a few goods put
+// in by each test, and helpers that type into the screen as a cashier does.
 
 #include <gtest/gtest.h>
 
-#include <QDateTime>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <memory>
 #include <string>
 
+#include "ScreenTestContext.h"
 #include "data/Session.h"
 #include "sales/SaleActions.h"
-#include "sales/TotalDisplay.h"
-#include "settings/MachineSettings.h"
-#include "settings/QSettingsStore.h"
-#include "support/FixedClock.h"
-#include "support/RecordingMessageService.h"
-#include "support/TestDatabase.h"
 
 class QLineEdit;
 
@@ -28,13 +21,6 @@ namespace sandogh {
 class frmSale;
 
 namespace test {
-
-// The totals the customer display was sent.
-class RecordingTotalDisplay final : public TotalDisplay {
-public:
-    void showTotal(const QString& amountText) override { shown << amountText; }
-    QStringList shown;
-};
 
 // What the screen handed on to saving, payment and the terminals.
 class RecordingSaleActions final : public SaleActions {
@@ -90,12 +76,10 @@ struct ShopGoods {
 class SaleScreenTest : public ::testing::Test {
 protected:
     void SetUp() override;
-    void TearDown() override;
+    void TearDown() override { closeScreen(); }
 
-    Database& db() { return m_db->database(); }
-    RecordingMessageService& messages() { return m_db->messages(); }
-    MachineSettings& settings() { return *m_settings; }
-    FixedClock& clock() { return m_clock; }
+    Database& db() { return app.context.database(); }
+    RecordingMessageService& messages() { return app.messages; }
 
     // Sets a switch of this desk before the screen opens.
     void setOption(const char* section, const char* key, const QString& value);
@@ -103,21 +87,16 @@ protected:
     void exec(const QString& sql, const SqlBinds& binds = {});
 
     void addGoods(const ShopGoods& goods);
-    void addPriceChange(int code, const QString& from, const QString& to, const QString& barcode,
-                        double newCost);
-    void addLock(const QString& barcode, double qty);
     // A document of this desk's station with one line: 1 purchase, 2 sale, 3 return.
     void addDocument(qint64 code, int transType, const QString& barcode, double qty,
-                     double docSum = 0, double received = 0,
-                     const QString& date = QStringLiteral("1404/01/01"));
-    void addUser(int id, const QString& userName, bool active = true);
+                     double docSum = 0, double received = 0);
     void addCustomer(int counter, const QString& code, const QString& name, const QString& family,
                      const QString& mobile = {});
 
     // Opens the screen (shown, active, the focus in the barcode box).
     frmSale& openScreen();
     frmSale& screen() { return *m_screen; }
-    void closeScreen();
+    void closeScreen() { m_screen.reset(); }
 
     // Types text into the barcode box and presses Enter.
     void scan(const QString& text);
@@ -134,12 +113,10 @@ protected:
 
     static constexpr int kStation = 1;
 
+    // An empty shop in the program folder of the application context.
+    ScreenTestContext app;
+
 private:
-    std::unique_ptr<TestDatabase> m_db;
-    QTemporaryDir m_settingsDir;
-    std::unique_ptr<QSettingsStore> m_store;
-    std::unique_ptr<MachineSettings> m_settings;
-    FixedClock m_clock{QDateTime(QDate(2025, 3, 21), QTime(9, 30))};
     std::unique_ptr<frmSale> m_screen;
 };
 

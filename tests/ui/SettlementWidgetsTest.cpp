@@ -54,7 +54,7 @@ TEST_P(SaleTotalsPanelTest, TypingRecomputesPayableChangeAndState) {
         QTest::mouseClick(panel.DiscountButton, Qt::LeftButton);
     }
     if (*c.discount != 0) {
-        typeAmount(panel.txtDiscount, QString::fromLatin1(c.discount));
+        typeAmount(panel.txtDiscount, QString::fromUtf8(c.discount));
     }
     typeAmount(panel.txtOther, QString::fromLatin1(c.other));
     typeAmount(panel.txtReceivedPrice, QString::fromUtf8(c.received));
@@ -66,12 +66,11 @@ TEST_P(SaleTotalsPanelTest, TypingRecomputesPayableChangeAndState) {
 
 INSTANTIATE_TEST_SUITE_P(
     Typed, SaleTotalsPanelTest,
+    // The figures are the settlement calculator's (tested under sales); each box reaches it.
     ::testing::Values(PanelCase{"PercentChargeAndChange", "100,000", "10", "", "5000", "100000",
                                 "95,000", "5,000", SettlementTexts::toPay()},
-                      PanelCase{"TypedDiscountSettles", "100,000", "", "10000", "", "90000",
-                                "90,000", "0", SettlementTexts::settled()},
-                      PanelCase{"PersianDigits", "12,345", "10", "", "", "۲۰۰۰۰", "11,110", "8,890",
-                                SettlementTexts::toPay()}),
+                      PanelCase{"TypedDiscountInPersianDigits", "100,000", "", "۱۰۰۰۰", "", "۹۰۰۰۰",
+                                "90,000", "0", SettlementTexts::settled()}),
     [](const ::testing::TestParamInfo<PanelCase>& p) { return std::string(p.param.name); });
 
 TEST(SaleTotalsPanelFlow, TheTotalChangingRecomputesAndANewSaleEmptiesEverything) {
@@ -131,9 +130,6 @@ TEST(frmSalePaymentTest, RowsMustAddUpBeforeOk) {
     EXPECT_EQ(dialog.txtAmount->text(), QStringLiteral("95,000"));
     EXPECT_EQ(dialog.lblCompanyName->text(), QStringLiteral("رضا"));
     ASSERT_EQ(dialog.cmbPaymentKind->count(), 3);
-    EXPECT_EQ(dialog.cmbPaymentKind->itemText(0), QStringLiteral("نقدي"));
-    EXPECT_EQ(dialog.cmbPaymentKind->itemText(1), QStringLiteral("پوز بانکي"));
-    EXPECT_EQ(dialog.cmbPaymentKind->itemText(2), QStringLiteral("چک"));
 
     // A bank account shows its terminal.
     chooseAccount(dialog, 21);

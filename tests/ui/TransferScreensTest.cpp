@@ -31,8 +31,7 @@ using namespace procedures;
 class TransferScreensTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(app.openShop(true));
-        app.context.setStation({1, QStringLiteral("صندوق ۱")});
+        ASSERT_TRUE(app.openDesk());
         app.context.setTransferSettingsStore(&transfer);
         ASSERT_TRUE(transfer.write(QStringLiteral("FC"), QStringLiteral("Folder"),
                                    app.path(QStringLiteral("out"))));
@@ -60,13 +59,6 @@ protected:
         ASSERT_GT(StockDocumentWriter::insertInternalLine(s, code, l), 0);
         ASSERT_TRUE(tx.commit());
     }
-    template <typename T>
-    static T* part(QWidget& screen, const char* name) {
-        T* found = screen.findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-
     test::ScreenTestContext app;
     QSettingsStore transfer{QString::fromLatin1(settingkeys::TransferApplication),
                             app.path(QStringLiteral("Factortransfer.ini"))};
@@ -77,19 +69,19 @@ TEST_F(TransferScreensTest, TheTickedInvoiceIsSentAndShownSent) {
     {
         frmTransFactor none(app.context);
         EXPECT_EQ(app.messages.countOf(InternalSend::noBranchesText()), 1);
-        EXPECT_FALSE(part<QPushButton>(none, "cmdSend")->isEnabled());
+        EXPECT_FALSE(test::child<QPushButton>(none, "cmdSend")->isEnabled());
     }
     addSale();
     frmTransFactor screen(app.context);
-    EXPECT_EQ(part<QComboBox>(screen, "cboBranch")->currentText(), QStringLiteral("شعبه ۲"));
-    auto* grid = part<QTableWidget>(screen, "Grid1");
+    EXPECT_EQ(test::child<QComboBox>(screen, "cboBranch")->currentText(), QStringLiteral("شعبه ۲"));
+    auto* grid = test::child<QTableWidget>(screen, "Grid1");
     ASSERT_EQ(grid->rowCount(), 1);
     EXPECT_EQ(grid->item(0, 4)->text(), InternalSend::notSentText());
 
-    QTest::mouseClick(part<QPushButton>(screen, "cmdSend"), Qt::LeftButton);
+    test::click(screen, "cmdSend");
     EXPECT_EQ(app.messages.countOf(InternalSend::nothingTickedText()), 1);
     grid->item(0, 0)->setCheckState(Qt::Checked);
-    QTest::mouseClick(part<QPushButton>(screen, "cmdSend"), Qt::LeftButton);
+    test::click(screen, "cmdSend");
     EXPECT_EQ(app.messages.countOf(InternalSend::doneText()), 1);
     EXPECT_TRUE(QFile::exists(app.path(QStringLiteral("out/RptFactors.txt"))));
     EXPECT_EQ(grid->item(0, 4)->text(), InternalSend::sentText());
@@ -98,27 +90,27 @@ TEST_F(TransferScreensTest, TheTickedInvoiceIsSentAndShownSent) {
 TEST_F(TransferScreensTest, ThePickedFileIsShownAndReceived) {
     addSale();
     frmTransFactor send(app.context);
-    part<QTableWidget>(send, "Grid1")->item(0, 0)->setCheckState(Qt::Checked);
+    test::child<QTableWidget>(send, "Grid1")->item(0, 0)->setCheckState(Qt::Checked);
     ASSERT_TRUE(send.cmdSend_Click());
     ASSERT_TRUE(
         transfer.write(QStringLiteral("FC"), QStringLiteral("ShowPrice"), QStringLiteral("2")));
 
     frmReceiveFactor screen(app.context);
-    EXPECT_EQ(part<QLabel>(screen, "lblSender")->text(), QStringLiteral("مرکز"));
-    auto* grid = part<QTableWidget>(screen, "Grid1");
+    EXPECT_EQ(test::child<QLabel>(screen, "lblSender")->text(), QStringLiteral("مرکز"));
+    auto* grid = test::child<QTableWidget>(screen, "Grid1");
     EXPECT_TRUE(grid->isColumnHidden(4));
     EXPECT_TRUE(grid->isColumnHidden(5));
     QString picked;
     screen.setFilePicker([&picked] { return picked; });
-    QTest::mouseClick(part<QPushButton>(screen, "cmdOpen"), Qt::LeftButton);
+    test::click(screen, "cmdOpen");
     EXPECT_EQ(app.messages.countOf(InternalReceive::noFileText()), 1);
 
     picked = app.path(QStringLiteral("out/RptFactors.txt"));
-    QTest::mouseClick(part<QPushButton>(screen, "cmdOpen"), Qt::LeftButton);
+    test::click(screen, "cmdOpen");
     ASSERT_EQ(grid->rowCount(), 1);
     EXPECT_EQ(grid->item(0, 2)->text(), barcode);
     EXPECT_EQ(grid->item(0, 3)->text(), QStringLiteral("2"));
-    QTest::mouseClick(part<QPushButton>(screen, "cmdReceive"), Qt::LeftButton);
+    test::click(screen, "cmdReceive");
     EXPECT_EQ(app.messages.countOf(InternalReceive::doneText()), 2);  // the send's and this
     EXPECT_EQ(grid->rowCount(), 0);
 }

@@ -1,28 +1,25 @@
+// The article screen: what is typed and picked reaches the saved article, and a refusal
+// is shown.
+
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTableView>
 #include <QToolButton>
 
 #include "CatalogScreenFixture.h"
 #include "data/repositories/GoodsMessages.h"
 #include "data/repositories/GoodsSavedHook.h"
-#include "data/schema/ShopSchema.h"
-#include "devices/ScaleExporter.h"
-#include "devices/ScaleGoodsHook.h"
 #include "ui/catalog/frmGood.h"
 #include "ui/catalog/frmParametersList.h"
 
 namespace sandogh {
 namespace {
 
-const QString kEnterName = QStringLiteral("نام را وارد نمائيد");
 const QString kSaved = QStringLiteral("اطلاعات جديد با موفقيت ذخيره گرديد.");
 const QString kNotice = QStringLiteral("توجه!");
-const QString kDeleteQuestion = QStringLiteral("آيا براي حذف اطمينان داريد؟");
 
 class RecordingHook final : public GoodsSavedHook {
 public:
@@ -30,19 +27,17 @@ public:
         saved << article;
         return true;
     }
-    bool goodsDeleted(Session& /*session*/, const GoodsArticle& article) override {
-        deleted << article;
+    bool goodsDeleted(Session& /*session*/, const GoodsArticle& /*article*/) override {
         return true;
     }
     QList<GoodsArticle> saved;
-    QList<GoodsArticle> deleted;
 };
 
 class frmGoodTest : public test::CatalogScreenFixture {
 protected:
     void SetUp() override {
         CatalogScreenFixture::SetUp();
-        if (HasFatalFailure()) {
+        if (IsSkipped() || HasFatalFailure()) {
             return;
         }
         // Two goods levels, the second's values hanging under the first's; two units.
@@ -57,9 +52,8 @@ protected:
             QStringLiteral("INSERT INTO TypesLink (Counter, Link) VALUES (20, 10), (21, 11)")));
     }
 
-    std::unique_ptr<frmGood> openGood(const QString& barcode = {}, GoodsSavedHook* with = nullptr) {
-        auto screen = std::make_unique<frmGood>(*database, messages, clock, 3,
-                                                with != nullptr ? with : &hook, barcode);
+    std::unique_ptr<frmGood> openGood() {
+        auto screen = std::make_unique<frmGood>(db(), messages(), clock, 3, &hook, QString());
         screen->show();
         return screen;
     }
@@ -92,7 +86,7 @@ protected:
     RecordingHook hook;
 };
 
-TEST_F(frmGoodTest, AnArticleWithItsLevelsIsSavedAsTyped) {
+TEST_P(frmGoodTest, AnArticleWithItsLevelsIsSavedAsTyped) {
     auto screen = openGood();
     EXPECT_EQ(control<QLineEdit>(screen.get(), QStringLiteral("txtBarcode"))->text(),
               QStringLiteral("1"));
@@ -128,11 +122,11 @@ TEST_F(frmGoodTest, AnArticleWithItsLevelsIsSavedAsTyped) {
               QStringLiteral("01001"));
 
     control<QPushButton>(screen.get(), QStringLiteral("cmdSave"))->click();
-    ASSERT_EQ(messages.count(), 1);
-    EXPECT_EQ(messages.messages().first().text, kSaved);
-    EXPECT_EQ(messages.messages().first().title, kNotice);
+    ASSERT_EQ(messages().count(), 1);
+    EXPECT_EQ(messages().messages().first().text, kSaved);
+    EXPECT_EQ(messages().messages().first().title, kNotice);
 
-    Session s = database->session();
+    Session s = session();
     SqlQuery q(s, QStringLiteral(
                       "SELECT Name, EnName, Spec_Code, Cost, Cost2, ArticlePrice, TaxValue, Unit, "
                       "GType, ISFavorite, AQIS, ComplexCode, LevelID1, LevelID2, StockNo1, "
@@ -154,18 +148,11 @@ TEST_F(frmGoodTest, AnArticleWithItsLevelsIsSavedAsTyped) {
     EXPECT_EQ(q.integer(13), 20);
     EXPECT_EQ(q.text(14), QStringLiteral("A-3"));
     EXPECT_EQ(q.integer(15), 1);
-    EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*) FROM Stock WHERE Barcode = '6260000000017' "
-                                    "AND Branch = 1")),
-              1);
     EXPECT_TRUE(screen->isEditing());
     EXPECT_TRUE(control<QLineEdit>(screen.get(), QStringLiteral("txtBarcode"))->isReadOnly());
 
     ASSERT_EQ(hook.saved.size(), 1);
-    EXPECT_EQ(hook.saved.first().specCode, QStringLiteral("12"));
-    EXPECT_EQ(hook.saved.first().name, QStringLiteral("پنیر لیقوان"));
     EXPECT_EQ(hook.saved.first().barcode, QStringLiteral("6260000000017"));
-    EXPECT_EQ(hook.saved.first().cost, 125000.0);
-    EXPECT_TRUE(hook.saved.first().weighed);
 
     // The next new article is proposed the barcode after it.
     control<QPushButton>(screen.get(), QStringLiteral("cmdNew"))->click();
@@ -174,34 +161,22 @@ TEST_F(frmGoodTest, AnArticleWithItsLevelsIsSavedAsTyped) {
     EXPECT_TRUE(control<QLineEdit>(screen.get(), QStringLiteral("txtLevel1"))->text().isEmpty());
 }
 
-TEST_F(frmGoodTest, BadInputShowsTheMessageAndSavesNothing) {
+// The refusals themselves are the repository's (tested under data); the screen shows
+// them and stays on the new article.
+TEST_P(frmGoodTest, ARefusedSaveShowsTheMessageAndSavesNothing) {
     ASSERT_TRUE(exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Name) VALUES ('777', 'Old')")));
-    struct Case {
-        const char* what;
-        QString barcode;
-        QString name;
-        QString message;
-    };
-    const Case cases[] = {
-        {"empty barcode", QString(), QStringLiteral("نان"), goodsmessages::kEnterBarcode},
-        {"empty name", QStringLiteral("778"), QString(), kEnterName},
-        {"barcode already used", QStringLiteral("777"), QStringLiteral("نان"),
-         goodsmessages::kBarcodeTaken},
-    };
-    for (const Case& c : cases) {
-        messages.clear();
-        auto screen = openGood();
-        typeArticle(*screen, c.barcode, c.name, QStringLiteral("1000"));
-        control<QPushButton>(screen.get(), QStringLiteral("cmdSave"))->click();
-        ASSERT_EQ(messages.count(), 1) << c.what;
-        EXPECT_EQ(messages.messages().first().text, c.message) << c.what;
-        EXPECT_EQ(messages.messages().first().style, MessageStyle::Critical) << c.what;
-        EXPECT_EQ(goodsRows(), 1) << c.what;
-        EXPECT_FALSE(screen->isEditing()) << c.what;
-    }
-    EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*) FROM Stock")), 0);
+    auto screen = openGood();
+    typeArticle(*screen, QStringLiteral("777"), QStringLiteral("نان"), QStringLiteral("1000"));
+    control<QPushButton>(screen.get(), QStringLiteral("cmdSave"))->click();
+    ASSERT_EQ(messages().count(), 1);
+    EXPECT_EQ(messages().messages().first().text, goodsmessages::kBarcodeTaken);
+    EXPECT_EQ(messages().messages().first().style, MessageStyle::Critical);
+    EXPECT_EQ(goodsRows(), 1);
+    EXPECT_FALSE(screen->isEditing());
     EXPECT_TRUE(hook.saved.isEmpty());
 }
+
+SANDOGH_INSTANTIATE_SQLITE_ONLY(frmGoodTest);
 
 }  // namespace
 }  // namespace sandogh

@@ -30,16 +30,9 @@ protected:
         return screen;
     }
 
-    template <typename T>
-    static T* control(const frmLogin& screen, const char* name) {
-        T* found = screen.findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-
     // Types into the named box as a keyboard would.
     static void type(const frmLogin& screen, const char* box, const QString& text) {
-        QLineEdit* edit = control<QLineEdit>(screen, box);
+        QLineEdit* edit = test::child<QLineEdit>(screen, box);
         edit->clear();
         test::typeText(edit, text);
     }
@@ -50,9 +43,9 @@ protected:
 TEST_F(frmLoginTest, TheLoadShowsTodayAndTheShop) {
     ASSERT_TRUE(app.openShop(true));
     auto screen = openScreen();
-    EXPECT_EQ(control<QLabel>(*screen, "lblDate")->text(),
+    EXPECT_EQ(test::child<QLabel>(*screen, "lblDate")->text(),
               QStringLiteral("امروز : جمعه 1404/01/01"));
-    EXPECT_EQ(control<QLabel>(*screen, "lblCompany")->text(), DemoShop::shopName());
+    EXPECT_EQ(test::child<QLabel>(*screen, "lblCompany")->text(), DemoShop::shopName());
     EXPECT_TRUE(app.messages.messages().isEmpty());
     EXPECT_EQ(screen->layoutDirection(), Qt::RightToLeft);
 }
@@ -60,16 +53,16 @@ TEST_F(frmLoginTest, TheLoadShowsTodayAndTheShop) {
 TEST_F(frmLoginTest, AnEmptyShopIsGivenAnAdministratorAndToldSo) {
     ASSERT_TRUE(app.openShop(false));
     auto screen = openScreen();
-    EXPECT_EQ(control<QLabel>(*screen, "lblCompany")->text(), ShopInfo::defaultShopName());
+    EXPECT_EQ(test::child<QLabel>(*screen, "lblCompany")->text(), ShopInfo::defaultShopName());
     ASSERT_EQ(app.messages.messages().size(), 1);
     EXPECT_EQ(app.messages.messages().first().style, MessageStyle::Information);
     EXPECT_TRUE(app.messages.messages().first().text.contains(
         QString::fromLatin1(LoginService::kInitialAdministratorPassword)));
-    EXPECT_EQ(control<QLineEdit>(*screen, "txtUserName")->text(), QStringLiteral("admin"));
+    EXPECT_EQ(test::child<QLineEdit>(*screen, "txtUserName")->text(), QStringLiteral("admin"));
 
     QSignalSpy loggedIn(screen.get(), &frmLogin::loggedIn);
     type(*screen, "txtPassword", QString::fromLatin1(LoginService::kInitialAdministratorPassword));
-    QTest::mouseClick(control<QPushButton>(*screen, "cmdOK"), Qt::LeftButton);
+    test::click(*screen, "cmdOK");
     ASSERT_EQ(loggedIn.count(), 1);
     EXPECT_EQ(loggedIn.first().first().value<UserAccount>().level, PermissionLevel::Administrator);
 }
@@ -79,11 +72,11 @@ TEST_F(frmLoginTest, EnterMovesToThePasswordAndThenLogsIn) {
     auto screen = openScreen();
     QSignalSpy loggedIn(screen.get(), &frmLogin::loggedIn);
     type(*screen, "txtUserName", QStringLiteral("cashier"));
-    QTest::keyClick(control<QLineEdit>(*screen, "txtUserName"), Qt::Key_Return);
-    EXPECT_TRUE(control<QLineEdit>(*screen, "txtPassword")->hasFocus());
+    QTest::keyClick(test::child<QLineEdit>(*screen, "txtUserName"), Qt::Key_Return);
+    EXPECT_TRUE(test::child<QLineEdit>(*screen, "txtPassword")->hasFocus());
     EXPECT_EQ(loggedIn.count(), 0);
     type(*screen, "txtPassword", QStringLiteral("1111"));
-    QTest::keyClick(control<QLineEdit>(*screen, "txtPassword"), Qt::Key_Return);
+    QTest::keyClick(test::child<QLineEdit>(*screen, "txtPassword"), Qt::Key_Return);
     EXPECT_EQ(loggedIn.count(), 1);
 }
 
@@ -91,23 +84,23 @@ TEST_F(frmLoginTest, ARefusedLoginIsWarnedAboutAndMayBeTriedAgain) {
     ASSERT_TRUE(app.openShop(true));
     auto screen = openScreen();
     QSignalSpy loggedIn(screen.get(), &frmLogin::loggedIn);
-    const char* const attempts[][2] = {
-        {"admin", "4321"}, {"nobody", "1234"}, {"", ""}, {"admin", "12345"}};
+    // Which logins are refused is the login service's (tested under app).
+    const char* const attempts[][2] = {{"admin", "4321"}, {"nobody", "1234"}};
     int warnings = 0;
     for (const auto& attempt : attempts) {
         type(*screen, "txtUserName", QString::fromLatin1(attempt[0]));
         type(*screen, "txtPassword", QString::fromLatin1(attempt[1]));
-        QTest::mouseClick(control<QPushButton>(*screen, "cmdOK"), Qt::LeftButton);
+        test::click(*screen, "cmdOK");
         ++warnings;
         ASSERT_EQ(app.messages.messages().size(), warnings) << attempt[0];
         EXPECT_EQ(app.messages.messages().last().text, frmLogin::wrongLoginMessage());
         EXPECT_EQ(app.messages.messages().last().style, MessageStyle::Warning);
-        EXPECT_TRUE(control<QLineEdit>(*screen, "txtPassword")->text().isEmpty());
+        EXPECT_TRUE(test::child<QLineEdit>(*screen, "txtPassword")->text().isEmpty());
     }
     EXPECT_EQ(loggedIn.count(), 0);
     type(*screen, "txtUserName", QStringLiteral("admin"));
     type(*screen, "txtPassword", QStringLiteral("1234"));
-    QTest::mouseClick(control<QPushButton>(*screen, "cmdOK"), Qt::LeftButton);
+    test::click(*screen, "cmdOK");
     EXPECT_EQ(loggedIn.count(), 1);
 }
 

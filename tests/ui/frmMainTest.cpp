@@ -25,57 +25,37 @@ namespace {
 
 class frmMainTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(app.openShop(true));
-        UserAccount user;
-        user.id = 1;
-        user.userName = QStringLiteral("cashier");
-        user.name = QStringLiteral("صندوق‌دار");
-        app.context.setUser(user);
-        app.context.setStation({1, QStringLiteral("صندوق ۱")});
-    }
+    void SetUp() override { ASSERT_TRUE(app.openDesk()); }
 
-    std::unique_ptr<frmMain> openWindow(PermissionLevel level) {
-        auto window = std::make_unique<frmMain>(app.context);
-        window->Form_Load();
-        window->applyPermissions(Permissions(level));
-        window->show();
-        return window;
-    }
-
+    std::unique_ptr<frmMain> openWindow(PermissionLevel level) { return app.openMain(level); }
     static QAction* action(const frmMain& window, const char* name) {
-        QAction* found = window.findChild<QAction*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
+        return test::child<QAction>(window, name);
     }
-
-    static QLabel* panel(const frmMain& window, const char* name) {
-        QLabel* found = window.findChild<QLabel*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
+    static QString panel(const frmMain& window, const char* name) {
+        return test::child<QLabel>(window, name)->text();
     }
 
     test::ScreenTestContext app;
 };
 
+// Which role may do what is tested under app; the window shows each command by its
+// permission, and a menu exactly when one of its commands shows.
 TEST_F(frmMainTest, EachRoleSeesOnlyItsCommands) {
-    const struct {
-        const char* command;
-        bool cashier;
-    } cases[] = {
-        {"mnuSetUp", false},     {"mnuScale", false},       {"mnuGoodsList", false},
-        {"mnuCustomers", false}, {"mnuSuppliers", false},   {"mnuCustomerGroups", false},
-        {"mnuUnits", false},     {"mnuGoodsLevels", false}, {"mnuAccountLevels", false},
-        {"mnuOpenCash", true},   {"mnuExit", true},         {"mnuShift", true},
-    };
     auto cashier = openWindow(PermissionLevel::Cashier);
     auto administrator = openWindow(PermissionLevel::Administrator);
-    for (const auto& c : cases) {
-        EXPECT_EQ(action(*cashier, c.command)->isVisible(), c.cashier) << c.command;
-        EXPECT_EQ(action(*cashier, c.command)->isEnabled(), c.cashier) << c.command;
-        EXPECT_TRUE(action(*administrator, c.command)->isVisible()) << c.command;
+    for (const MainMenuCommand& command : MainMenuCommands::all()) {
+        const bool allowed = Permissions::cashierPermissions().contains(command.permission);
+        EXPECT_EQ(cashier->command(command.name)->isVisible(), allowed)
+            << command.name.toStdString();
+        EXPECT_EQ(cashier->command(command.name)->isEnabled(), allowed)
+            << command.name.toStdString();
+        EXPECT_TRUE(administrator->command(command.name)->isVisible())
+            << command.name.toStdString();
     }
-    EXPECT_TRUE(cashier->findChild<QPushButton*>(QStringLiteral("cmdCashDraw"))->isVisible());
+    EXPECT_TRUE(test::child<QPushButton>(*cashier, "cmdCashDraw")->isVisible());
+    // A command reached other than through its menu is refused all the same.
+    EXPECT_FALSE(cashier->runCommand(QStringLiteral("mnuUsers")));
+    EXPECT_TRUE(cashier->mdiArea()->subWindowList().isEmpty());
 
     // The cashier's menu bar: the system menu (exit) and the sales menu (drawer).
     QStringList cashierMenus;
@@ -86,7 +66,6 @@ TEST_F(frmMainTest, EachRoleSeesOnlyItsCommands) {
     }
     EXPECT_EQ(cashierMenus, (QStringList{MainMenuCommands::menuCaption(MainMenu::System),
                                          MainMenuCommands::menuCaption(MainMenu::Sales)}));
-    // A menu shows exactly when one of its commands does.
     for (QAction* menu : administrator->menuBar()->actions()) {
         bool any = false;
         for (const QAction* command : menu->menu()->actions()) {
@@ -98,8 +77,7 @@ TEST_F(frmMainTest, EachRoleSeesOnlyItsCommands) {
 
 TEST_F(frmMainTest, TheDrawerButtonKicksTheDrawerThroughThePrinter) {
     auto window = openWindow(PermissionLevel::Cashier);
-    QTest::mouseClick(window->findChild<QPushButton*>(QStringLiteral("cmdCashDraw")),
-                      Qt::LeftButton);
+    test::click(*window, "cmdCashDraw");
     ASSERT_EQ(app.printer.jobs.size(), 1);
     EXPECT_EQ(app.printer.jobs.first().first, QString::fromLatin1(CashDrawer::kJobName));
     EXPECT_EQ(app.printer.jobs.first().second, CashDrawer::kickBytes());
@@ -114,12 +92,12 @@ TEST_F(frmMainTest, TheDrawerButtonKicksTheDrawerThroughThePrinter) {
 
 TEST_F(frmMainTest, TheStatusBarShowsUserCashDeskDayAndVersion) {
     auto window = openWindow(PermissionLevel::Cashier);
-    EXPECT_TRUE(panel(*window, "stbUser")->text().contains(QStringLiteral("صندوق‌دار")));
-    EXPECT_TRUE(panel(*window, "stbStation")->text().contains(QStringLiteral("صندوق ۱")));
-    EXPECT_TRUE(panel(*window, "stbDate")->text().contains(QStringLiteral("1404/01/01")));
-    EXPECT_EQ(panel(*window, "stbVersion")->text(), QStringLiteral("Sandogh test"));
+    EXPECT_TRUE(panel(*window, "stbUser").contains(QStringLiteral("صندوق‌دار")));
+    EXPECT_TRUE(panel(*window, "stbStation").contains(QStringLiteral("صندوق ۱")));
+    EXPECT_TRUE(panel(*window, "stbDate").contains(QStringLiteral("1404/01/01")));
+    EXPECT_EQ(panel(*window, "stbVersion"), QStringLiteral("Sandogh test"));
     // The general ports are off: no port number.
-    EXPECT_TRUE(panel(*window, "stbPort")->text().isEmpty());
+    EXPECT_TRUE(panel(*window, "stbPort").isEmpty());
     EXPECT_EQ(app.context.displayGreeting(), QString::fromLatin1(DemoShop::kGreeting));
 }
 
@@ -143,7 +121,7 @@ TEST_F(frmMainTest, AScreenOpensOnceAsAChildWindow) {
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(window->mdiArea()->subWindowList().size(), 1);
     window->mdiArea()->subWindowList().first()->showNormal();
-    QTest::mouseClick(window->findChild<QPushButton*>(QStringLiteral("cmdExit")), Qt::LeftButton);
+    test::click(*window, "cmdExit");
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(window->mdiArea()->subWindowList().isEmpty());

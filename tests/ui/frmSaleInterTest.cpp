@@ -27,11 +27,7 @@ namespace {
 class frmSaleInterTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(app.openShop(true));
-        UserAccount user;
-        user.id = 1;
-        app.context.setUser(user);
-        app.context.setStation({1, QStringLiteral("صندوق ۱")});
+        ASSERT_TRUE(app.openDesk());
         Session s = app.context.database().session();
         ASSERT_GT(CenterBranchesRepository::add(s, QStringLiteral("شعبه ۱"),
                                                 CenterBranchesRepository::kBranch),
@@ -99,11 +95,8 @@ TEST_F(frmSaleInterTest, TheEditorShowsTheSavedDocumentAndClosesOnceSaved) {
     EXPECT_EQ(editor->session().entry().lines().first().quantity, 2);
     EXPECT_TRUE(editor->save());
     EXPECT_FALSE(editor->isVisible());
-    Session s = app.context.database().session();
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocHInternal")), 1);
-    EXPECT_DOUBLE_EQ(
-        s.scalarNumber(QStringLiteral("SELECT SUM(Qty) FROM Whs_QTYDocDInternal WHERE Code = 1")),
-        2);
+    // Written again under its key (the lines are the internal sale's, tested under sales).
+    EXPECT_EQ(app.count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocHInternal")), 1);
 }
 
 TEST_F(frmSaleInterTest, TheReturnSwitchShowsTheReturnedInvoiceBox) {

@@ -26,7 +26,7 @@ protected:
             "INSERT INTO Types (Counter, TypeNo, Name, Active) VALUES (602, 11, 'T', 1)",
         });
         group = QString::number(
-            scalar(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = 301")));
+            count(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = 301")));
     }
     AdminProcess::Result buy(const QStringList& rest, const char* supplier = "601") {
         return runCommand(QStringLiteral("buy"),
@@ -53,8 +53,8 @@ TEST_P(AdminBuyTest, SavesLinesWithTheirTermsOrTheLastOnesAndPrintsTheDocument) 
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("Code=3 DocNo=880 DocSum=250\n"));
 
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE Code = 1 AND "
-                                    "DocDate = '1404/02/03' AND Discount = 100")),
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE Code = 1 AND "
+                                   "DocDate = '1404/02/03' AND Discount = 100")),
               1);
 }
 
@@ -78,8 +78,8 @@ TEST_P(AdminBuyTest, RefusalsPrintTheirMessageAndBadWordsTheUsage) {
         EXPECT_TRUE(QString::fromUtf8(r.err).contains(c.err)) << r.err.toStdString();
         EXPECT_TRUE(r.outText().isEmpty());
     }
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), 0);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(AdminBuyTest);

@@ -84,7 +84,7 @@ TEST_P(AdminCrashTest, KilledSavingRunsLeaveOnlyWholeSales) {
     const AdminProcess::Result after = AdminProcess::run(saleWords(2));
     ASSERT_EQ(after.exitCode, 0) << after.err.toStdString();
 
-    const qint64 headers = scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH"));
+    const qint64 headers = count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH"));
     EXPECT_GE(headers, printedCodes.size() + 2);
     for (const qint64 code : std::as_const(printedCodes)) {
         Session s = db().session();
@@ -95,8 +95,8 @@ TEST_P(AdminCrashTest, KilledSavingRunsLeaveOnlyWholeSales) {
     }
     // Every sale whole (the repeated bread is one line), no number twice.
     expectWholeSales(headers);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(DISTINCT DocNo) FROM Whs_QTYDocH")), headers);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(DISTINCT Code) FROM tblDocumentH")), headers);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(DISTINCT DocNo) FROM Whs_QTYDocH")), headers);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(DISTINCT Code) FROM tblDocumentH")), headers);
     // Stock is what the lines make of it.
     for (const char* barcode : {"1001", "3003"}) {
         Session s = db().session();

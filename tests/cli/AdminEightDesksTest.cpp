@@ -89,20 +89,20 @@ protected:
 
     void expectEveryDocumentWhole(const QString& numberRun) {
         const qint64 all = kDesks * kSales;
-        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM (SELECT DISTINCT ") + numberRun +
-                         QStringLiteral(", DocNo FROM Whs_QTYDocH) Numbers")),
+        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM (SELECT DISTINCT ") + numberRun +
+                        QStringLiteral(", DocNo FROM Whs_QTYDocH) Numbers")),
                   all);
         // Each run of numbers is 1..n without a gap.
-        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM (SELECT ") + numberRun +
-                         QStringLiteral(" FROM Whs_QTYDocH GROUP BY ") + numberRun +
-                         QStringLiteral(" HAVING MAX(CAST(DocNo AS BIGINT)) <> COUNT(*)) Runs")),
+        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM (SELECT ") + numberRun +
+                        QStringLiteral(" FROM Whs_QTYDocH GROUP BY ") + numberRun +
+                        QStringLiteral(" HAVING MAX(CAST(DocNo AS BIGINT)) <> COUNT(*)) Runs")),
                   0);
         // Every sale whole (the two breads merge).
         expectWholeSales(all);
         // A voucher note names its own document's number.
-        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H INNER JOIN "
-                                        "tblDocumentH V ON V.ID = H.DocumentHID WHERE V.Serial = "
-                                        "H.DocNo")),
+        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H INNER JOIN "
+                                       "tblDocumentH V ON V.ID = H.DocumentHID WHERE V.Serial = "
+                                       "H.DocNo")),
                   all);
 
         const QMap<QString, double> followed = stock();

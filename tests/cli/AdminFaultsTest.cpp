@@ -32,7 +32,7 @@ TEST_P(AdminAmountTest, AmountsThatAreNoFiniteNumbersAreRefusedAndNothingIsSaved
             EXPECT_TRUE(QString::fromUtf8(r.err).contains(kNotANumber)) << r.err.toStdString();
         }
     }
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
 }
 
 TEST_P(AdminAmountTest, CodesThatDoNotExistAreRefusedAndNothingIsSaved) {
@@ -63,7 +63,7 @@ TEST_P(AdminAmountTest, CodesThatDoNotExistAreRefusedAndNothingIsSaved) {
         EXPECT_EQ(r.exitCode, 1) << c.message.toStdString();
         EXPECT_EQ(QString::fromUtf8(r.err).count(c.message), 1) << r.err.toStdString();
     }
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
     // The same sale with codes that exist is saved.
     const AdminProcess::Result saved = runCommand(
         QStringLiteral("sell"),

@@ -89,13 +89,13 @@ TEST_P(AdminReportTest, StockRepairPrintsHowManyArticlesItRepaired) {
     ASSERT_EQ(scoped.exitCode, 0) << scoped.err.toStdString();
     EXPECT_EQ(scoped.outText().trimmed(), QStringLiteral("1"));
     EXPECT_TRUE(scoped.err.contains("999"));
-    EXPECT_EQ(scalar(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = '111'")), 7);
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Stock WHERE Barcode = '222'")), 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = '111'")), 7);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Stock WHERE Barcode = '222'")), 0);
 
     const AdminProcess::Result all = admin({QStringLiteral("stock-repair")});
     ASSERT_EQ(all.exitCode, 0) << all.err.toStdString();
     EXPECT_EQ(all.outText().trimmed(), QStringLiteral("2"));
-    EXPECT_EQ(scalar(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = '222'")), 5);
+    EXPECT_EQ(count(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = '222'")), 5);
     EXPECT_EQ(admin({QStringLiteral("stock-repair"), QStringLiteral("--x")}).exitCode, 2);
 }
 

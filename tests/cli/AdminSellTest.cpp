@@ -43,7 +43,7 @@ TEST_P(AdminSellTest, ADryRunPrintsTheLinesAndTheTotal) {
     EXPECT_EQ(r.outText(), QStringLiteral("6261234567890\t3\t10000\t9\t32700\n"
                                           "1001\t2\t2500\t0\t5000\n"
                                           "37700\n"));
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
 }
 
 TEST_P(AdminSellTest, SavingPrintsTheKeyNumberAndTotal) {
@@ -51,10 +51,10 @@ TEST_P(AdminSellTest, SavingPrintsTheKeyNumberAndTotal) {
         save({QStringLiteral("--discount"), QStringLiteral("10000"),
               QStringLiteral("--discount-type"), QStringLiteral("1"), QStringLiteral("3003")});
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
-    const qint64 code = scalar(QStringLiteral("SELECT MAX(Code) FROM Whs_QTYDocH"));
+    const qint64 code = count(QStringLiteral("SELECT MAX(Code) FROM Whs_QTYDocH"));
     EXPECT_EQ(r.outText(), QStringLiteral("Code=%1 DocNo=1 DocSum=100000\n").arg(code));
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE ReceivedPrice = 90000 "
-                                    "AND Discount = 10000 AND PayType = 1 AND StationID = 1")),
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE ReceivedPrice = 90000 "
+                                   "AND Discount = 10000 AND PayType = 1 AND StationID = 1")),
               1);
 
     r = save({QStringLiteral("--received"), QStringLiteral("2000"), QStringLiteral("--pay-type"),
@@ -63,8 +63,8 @@ TEST_P(AdminSellTest, SavingPrintsTheKeyNumberAndTotal) {
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText().count(QStringLiteral("DocSum=2500\n")), 2);
     EXPECT_TRUE(r.outText().contains(QStringLiteral(" DocNo=3 ")));
-    EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE ReceivedPrice = 2000 "
-                                    "AND PayType = 2")),
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE ReceivedPrice = 2000 "
+                                   "AND PayType = 2")),
               2);
 }
 

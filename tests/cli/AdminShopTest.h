@@ -8,17 +8,16 @@
 #include <initializer_list>
 
 #include "AdminProcess.h"
-#include "data/Database.h"
-#include "support/BackendTest.h"
+#include "data/ShopFixture.h"
 
 namespace sandogh {
 
-// A program folder whose Provider.txt names the test database, prepared by
-// sandogh-admin init-db, with this machine's settings in a temporary folder.
-class AdminShopTest : public test::BackendTest {
+// The shop fixture's database named by the Provider.txt of its program folder and prepared
+// by sandogh-admin init-db, with this machine's settings in a temporary folder.
+class AdminShopTest : public test::ShopFixture {
 protected:
     void SetUp() override {
-        BackendTest::SetUp();
+        ShopFixture::SetUp();
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
@@ -34,21 +33,15 @@ protected:
     }
     void TearDown() override {
         qunsetenv("SANDOGH_SETTINGS");
-        BackendTest::TearDown();
+        ShopFixture::TearDown();
     }
     QString dir() { return testDatabase().programDir(); }
 
     // Runs each statement on the shop; fails the test at the first that fails.
     void execAll(std::initializer_list<const char*> statements) {
-        Session s = db().session();
         for (const char* sql : statements) {
-            ASSERT_TRUE(s.exec(QString::fromLatin1(sql))) << sql;
+            ASSERT_TRUE(exec(QString::fromLatin1(sql))) << sql;
         }
-    }
-    // Field 0 of the first row; -1 when the statement failed.
-    qint64 scalar(const QString& sql) {
-        Session s = db().session();
-        return s.scalarInt64(sql, {}, -1);
     }
 
     // sandogh-admin COMMAND --dir DIR WORDS...
@@ -63,23 +56,22 @@ protected:
     // headers, their total the header's, no line without its header, each header its own
     // balanced voucher and no voucher without one.
     void expectWholeSales(qint64 headers) {
-        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), headers);
-        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H WHERE (SELECT COUNT(*) "
-                                        "FROM Whs_QTYDocD D WHERE D.Code = H.Code) <> 2 OR "
-                                        "H.DocSum <> (SELECT SUM(D.Price) FROM Whs_QTYDocD D WHERE "
-                                        "D.Code = H.Code)")),
+        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), headers);
+        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH H WHERE (SELECT COUNT(*) "
+                                       "FROM Whs_QTYDocD D WHERE D.Code = H.Code) <> 2 OR "
+                                       "H.DocSum <> (SELECT SUM(D.Price) FROM Whs_QTYDocD D WHERE "
+                                       "D.Code = H.Code)")),
                   0);
-        EXPECT_EQ(
-            scalar(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocD D LEFT JOIN Whs_QTYDocH H "
-                                  "ON H.Code = D.Code WHERE H.Code IS NULL")),
-            0);
-        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(DISTINCT H.DocumentHID) FROM Whs_QTYDocH H "
-                                        "INNER JOIN tblDocumentH V ON V.ID = H.DocumentHID")),
+        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocD D LEFT JOIN Whs_QTYDocH H "
+                                       "ON H.Code = D.Code WHERE H.Code IS NULL")),
+                  0);
+        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(DISTINCT H.DocumentHID) FROM Whs_QTYDocH H "
+                                       "INNER JOIN tblDocumentH V ON V.ID = H.DocumentHID")),
                   headers);
-        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), headers);
-        EXPECT_EQ(scalar(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH V WHERE (SELECT "
-                                        "COALESCE(SUM(Debt), 0) - COALESCE(SUM(Credit), 0) FROM "
-                                        "tblDocumentD D WHERE D.DocumentHID = V.ID) <> 0")),
+        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), headers);
+        EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH V WHERE (SELECT "
+                                       "COALESCE(SUM(Debt), 0) - COALESCE(SUM(Credit), 0) FROM "
+                                       "tblDocumentD D WHERE D.DocumentHID = V.ID) <> 0")),
                   0);
     }
 

@@ -95,6 +95,8 @@ TEST_F(SavedSalesScreensTest, TheChoiceAndTheFiltersTypedReachTheGrid) {
     EXPECT_EQ(numbers(list), (QStringList{"3"}));
     EXPECT_EQ(list.model().data(list.model().index(0, SaleListModel::CustomerName)).toString(),
               QStringLiteral("مريم اكبري"));
+    list.setTransType(3);
+    EXPECT_TRUE(numbers(list).isEmpty());
 }
 
 TEST_F(SavedSalesScreensTest, TheSelectedDocumentIsDeletedFromTheList) {

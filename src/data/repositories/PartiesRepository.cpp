@@ -8,6 +8,7 @@
 #include "data/Transaction.h"
 #include "data/procedures/ReturningInsert.h"
 #include "data/repositories/PartyMessages.h"
+#include "data/repositories/SearchKeys.h"
 #include "data/repositories/TypesRepository.h"
 
 namespace sandogh {
@@ -49,6 +50,7 @@ procedures::ColumnValues partyColumns(const Party& p) {
         {QStringLiteral("Code"), p.code.trimmed()},
         {QStringLiteral("Name"), p.name},
         {QStringLiteral("Value1"), p.family},
+        {QStringLiteral("NameKey"), SearchKeys::party(p.name, p.family)},
         {QStringLiteral("Value2"), p.telephone},
         {QStringLiteral("Value5"), p.mobile},
         {QStringLiteral("Value6"), p.email.trimmed()},

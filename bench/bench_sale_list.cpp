@@ -25,6 +25,7 @@
 #include "BenchShop.h"
 #include "data/Database.h"
 #include "data/DatabaseProvisioner.h"
+#include "data/Dialect.h"
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
 #include "data/repositories/SaleListQuery.h"
@@ -63,20 +64,26 @@ bool generate(Database& database, qint64 documents) {
     const qint64 customers = std::max<qint64>(1, documents / kDocumentsPerCustomer);
     const QString transType = QStringLiteral(
         "CASE WHEN i % 20 < 4 THEN 1 WHEN i % 20 = 4 THEN 3 WHEN i % 20 = 5 THEN 4 ELSE 2 END");
+    // Names, family names and Base with their search keys, as the program writes them.
+    const QString name = QStringLiteral("'name ' || CAST(i AS VARCHAR(20))");
+    const QString family = QStringLiteral("'family ' || CAST(i AS VARCHAR(20))");
+    const QString base = QStringLiteral("'B-' || CAST(i % 1000 AS VARCHAR(10))");
+    const Dialect& d = database.dialect();
     const QString statements[] = {
         bench::withNumbers(b) +
-            QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, Active) "
-                           "SELECT i, 10, CAST(i AS VARCHAR(20)), 'name ' || CAST(i AS "
-                           "VARCHAR(20)), 'family ' || CAST(i AS VARCHAR(20)), 1 FROM ") +
+            QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, NameKey, "
+                           "Active) SELECT i, 10, CAST(i AS VARCHAR(20)), %1, %2, %3, 1 FROM ")
+                .arg(name, family,
+                     d.searchKeyExpression(QStringLiteral("%1 || ' ' || %2").arg(name, family))) +
             bench::numbers(b),
         bench::withNumbers(b) +
             QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, CompanyID, DocDate, "
-                           "DocSum, Base, DocType) SELECT i, CAST(1 + (i / 20) % 3000 AS "
+                           "DocSum, Base, BaseKey, DocType) SELECT i, CAST(1 + (i / 20) % 3000 AS "
                            "VARCHAR(20)), ") +
             transType + QStringLiteral(", CASE WHEN i % 2 = 0 THEN 1 + i % :customers END, ") +
             dateOf(QStringLiteral("i")) +
-            QStringLiteral(", 1000 * (i % 13), 'B-' || CAST(i % 1000 AS VARCHAR(10)), CASE WHEN "
-                           "i % 100 = 0 THEN 2 END FROM ") +
+            QStringLiteral(", 1000 * (i % 13), %1, %2, CASE WHEN i % 100 = 0 THEN 2 END FROM ")
+                .arg(base, d.searchKeyExpression(base)) +
             bench::numbers(b),
     };
     const qint64 counts[] = {customers, documents};

@@ -4,6 +4,7 @@
 #include "app/DemoParties.h"
 #include "data/DemoSeeder.h"
 #include "data/repositories/GoodsSearchQuery.h"
+#include "data/repositories/SearchKeys.h"
 #include "data/repositories/TypesRepository.h"
 
 namespace sandogh {
@@ -118,6 +119,7 @@ void seedParties(DemoSeeder& seeder, qint64& nextCounter) {
                                {QStringLiteral("Code"), p.code},
                                {QStringLiteral("Name"), p.name},
                                {QStringLiteral("Value1"), p.familyName},
+                               {QStringLiteral("NameKey"), SearchKeys::party(p.name, p.familyName)},
                                {QStringLiteral("Value2"), p.telephone},
                                {QStringLiteral("Value5"), p.mobile},
                                {QStringLiteral("Value7"), p.address},

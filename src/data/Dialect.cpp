@@ -69,9 +69,16 @@ QString Dialect::searchKeyExpression(const QString& expression) const {
 }
 
 QStringList Dialect::createTextSearch(const TextSearchDef& search) const {
+    QString source = quote(search.sourceColumn);
+    if (!search.moreSources.isEmpty()) {
+        QStringList parts{isNull(source, QStringLiteral("''"))};
+        for (const QString& column : search.moreSources) {
+            parts << QStringLiteral("' '") << isNull(quote(column), QStringLiteral("''"));
+        }
+        source = concat(parts);
+    }
     return {QStringLiteral("UPDATE %1 SET %2 = %3")
-                .arg(table(search.table), quote(search.keyColumn),
-                     searchKeyExpression(quote(search.sourceColumn)))};
+                .arg(table(search.table), quote(search.keyColumn), searchKeyExpression(source))};
 }
 
 int Dialect::textLength(const ColumnDef& column) {

@@ -6,6 +6,7 @@
 #include "AdminShopTest.h"
 #include "data/Database.h"
 #include "data/repositories/CenterBranchesRepository.h"
+#include "data/repositories/SearchKeys.h"
 
 namespace sandogh {
 namespace {
@@ -18,10 +19,12 @@ protected:
             return;
         }
         Session s = db().session();
-        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1) "
-                                          "VALUES (40, 10, 'C', :n, :f)"),
+        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, "
+                                          "NameKey) VALUES (40, 10, 'C', :n, :f, :key)"),
                            {{QStringLiteral(":n"), QStringLiteral("رضا")},
-                            {QStringLiteral(":f"), QStringLiteral("کریمی")}}));
+                            {QStringLiteral(":f"), QStringLiteral("کریمی")},
+                            {QStringLiteral(":key"),
+                             SearchKeys::party(QStringLiteral("رضا"), QStringLiteral("کریمی"))}}));
         ASSERT_TRUE(s.exec(QStringLiteral(
             "INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, CompanyID, DocDate, DocSum, Base) "
             "VALUES (5, '1', 2, 40, '1404/01/01', 25000, 'B-1'), "

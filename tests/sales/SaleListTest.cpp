@@ -74,7 +74,9 @@ TEST_P(SaleListTest, TheThreeChoicesReadPagesInNumberOrderUpToTheirLimit) {
 TEST_P(SaleListTest, TheFiltersCombineAndTheCustomerIsFoundAsTyped) {
     addSales(6, 3);
     exec(QStringLiteral("UPDATE Whs_QTYDocH SET CompanyID = 501 WHERE Code IN (101, 104, 105)"));
-    exec(QStringLiteral("UPDATE Whs_QTYDocH SET Base = 'B-77' WHERE Code IN (104, 102)"));
+    exec(
+        QStringLiteral("UPDATE Whs_QTYDocH SET Base = 'B-77', BaseKey = 'b-77' WHERE Code IN "
+                       "(104, 102)"));
     exec(QStringLiteral("UPDATE Whs_QTYDocH SET DocDate = NULL WHERE Code = 105"));
     Session s = db().session();
     const auto codes = [&](const SaleListQuery::Filter& f) {

@@ -11,6 +11,7 @@
 #include "SaleShopTest.h"
 #include "data/Database.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/SearchKeys.h"
 #include "sales/SaleSaveResult.h"
 #include "sales/SaleSaveTexts.h"
 #include "sales/SaleSaver.h"
@@ -41,11 +42,14 @@ protected:
               {QStringLiteral(":income"), SaleSaveTexts::salesIncomeAccount()},
               {QStringLiteral(":back"), SaleSaveTexts::salesReturnAccount()}});
         // Stored with the Arabic letter forms, as older data has them.
-        exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, Active, "
-                            "AccountingGroupID, DiscountTakenTotal) SELECT 501, 10, 'C-1', :name, "
-                            ":family, 1, ID, 0 FROM tblAccountingGroup WHERE Code = 1201"),
+        exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, NameKey, "
+                            "Active, AccountingGroupID, DiscountTakenTotal) SELECT 501, 10, 'C-1', "
+                            ":name, :family, :key, 1, ID, 0 FROM tblAccountingGroup WHERE Code = "
+                            "1201"),
              {{QStringLiteral(":name"), QStringLiteral("علي")},
-              {QStringLiteral(":family"), QStringLiteral("كريمي")}});
+              {QStringLiteral(":family"), QStringLiteral("كريمي")},
+              {QStringLiteral(":key"),
+               SearchKeys::party(QStringLiteral("علي"), QStringLiteral("كريمي"))}});
         saver = std::make_unique<SaleSaver>(db(), settings(), messages(), clock());
     }
     void TearDown() override {

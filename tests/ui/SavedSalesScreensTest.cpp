@@ -22,6 +22,7 @@
 #include "data/Session.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockDocumentWriter.h"
+#include "data/repositories/SearchKeys.h"
 #include "sales/SaleDelete.h"
 #include "sales/SaleListModel.h"
 #include "sales/SaleTexts.h"
@@ -42,9 +43,12 @@ protected:
         ASSERT_TRUE(app.openDesk());
         Session s = app.context.database().session();
         ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, "
-                                          "Value1, Active) VALUES (9001, 10, 'T-1', :n, :f, 1)"),
+                                          "Value1, NameKey, Active) VALUES (9001, 10, 'T-1', :n, "
+                                          ":f, :key, 1)"),
                            {{QStringLiteral(":n"), QStringLiteral("مريم")},
-                            {QStringLiteral(":f"), QStringLiteral("اكبري")}}));
+                            {QStringLiteral(":f"), QStringLiteral("اكبري")},
+                            {QStringLiteral(":key"),
+                             SearchKeys::party(QStringLiteral("مريم"), QStringLiteral("اكبري"))}}));
         // Three sales: the third of the customer with a Base, the second of the customer.
         for (int i = 1; i <= 3; ++i) {
             Transaction tx(s);

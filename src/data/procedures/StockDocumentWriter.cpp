@@ -8,6 +8,7 @@
 #include "data/procedures/KeyConflictRetry.h"
 #include "data/procedures/ReturningInsert.h"
 #include "data/procedures/StockProcedures.h"
+#include "data/repositories/SearchKeys.h"
 
 namespace sandogh::procedures {
 
@@ -47,6 +48,7 @@ ColumnValues headerValues(const StockDocumentHeader& h) {
         {QStringLiteral("Transporter"), h.transporter},
         {QStringLiteral("KilometerEntry"), orNull(h.kilometerEntry)},
         {QStringLiteral("Base"), h.base},
+        {QStringLiteral("BaseKey"), SearchKeys::base(h.base)},
         {QStringLiteral("ReturnCauseId"), orNull(h.returnCauseId)},
         {QStringLiteral("OverheadID"), orNull(h.overheadId)},
         {QStringLiteral("IsUpdatable"), orNull(h.isUpdatable)},

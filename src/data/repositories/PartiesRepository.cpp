@@ -10,6 +10,7 @@
 #include "data/procedures/ReturningInsert.h"
 #include "data/repositories/PartyMessages.h"
 #include "data/repositories/TypedSearch.h"
+#include "data/repositories/SearchKeys.h"
 #include "data/repositories/TypesRepository.h"
 
 namespace sandogh {
@@ -51,6 +52,7 @@ procedures::ColumnValues partyColumns(const Party& p) {
         {QStringLiteral("Code"), p.code.trimmed()},
         {QStringLiteral("Name"), p.name},
         {QStringLiteral("Value1"), p.family},
+        {QStringLiteral("NameKey"), SearchKeys::party(p.name, p.family)},
         {QStringLiteral("Value2"), p.telephone},
         {QStringLiteral("Value5"), p.mobile},
         {QStringLiteral("Value6"), p.email.trimmed()},

@@ -1,9 +1,9 @@
 #include "data/repositories/SaleListQuery.h"
 
-#include "common/TextHelpers.h"
 #include "data/Dialect.h"
 #include "data/Session.h"
 #include "data/SqlQuery.h"
+#include "data/repositories/GoodsSearchQuery.h"
 
 namespace sandogh {
 
@@ -29,8 +29,14 @@ QList<QPair<QString, QString>> foldPairs() {
     return pairs;
 }
 
-QString searchKeyOf(const QString& text) {
-    return QString::fromStdString(TextHelpers::searchKey(text.trimmed().toStdString()));
+// The typed text as the stored keys hold theirs.
+QString keyOf(const QString& typed) {
+    return GoodsSearchQuery::searchKey(typed.trimmed());
+}
+
+// Whether the SQLite trigram table narrows the search: it holds runs of three characters.
+bool usesTrigramTable(Session& session, const QString& typed) {
+    return session.backend() == Backend::SQLite && keyOf(typed).size() >= 3;
 }
 
 }  // namespace
@@ -76,16 +82,27 @@ QString SaleListQuery::statement(Session& session, const Filter& filter, bool de
                          "H.DocDate = :docDate)")
                    : QStringLiteral(" AND H.DocDate = :docDate");
     }
+    // Customer and Base by their stored search keys. On SQLite the rows holding the text are
+    // first taken from the key's trigram index (a word of three characters or more), then
+    // compared with the key as before; PostgreSQL finds LIKE through its trigram index
+    // itself; SQL Server compares every key.
     if (!filter.customer.trimmed().isEmpty()) {
-        const QString name =
-            d.concat({QStringLiteral("COALESCE(C.Name, '')"), QStringLiteral("' '"),
-                      QStringLiteral("COALESCE(C.Value1, '')")});
-        sql += QStringLiteral(" AND H.CompanyID IN (SELECT C.Counter FROM Types C WHERE ") +
-               searchKeySql(name, searchKeyOf(filter.customer)) +
-               QStringLiteral(" LIKE :customer)");
+        sql += QStringLiteral(
+            " AND H.CompanyID IN (SELECT C.Counter FROM Types C WHERE C.NameKey LIKE :customer");
+        if (usesTrigramTable(session, filter.customer)) {
+            sql += QStringLiteral(
+                " AND C.Counter IN (SELECT rowid FROM PartyNameSearch WHERE NameKey LIKE "
+                ":customerIndexed)");
+        }
+        sql += QLatin1Char(')');
     }
     if (!filter.base.trimmed().isEmpty()) {
-        sql += QStringLiteral(" AND H.Base LIKE :base");
+        sql += QStringLiteral(" AND H.BaseKey LIKE :base");
+        if (usesTrigramTable(session, filter.base)) {
+            sql += QStringLiteral(
+                " AND H.Code IN (SELECT rowid FROM DocumentBaseSearch WHERE BaseKey LIKE "
+                ":baseIndexed)");
+        }
     }
     return sql + keysetTail(session, kNumber, descending, atStart, rows);
 }
@@ -135,14 +152,18 @@ QList<SaleListQuery::Row> SaleListQuery::page(Session& session, const Filter& fi
     if (!filter.docDate.trimmed().isEmpty()) {
         q.bind(QStringLiteral(":docDate"), filter.docDate.trimmed());
     }
-    if (!filter.customer.trimmed().isEmpty()) {
-        q.bind(QStringLiteral(":customer"),
-               QLatin1Char('%') + searchKeyOf(filter.customer) + QLatin1Char('%'));
-    }
-    if (!filter.base.trimmed().isEmpty()) {
-        q.bind(QStringLiteral(":base"),
-               QLatin1Char('%') + filter.base.trimmed() + QLatin1Char('%'));
-    }
+    const auto bindKey = [&](const QString& typed, const QString& name) {
+        if (typed.trimmed().isEmpty()) {
+            return;
+        }
+        const QString pattern = QLatin1Char('%') + keyOf(typed) + QLatin1Char('%');
+        q.bind(name, pattern);
+        if (usesTrigramTable(session, typed)) {
+            q.bind(name + QStringLiteral("Indexed"), pattern);
+        }
+    };
+    bindKey(filter.customer, QStringLiteral(":customer"));
+    bindKey(filter.base, QStringLiteral(":base"));
     bindAfter(q, session, after);
     if (!q.exec()) {
         return result;

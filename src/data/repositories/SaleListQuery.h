@@ -15,9 +15,10 @@ class SqlQuery;
 // counts or reads the whole table.
 //
 // The filters combine: number equal, date equal, customer name and family holding the
-// text, Base holding the text. The customer is matched on the search key of the typed
-// text against the search key of Name + ' ' + Value1 (Persian letter forms, ASCII digits,
-// no zero-width non-joiner), computed by the statement itself.
+// text, Base holding the text. Customer and Base are matched on the search key of the typed
+// text (SearchKeys: Persian letter forms, ASCII digits, no zero-width non-joiner, lower
+// case) against the keys stored beside them (Types.NameKey of Name + ' ' + Value1,
+// Whs_QTYDocH.BaseKey), through their trigram indexes where the backend has them.
 class SaleListQuery {
 public:
     struct Filter {

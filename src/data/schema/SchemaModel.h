@@ -71,13 +71,16 @@ struct AddColumnDef {
 // (folded as TextHelpers::searchKey folds, and in lower case), filled for the rows already
 // there, and indexed so that a word anywhere in it is found without reading the table:
 // a trigram index on PostgreSQL (pg_trgm), an FTS5 trigram table kept by triggers on SQLite
-// named after the search. idColumn is the table's integer key.
+// named after the search. idColumn is the table's integer key. A key of several columns
+// (a party's name and family) lists the others in moreSources: their texts follow the
+// source's, each after a space, a missing one as empty.
 struct TextSearchDef {
     QString name;
     QString table;
     QString keyColumn;
     QString sourceColumn;
     QString idColumn;
+    QStringList moreSources{};
 };
 
 // One numbered, append-only step of the schema. Steps are applied in order,

@@ -6,10 +6,13 @@ namespace sandogh {
 
 const QList<MigrationStep>& shopMigrations() {
     static const QList<MigrationStep> steps{
-        shopschema::siteStep(),         shopschema::parametersStep(), shopschema::goodsStep(),
-        shopschema::documentsStep(),    shopschema::accountsStep(),   shopschema::giftCardsStep(),
-        shopschema::scaleVendorsStep(), shopschema::lookupsStep(),    shopschema::goodsSearchStep(),
-        shopschema::saleAuditStep(),    shopschema::userRightsStep(), shopschema::reportsStep(),
+        shopschema::siteStep(),           shopschema::parametersStep(),
+        shopschema::goodsStep(),          shopschema::documentsStep(),
+        shopschema::accountsStep(),       shopschema::giftCardsStep(),
+        shopschema::scaleVendorsStep(),   shopschema::lookupsStep(),
+        shopschema::goodsSearchStep(),    shopschema::saleAuditStep(),
+        shopschema::userRightsStep(),     shopschema::reportsStep(),
+        shopschema::saleListSearchStep(),
     };
     return steps;
 }

@@ -115,17 +115,18 @@ inline QList<ColumnDef> levelColumns(int count) {
 }
 
 // One step per area of the shop database, in version order.
-MigrationStep siteStep();          // 1
-MigrationStep parametersStep();    // 2
-MigrationStep goodsStep();         // 3
-MigrationStep documentsStep();     // 4
-MigrationStep accountsStep();      // 5
-MigrationStep giftCardsStep();     // 6
-MigrationStep scaleVendorsStep();  // 7
-MigrationStep lookupsStep();       // 8
-MigrationStep goodsSearchStep();   // 9
-MigrationStep saleAuditStep();     // 10
-MigrationStep userRightsStep();    // 11
-MigrationStep reportsStep();       // 12
+MigrationStep siteStep();            // 1
+MigrationStep parametersStep();      // 2
+MigrationStep goodsStep();           // 3
+MigrationStep documentsStep();       // 4
+MigrationStep accountsStep();        // 5
+MigrationStep giftCardsStep();       // 6
+MigrationStep scaleVendorsStep();    // 7
+MigrationStep lookupsStep();         // 8
+MigrationStep goodsSearchStep();     // 9
+MigrationStep saleAuditStep();       // 10
+MigrationStep userRightsStep();      // 11
+MigrationStep reportsStep();         // 12
+MigrationStep saleListSearchStep();  // 13
 
 }  // namespace sandogh::shopschema

@@ -110,6 +110,51 @@ TEST_P(GoodsRepositoryTest, TheWeighedKindIsWrittenAndReadBackEitherWay) {
     }
 }
 
+// Every field comes back as saved; the values all differ, so that a column read in the
+// place of its neighbour shows.
+TEST_P(GoodsRepositoryTest, EveryFieldIsReadBackAsSaved) {
+    GoodsRepository goods = repository();
+    GoodsArticle a = article(QStringLiteral("3001"), QStringLiteral("Rice"), 1100);
+    a.specCode = QStringLiteral("31");
+    a.enName = QStringLiteral("Rice EN");
+    a.cost2 = 1200;
+    a.articlePrice = 1300;
+    a.taxValue = 9;
+    a.unit = 7;
+    a.favoriteTab = 3;
+    a.favourite = true;
+    a.askQuantity = true;
+    a.stockNo1 = QStringLiteral("A1");
+    a.stockNo2 = QStringLiteral("B2");
+    a.note = QStringLiteral("note");
+    a.inPacket = 12;
+    a.minimum = 4;
+    a.maximum = 40;
+    const CheckResult saved = goods.save(a);
+    ASSERT_TRUE(saved.ok) << saved.message.toStdString();
+    const std::optional<GoodsArticle> r = goods.find(QStringLiteral("3001"));
+    ASSERT_TRUE(r.has_value());
+    EXPECT_EQ(r->specCode, a.specCode);
+    EXPECT_EQ(r->name, a.name);
+    EXPECT_EQ(r->enName, a.enName);
+    EXPECT_EQ(r->cost, 1100.0);
+    EXPECT_EQ(r->cost2, 1200.0);
+    EXPECT_EQ(r->articlePrice, 1300.0);
+    EXPECT_EQ(r->taxValue, 9.0);
+    EXPECT_EQ(r->unit, 7);
+    EXPECT_FALSE(r->weighed);
+    EXPECT_TRUE(r->favourite);
+    EXPECT_EQ(r->favoriteTab, 3);
+    EXPECT_TRUE(r->askQuantity);
+    EXPECT_EQ(r->stockNo1, a.stockNo1);
+    EXPECT_EQ(r->stockNo2, a.stockNo2);
+    EXPECT_TRUE(r->active);
+    EXPECT_EQ(r->note, a.note);
+    EXPECT_EQ(r->inPacket, 12.0);
+    EXPECT_EQ(r->minimum, 4.0);
+    EXPECT_EQ(r->maximum, 40.0);
+}
+
 TEST_P(GoodsRepositoryTest, APriceRowIsWrittenOnlyWhenTheSalePriceChanges) {
     GoodsRepository goods = repository();
     GoodsArticle a = article(QStringLiteral("1001"), QStringLiteral("Tea"), 1000);

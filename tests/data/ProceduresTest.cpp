@@ -24,6 +24,8 @@ TEST_P(ProceduresTest, VoucherCodesStartAtOneAndFollowTheLargest) {
     given.time = QStringLiteral("12:30");
     given.userId = 3;
     given.note = QStringLiteral("فاکتور خريد شماره 12 مورخ : 1404/01/05");
+    given.permanent = true;  // beside transfer, so that one read for the other shows
+    given.serial = QStringLiteral("12");
     ASSERT_GT(sp_tblDocumentH_Insert(s, given), 0);
     EXPECT_EQ(sp_tblDocumentH_GetNewCode(s), 2);
     // Code 0: the number is taken inside the insert.
@@ -42,6 +44,8 @@ TEST_P(ProceduresTest, VoucherCodesStartAtOneAndFollowTheLargest) {
     EXPECT_EQ(read->time, given.time);
     EXPECT_EQ(read->userId, 3);
     EXPECT_FALSE(read->transfer);
+    EXPECT_TRUE(read->permanent);
+    EXPECT_EQ(read->serial, given.serial);
     EXPECT_EQ(read->note, given.note);
     EXPECT_FALSE(sp_tblDocumentH_SelectRow(s, 999).has_value());
 }

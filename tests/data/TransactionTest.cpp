@@ -112,6 +112,25 @@ TEST_P(TransactionTest, LeavingTheScopeWithoutCommitRollsBack) {
     EXPECT_EQ(committedRows(), 0);
 }
 
+// A unit handed on (moved) is the new owner's alone: the one it came from neither commits
+// nor rolls it back when it goes.
+TEST_P(TransactionTest, AMovedUnitBelongsToItsNewOwner) {
+    Session s = db().session();
+    Transaction kept(s);
+    ASSERT_TRUE(kept.commit());  // an ended unit, to take the next one over
+    {
+        Transaction first(s);
+        ASSERT_TRUE(insert(s, 1));
+        kept = std::move(first);
+        EXPECT_FALSE(first.isActive());
+        EXPECT_FALSE(first.commit());
+    }
+    ASSERT_TRUE(kept.isActive());
+    ASSERT_TRUE(insert(s, 2));
+    EXPECT_TRUE(kept.commit());
+    EXPECT_EQ(committedRows(), 2);
+}
+
 TEST_P(TransactionTest, ARefusedCommitIsReportedAndLeavesNothing) {
     Session s = db().session();
     ASSERT_TRUE(test::createTables(s, test::parentChildTables(), {test::childToParent()}));

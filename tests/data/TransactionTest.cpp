@@ -100,18 +100,6 @@ TEST_P(TransactionTest, AFailureMidwayLeavesNothing) {
     EXPECT_EQ(committedRows(), 1);
 }
 
-TEST_P(TransactionTest, LeavingTheScopeWithoutCommitRollsBack) {
-    Session s = db().session();
-    {
-        Transaction tx(s);
-        ASSERT_TRUE(insert(s, 1));
-        ASSERT_TRUE(insert(s, 2));
-        EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods")), 2);
-    }
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods")), 0);
-    EXPECT_EQ(committedRows(), 0);
-}
-
 TEST_P(TransactionTest, ARefusedCommitIsReportedAndLeavesNothing) {
     Session s = db().session();
     ASSERT_TRUE(test::createTables(s, test::parentChildTables(), {test::childToParent()}));

@@ -19,118 +19,69 @@ namespace {
 
 struct LoadCase {
     const char* name;
-    QStringList lines;  // written as they stand, each followed by lineEnd
+    const char* lines;  // the file's lines, split at '|', each followed by lineEnd
     const char* lineEnd;
-    QString year;  // "Year"/"Year" of the settings
-    bool ok;
-    QString expected;  // the connection string when ok
+    const char* year;      // "Year"/"Year" of the settings
+    const char* expected;  // the connection string; null when the file is refused
 };
 
 void PrintTo(const LoadCase& c, std::ostream* os) {
     *os << c.name;
 }
 
-const QStringList kStandard = {
-    QStringLiteral("Provider=SQLOLEDB.1;"),
-    QStringLiteral("Persist Security Info=False;"),
-    QStringLiteral("User ID=sa;"),
-    QStringLiteral("Password=secret;"),
-    QStringLiteral("Initial Catalog=Shop1403;"),
-    QStringLiteral("Data Source=SERVER1;"),
+#define STANDARD                                                                              \
+    "Provider=SQLOLEDB.1;|Persist Security Info=False;|User ID=sa;|Password=secret;|Initial " \
+    "Catalog=Shop1403;|Data Source=SERVER1;"
+#define JOINED(catalog)                                                                   \
+    "Provider=SQLOLEDB.1;Persist Security Info=False;User ID=sa;Password=secret;Initial " \
+    "Catalog=" catalog ";Data Source=SERVER1;"
+#define SQLITE_WITH(catalog, user, password)                            \
+    "Provider=SQLite;|Data Source=Data;|" catalog "|" user "|" password \
+    "|"                                                                 \
+    "Persist Security Info=False;"
+
+const LoadCase kLoadCases[] = {
+    {"NoFiscalYearKeepsTheFileCatalog", STANDARD, "\r\n", "", JOINED("Shop1403")},
+    {"FiscalYearReplacesTheCatalog", STANDARD, "\r\n", "Shop1404", JOINED("Shop1404")},
+    {"SameNameInAnotherCaseChangesNothing", STANDARD, "\r\n", "SHOP1403", JOINED("Shop1403")},
+    {"FiscalYearIsTrimmed", STANDARD, "\n", "  Shop1404 ", JOINED("Shop1404")},
+    {"CatalogInsideTheServerNameIsReplacedToo",
+     "Provider=SQLOLEDB.1;|Data Source=shop1403-srv\\SQL;|Persist Security Info=False;|User "
+     "ID=sa;|Password=x;|Initial Catalog=Shop1403;",
+     "\r\n", "Y1404",
+     "Provider=SQLOLEDB.1;Data Source=Y1404-srv\\SQL;Persist Security Info=False;User "
+     "ID=sa;Password=x;Initial Catalog=Y1404;"},
+    {"LinesWithoutSemicolonsAreJoinedAsTheyAre",
+     "Provider=SQLite|Data Source=Data|Initial Catalog=Shop|User ID=sa|Password=pw|Persist "
+     "Security Info=False",
+     "\n", "",
+     "Provider=SQLiteData Source=DataInitial Catalog=ShopUser ID=saPassword=pwPersist Security "
+     "Info=False"},
+    {"KindsAreFoundWithoutRegardToCase",
+     "PROVIDER=SQLOLEDB.1;|dATA sOURCE=srv;|iNITIAL cATALOG=Shop1403;|uSER id=sa;|pASSWORD=p;|"
+     "Persist Security Info=False;",
+     "\r\n", "Shop1404",
+     "PROVIDER=SQLOLEDB.1;dATA sOURCE=srv;iNITIAL cATALOG=Shop1404;uSER id=sa;pASSWORD=p;Persist "
+     "Security Info=False;"},
+    {"OnlySixLinesAreRead", STANDARD "|Extra=1;", "\r\n", "", JOINED("Shop1403")},
+    {"EmptyCatalogIsNeverReplaced", SQLITE_WITH("Initial Catalog=;", "User ID=;", "Password=;"),
+     "\n", "Shop1404",
+     "Provider=SQLite;Data Source=Data;Initial Catalog=;User ID=;Password=;Persist Security "
+     "Info=False;"},
+    {"FiveLinesFail",
+     "Provider=SQLOLEDB.1;|Persist Security Info=False;|User ID=sa;|Password=secret;|Initial "
+     "Catalog=Shop1403;",
+     "\r\n", "", nullptr},
+    {"EmptyFileFails", nullptr, "\r\n", "", nullptr},
+    {"CatalogLineShorterThanItsKeyFails", SQLITE_WITH("Init=Shop;", "User ID=;", "Password=;"),
+     "\n", "", nullptr},
+    {"CatalogKeyWithoutAnyValueCharacterFails",
+     SQLITE_WITH("Initial Catalog=", "User ID=;", "Password=;"), "\n", "", nullptr},
+    {"PasswordLineShorterThanItsKeyFails",
+     SQLITE_WITH("Initial Catalog=Shop;", "User ID=;", "Pass;"), "\n", "", nullptr},
+    {"UserLineShorterThanItsKeyFails",
+     SQLITE_WITH("Initial Catalog=Shop;", "User=x;", "Password=;"), "\n", "", nullptr},
 };
-const QString kStandardJoined = kStandard.join(QString());
-
-QString replaced(QString s, const QString& from, const QString& to) {
-    return s.replace(from, to);
-}
-
-std::vector<LoadCase> loadCases() {
-    return {
-        {"NoFiscalYearKeepsTheFileCatalog", kStandard, "\r\n", {}, true, kStandardJoined},
-        {"FiscalYearReplacesTheCatalog", kStandard, "\r\n", QStringLiteral("Shop1404"), true,
-         replaced(kStandardJoined, QStringLiteral("Shop1403"), QStringLiteral("Shop1404"))},
-        {"SameNameInAnotherCaseChangesNothing", kStandard, "\r\n", QStringLiteral("SHOP1403"), true,
-         kStandardJoined},
-        {"FiscalYearIsTrimmed", kStandard, "\n", QStringLiteral("  Shop1404 "), true,
-         replaced(kStandardJoined, QStringLiteral("Shop1403"), QStringLiteral("Shop1404"))},
-        {"CatalogInsideTheServerNameIsReplacedToo",
-         {QStringLiteral("Provider=SQLOLEDB.1;"), QStringLiteral("Data Source=shop1403-srv\\SQL;"),
-          QStringLiteral("Persist Security Info=False;"), QStringLiteral("User ID=sa;"),
-          QStringLiteral("Password=x;"), QStringLiteral("Initial Catalog=Shop1403;")},
-         "\r\n",
-         QStringLiteral("Y1404"),
-         true,
-         QStringLiteral("Provider=SQLOLEDB.1;Data Source=Y1404-srv\\SQL;Persist Security "
-                        "Info=False;User ID=sa;Password=x;Initial Catalog=Y1404;")},
-        {"LinesWithoutSemicolonsAreJoinedAsTheyAre",
-         {QStringLiteral("Provider=SQLite"), QStringLiteral("Data Source=Data"),
-          QStringLiteral("Initial Catalog=Shop"), QStringLiteral("User ID=sa"),
-          QStringLiteral("Password=pw"), QStringLiteral("Persist Security Info=False")},
-         "\n",
-         {},
-         true,
-         QStringLiteral("Provider=SQLiteData Source=DataInitial Catalog=ShopUser ID=sa"
-                        "Password=pwPersist Security Info=False")},
-        {"KindsAreFoundWithoutRegardToCase",
-         {QStringLiteral("PROVIDER=SQLOLEDB.1;"), QStringLiteral("dATA sOURCE=srv;"),
-          QStringLiteral("iNITIAL cATALOG=Shop1403;"), QStringLiteral("uSER id=sa;"),
-          QStringLiteral("pASSWORD=p;"), QStringLiteral("Persist Security Info=False;")},
-         "\r\n",
-         QStringLiteral("Shop1404"),
-         true,
-         QStringLiteral("PROVIDER=SQLOLEDB.1;dATA sOURCE=srv;iNITIAL cATALOG=Shop1404;uSER id=sa;"
-                        "pASSWORD=p;Persist Security Info=False;")},
-        {"OnlySixLinesAreRead",
-         kStandard + QStringList{QStringLiteral("Extra=1;")},
-         "\r\n",
-         {},
-         true,
-         kStandardJoined},
-        {"EmptyCatalogIsNeverReplaced",
-         {QStringLiteral("Provider=SQLite;"), QStringLiteral("Data Source=Data;"),
-          QStringLiteral("Initial Catalog=;"), QStringLiteral("User ID=;"),
-          QStringLiteral("Password=;"), QStringLiteral("Persist Security Info=False;")},
-         "\n",
-         QStringLiteral("Shop1404"),
-         true,
-         QStringLiteral("Provider=SQLite;Data Source=Data;Initial Catalog=;User ID=;Password=;"
-                        "Persist Security Info=False;")},
-        {"FiveLinesFail", kStandard.mid(0, 5), "\r\n", {}, false, {}},
-        {"EmptyFileFails", {}, "\r\n", {}, false, {}},
-        {"CatalogLineShorterThanItsKeyFails",
-         {QStringLiteral("Provider=SQLite;"), QStringLiteral("Data Source=Data;"),
-          QStringLiteral("Init=Shop;"), QStringLiteral("User ID=;"), QStringLiteral("Password=;"),
-          QStringLiteral("Persist Security Info=False;")},
-         "\n",
-         {},
-         false,
-         {}},
-        {"CatalogKeyWithoutAnyValueCharacterFails",
-         {QStringLiteral("Provider=SQLite;"), QStringLiteral("Data Source=Data;"),
-          QStringLiteral("Initial Catalog="), QStringLiteral("User ID=;"),
-          QStringLiteral("Password=;"), QStringLiteral("Persist Security Info=False;")},
-         "\n",
-         {},
-         false,
-         {}},
-        {"PasswordLineShorterThanItsKeyFails",
-         {QStringLiteral("Provider=SQLite;"), QStringLiteral("Data Source=Data;"),
-          QStringLiteral("Initial Catalog=Shop;"), QStringLiteral("User ID=;"),
-          QStringLiteral("Pass;"), QStringLiteral("Persist Security Info=False;")},
-         "\n",
-         {},
-         false,
-         {}},
-        {"UserLineShorterThanItsKeyFails",
-         {QStringLiteral("Provider=SQLite;"), QStringLiteral("Data Source=Data;"),
-          QStringLiteral("Initial Catalog=Shop;"), QStringLiteral("User=x;"),
-          QStringLiteral("Password=;"), QStringLiteral("Persist Security Info=False;")},
-         "\n",
-         {},
-         false,
-         {}},
-    };
-}
 
 class LoadPrimaryTest : public ::testing::TestWithParam<LoadCase> {};
 
@@ -140,8 +91,10 @@ TEST_P(LoadPrimaryTest, AssemblesTheConnectionString) {
     ASSERT_TRUE(dir.isValid());
     QFile file(QDir(dir.path()).filePath(QStringLiteral("Provider.txt")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    for (const QString& line : c.lines) {
-        file.write(line.toUtf8() + c.lineEnd);
+    if (c.lines) {
+        for (const QByteArray& line : QByteArray(c.lines).split('|')) {
+            file.write(line + c.lineEnd);
+        }
     }
     file.close();
 
@@ -150,13 +103,14 @@ TEST_P(LoadPrimaryTest, AssemblesTheConnectionString) {
     ErrorLog log(dir.path(), &messages, clock, QStringLiteral("1404/01/01"), QStringLiteral("1.0"));
     ConnectionFile connection(dir.path(), &log);
 
-    EXPECT_EQ(connection.LoadPrimary(c.year), c.ok);
-    EXPECT_EQ(connection.connectionString(), c.ok ? c.expected : QString());
-    EXPECT_EQ(messages.count(), c.ok ? 0 : 1);
-    EXPECT_EQ(QFile::exists(log.filePath()), !c.ok);
+    const bool ok = c.expected != nullptr;
+    EXPECT_EQ(connection.LoadPrimary(QString::fromUtf8(c.year)), ok);
+    EXPECT_EQ(connection.connectionString(), QString::fromUtf8(c.expected));
+    EXPECT_EQ(messages.count(), ok ? 0 : 1);
+    EXPECT_EQ(QFile::exists(log.filePath()), !ok);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, LoadPrimaryTest, ::testing::ValuesIn(loadCases()),
+INSTANTIATE_TEST_SUITE_P(Cases, LoadPrimaryTest, ::testing::ValuesIn(kLoadCases),
                          [](const auto& p) { return std::string(p.param.name); });
 
 TEST(LoadPrimaryFailure, MissingFileIsLoggedUnderMainModule) {
@@ -182,7 +136,7 @@ TEST(LoadPrimaryFailure, AFailureAfterASuccessClearsTheString) {
     const QString path = QDir(dir.path()).filePath(QStringLiteral("Provider.txt"));
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(kStandard.join(QStringLiteral("\r\n")).toUtf8() + "\r\n");
+    file.write(QByteArray(STANDARD).replace('|', "\r\n") + "\r\n");
     file.close();
     ConnectionFile connection(dir.path(), nullptr);
     ASSERT_TRUE(connection.LoadPrimary({}));

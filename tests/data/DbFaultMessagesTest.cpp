@@ -1,6 +1,5 @@
 // Failures the program can name are told in their own words, once, and recorded in
-// ErrorLog.txt: a refused foreign key, a busy database, a damaged file. The kinds of
-// the servers' codes are a table.
+// ErrorLog.txt: a refused foreign key, a busy database, a damaged file.
 
 #include <gtest/gtest.h>
 
@@ -22,46 +21,6 @@ namespace sandogh {
 namespace {
 
 using test::column;
-
-struct CodeCase {
-    Backend backend;
-    const char* code;
-    DbErrorKind kind;
-};
-
-TEST(DbFaultKinds, ServerCodesHaveTheirKinds) {
-    const CodeCase cases[] = {
-        {Backend::SQLite, "5", DbErrorKind::Busy},
-        {Backend::SQLite, "517", DbErrorKind::Busy},
-        {Backend::SQLite, "6", DbErrorKind::Busy},
-        {Backend::SQLite, "8", DbErrorKind::Permission},
-        {Backend::SQLite, "3", DbErrorKind::Permission},
-        {Backend::SQLite, "13", DbErrorKind::DiskFull},
-        {Backend::SQLite, "11", DbErrorKind::Damaged},
-        {Backend::SQLite, "26", DbErrorKind::Damaged},
-        {Backend::SQLite, "787", DbErrorKind::ForeignKey},
-        {Backend::SQLite, "10", DbErrorKind::ConnectionLost},
-        {Backend::PostgreSQL, "40P01", DbErrorKind::Busy},
-        {Backend::PostgreSQL, "55P03", DbErrorKind::Busy},
-        {Backend::PostgreSQL, "42501", DbErrorKind::Permission},
-        {Backend::PostgreSQL, "53100", DbErrorKind::DiskFull},
-        {Backend::PostgreSQL, "XX001", DbErrorKind::Damaged},
-        {Backend::PostgreSQL, "23503", DbErrorKind::ForeignKey},
-        {Backend::SqlServer, "1205", DbErrorKind::Busy},
-        {Backend::SqlServer, "229", DbErrorKind::Permission},
-        {Backend::SqlServer, "9002", DbErrorKind::DiskFull},
-        {Backend::SqlServer, "824", DbErrorKind::Damaged},
-    };
-    for (const CodeCase& c : cases) {
-        const QSqlError error(QStringLiteral("driver"), QStringLiteral("database"),
-                              QSqlError::StatementError, QString::fromLatin1(c.code));
-        const DbErrorKind kind = DbError::classify(error, c.backend, true);
-        EXPECT_EQ(kind, c.kind) << backendName(c.backend).toStdString() << ' ' << c.code;
-        // The connection has its own message, shown by the pool.
-        EXPECT_EQ(DbError::messageFor(kind).isEmpty(), kind == DbErrorKind::ConnectionLost)
-            << c.code;
-    }
-}
 
 class DbFaultMessagesTest : public test::BackendTest {
 protected:

@@ -50,18 +50,6 @@ TEST_P(ProceduresTest, VoucherCodesStartAtOneAndFollowTheLargest) {
     EXPECT_FALSE(sp_tblDocumentH_SelectRow(s, 999).has_value());
 }
 
-TEST_P(ProceduresTest, AVoucherCodeTakenAlreadyIsAKeyConflict) {
-    Session s = session();
-    VoucherHeader first;
-    first.code = 5;
-    ASSERT_GT(sp_tblDocumentH_Insert(s, first), 0);
-    VoucherHeader twin;
-    twin.code = 5;
-    EXPECT_EQ(sp_tblDocumentH_Insert(s, twin), 0);
-    EXPECT_TRUE(s.lastError().isKeyConflict());
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), 1);
-}
-
 TEST_P(ProceduresTest, PostingsAreWrittenAndDeletedWithTheirVoucher) {
     Session s = session();
     Transaction tx(s);

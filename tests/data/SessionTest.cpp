@@ -152,30 +152,6 @@ TEST_P(SessionTest, KeyAndForeignKeyViolationsAreClassified) {
     EXPECT_EQ(messages().count(), 3);
 }
 
-TEST_P(SessionTest, AUniqueIndexViolationIsAKeyConflict) {
-    Session s = db().session();
-    IndexDef unique{QStringLiteral("UX_Keyed_Barcode"),
-                    QStringLiteral("Keyed"),
-                    {QStringLiteral("Barcode")},
-                    true,
-                    {}};
-    ASSERT_TRUE(test::createTables(s,
-                                   {{QStringLiteral("Keyed"),
-                                     {test::column("Id", ColumnType::Int, 0, false),
-                                      test::column("Barcode", ColumnType::Text, 50)},
-                                     {QStringLiteral("Id")},
-                                     {}}},
-                                   {}, {unique}));
-    const QString sql = QStringLiteral("INSERT INTO Keyed (Id, Barcode) VALUES (:id, :barcode)");
-    ASSERT_TRUE(s.exec(
-        sql, {{QStringLiteral("id"), 1}, {QStringLiteral("barcode"), QStringLiteral("626")}}));
-    EXPECT_FALSE(
-        s.exec(sql, {{QStringLiteral("id"), 2}, {QStringLiteral("barcode"), QStringLiteral("626")}},
-               FailureLogging::QuietKeyConflicts));
-    EXPECT_TRUE(s.lastError().isKeyConflict());
-    EXPECT_EQ(messages().count(), 0);
-}
-
 TEST_P(SessionTest, ABindNamedOnlyOnceServesEveryUseOfThePlaceholder) {
     Session s = db().session();
     ASSERT_TRUE(insert(s, 1, QStringLiteral("a")));

@@ -9,6 +9,7 @@
 #include <QList>
 #include <QString>
 #include <optional>
+#include <utility>
 
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
@@ -121,6 +122,51 @@ protected:
     }
     qint64 rows(const QString& table) {
         return count(QStringLiteral("SELECT COUNT(*) FROM ") + table);
+    }
+
+    // Stock of an article as the Stock table holds it; -1 without a row.
+    double stock(const QString& barcode) {
+        Session s = session();
+        return s.scalarNumber(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = :b"),
+                              {{QStringLiteral(":b"), barcode}}, -1);
+    }
+    // tblAccountingGroup.ID by its Code.
+    int account(int code) {
+        return int(count(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = :c"),
+                         {{QStringLiteral(":c"), code}}));
+    }
+    // Debit and credit of an account (by its Code) in a voucher.
+    std::pair<double, double> posted(qint64 voucher, int accountCode) {
+        Session s = session();
+        SqlQuery q(s, QStringLiteral("SELECT COALESCE(SUM(Debt), 0), COALESCE(SUM(Credit), 0) "
+                                     "FROM tblDocumentD WHERE DocumentHID = :v AND "
+                                     "AccountingGroupID = :a"));
+        q.bind(QStringLiteral(":v"), voucher).bind(QStringLiteral(":a"), account(accountCode));
+        EXPECT_TRUE(q.exec() && q.next());
+        return {q.number(0), q.number(1)};
+    }
+    // Makes every statement of a kind ("INSERT", "DELETE") on `table` fail until allow().
+    void refuse(const QString& table, const QString& kind) {
+        if (backend() == Backend::SQLite) {
+            exec(QStringLiteral("CREATE TRIGGER refuse_it BEFORE %1 ON %2 BEGIN "
+                                "SELECT RAISE(ABORT, 'refused'); END")
+                     .arg(kind, table));
+            return;
+        }
+        exec(
+            QStringLiteral("CREATE FUNCTION refuse_it() RETURNS trigger AS $$ BEGIN RAISE "
+                           "EXCEPTION 'refused'; END $$ LANGUAGE plpgsql"));
+        exec(QStringLiteral("CREATE TRIGGER refuse_it BEFORE %1 ON %2 FOR EACH ROW EXECUTE "
+                            "FUNCTION refuse_it()")
+                 .arg(kind, table.toLower()));
+    }
+    void allow(const QString& table) {
+        if (backend() == Backend::SQLite) {
+            exec(QStringLiteral("DROP TRIGGER refuse_it"));
+            return;
+        }
+        exec(QStringLiteral("DROP TRIGGER refuse_it ON %1").arg(table.toLower()));
+        exec(QStringLiteral("DROP FUNCTION refuse_it()"));
     }
 
     // A code level of Code_Parameters.

@@ -157,20 +157,6 @@ TEST_P(StockRepairTest, WarehouseQuantityCountsThatWarehouseOnly) {
     EXPECT_DOUBLE_EQ(procedures::SP_ComputeWarehouseQtyByEanCode(s, QStringLiteral("none"), {}), 0);
 }
 
-TEST_P(StockRepairTest, DeletingADocumentAndRepairingTakesItsLinesBack) {
-    const QString b = QStringLiteral("D1");
-    addGoods(b);
-    addDocument(kPurchase, QStringLiteral("1"), {{b, 10}});
-    const qint64 sale = addDocument(kSale, QStringLiteral("1"), {{b, 4}});
-    ASSERT_TRUE(repair({b}));
-    EXPECT_DOUBLE_EQ(stockOf(b).stock, 6);
-    Session s = session();
-    ASSERT_TRUE(procedures::StockDocumentWriter::deleteDocument(s, sale));
-    ASSERT_TRUE(procedures::sp_StockRepair(s, {b}));
-    EXPECT_DOUBLE_EQ(stockOf(b).stock, 10);
-    EXPECT_DOUBLE_EQ(stockOf(b).exported, 0);
-}
-
 SANDOGH_INSTANTIATE_BACKENDS(StockRepairTest);
 
 }  // namespace

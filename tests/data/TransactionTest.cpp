@@ -100,18 +100,6 @@ TEST_P(TransactionTest, AFailureMidwayLeavesNothing) {
     EXPECT_EQ(committedRows(), 1);
 }
 
-TEST_P(TransactionTest, LeavingTheScopeWithoutCommitRollsBack) {
-    Session s = db().session();
-    {
-        Transaction tx(s);
-        ASSERT_TRUE(insert(s, 1));
-        ASSERT_TRUE(insert(s, 2));
-        EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods")), 2);
-    }
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods")), 0);
-    EXPECT_EQ(committedRows(), 0);
-}
-
 // A unit handed on (moved) is the new owner's alone: the one it came from neither commits
 // nor rolls it back when it goes.
 TEST_P(TransactionTest, AMovedUnitBelongsToItsNewOwner) {

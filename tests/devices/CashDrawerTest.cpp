@@ -4,10 +4,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "RecordingLauncher.h"
 #include "WaitUntil.h"
 #include "devices/CashDrawer.h"
 #include "devices/DetachedProgramLauncher.h"
+#include "support/LaunchRecorder.h"
 #include "support/RawPrintRecorder.h"
 #include "support/RecordingMessageService.h"
 
@@ -16,7 +16,7 @@ using sandogh::DetachedProgramLauncher;
 using sandogh::DrawerConfig;
 using sandogh::MessageStyle;
 using sandogh::RawPrinter;
-using sandogh::test::RecordingLauncher;
+using sandogh::test::LaunchRecorder;
 using sandogh::test::RecordingMessageService;
 using sandogh::test::waitUntil;
 
@@ -34,7 +34,7 @@ TEST_P(DrawerPath, FollowsPrinterPortUsb) {
     config.printerPortUsb = QString::fromLatin1(GetParam().usb);
     config.programFolder = QStringLiteral("/opt/shop");
     sandogh::test::RawPrintRecorder printer;
-    RecordingLauncher launcher;
+    LaunchRecorder launcher;
     RecordingMessageService messages;
     CashDrawer drawer(config, printer, launcher, messages);
     drawer.open();
@@ -51,7 +51,7 @@ INSTANTIATE_TEST_SUITE_P(Values, DrawerPath,
 
 TEST(CashDrawer, KickIsOneRawJobOfFiveBytes) {
     sandogh::test::RawPrintRecorder printer;
-    RecordingLauncher launcher;
+    LaunchRecorder launcher;
     RecordingMessageService messages;
     CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
     drawer.OpenCashDrawer();
@@ -63,7 +63,7 @@ TEST(CashDrawer, KickIsOneRawJobOfFiveBytes) {
 TEST(CashDrawer, UnknownPrinterIsReportedPlainly) {
     sandogh::test::RawPrintRecorder printer;
     printer.hasPrinter = false;
-    RecordingLauncher launcher;
+    LaunchRecorder launcher;
     RecordingMessageService messages;
     CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
     drawer.open();
@@ -90,7 +90,7 @@ TEST_P(DrawerProgram, StartsHiddenWithParameterZero) {
     config.programFolder = QString::fromLatin1(c.folder);
     config.drawerProgram = QString::fromLatin1(c.configured);
     sandogh::test::RawPrintRecorder printer;
-    RecordingLauncher launcher;
+    LaunchRecorder launcher;
     RecordingMessageService messages;
     CashDrawer drawer(config, printer, launcher, messages);
     drawer.open();

@@ -4,13 +4,13 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "RecordingLauncher.h"
 #include "devices/CompanionHandOff.h"
+#include "support/LaunchRecorder.h"
 
 namespace {
 
 using sandogh::CompanionHandOff;
-using sandogh::test::RecordingLauncher;
+using sandogh::test::LaunchRecorder;
 
 TEST(CompanionHandOff, SendsTheCommandAsTheOneArgumentFromTheProgramsFolder) {
     QTemporaryDir dir;
@@ -21,7 +21,7 @@ TEST(CompanionHandOff, SendsTheCommandAsTheOneArgumentFromTheProgramsFolder) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
 
-    RecordingLauncher launcher;
+    LaunchRecorder launcher;
     CompanionHandOff companion(launcher, program);
     ASSERT_TRUE(companion.isPresent());
     const QString command = QStringLiteral("mnuPosMellat,125000");
@@ -37,7 +37,7 @@ TEST(CompanionHandOff, SendsTheCommandAsTheOneArgumentFromTheProgramsFolder) {
 TEST(CompanionHandOff, AMissingProgramOrAFolderIsNotStarted) {
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
-    RecordingLauncher launcher;
+    LaunchRecorder launcher;
     for (const QString& path : {QString(), dir.filePath(QStringLiteral("none.exe")), dir.path()}) {
         CompanionHandOff companion(launcher, path);
         EXPECT_FALSE(companion.isPresent()) << path.toStdString();

@@ -2,13 +2,13 @@
 
 #include <QDir>
 
-#include "RecordingLauncher.h"
 #include "data/Database.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
 #include "devices/DisplayGreeting.h"
 #include "devices/ScaleProgram.h"
 #include "support/BackendTest.h"
+#include "support/LaunchRecorder.h"
 
 using sandogh::ConnectionSettings;
 using sandogh::Database;
@@ -16,7 +16,7 @@ using sandogh::DisplayGreeting;
 using sandogh::Migrator;
 using sandogh::ScaleProgram;
 using sandogh::Session;
-using sandogh::test::RecordingLauncher;
+using sandogh::test::LaunchRecorder;
 
 namespace {
 
@@ -67,7 +67,7 @@ struct FolderCase {
 class ArkaScale : public ::testing::TestWithParam<FolderCase> {};
 
 TEST_P(ArkaScale, StartsFromTheCompanionFolder) {
-    RecordingLauncher launcher;
+    LaunchRecorder launcher;
     ScaleProgram scale(QString::fromLatin1(GetParam().folder), launcher);
     EXPECT_TRUE(scale.mnuScale_Click());
     ASSERT_EQ(launcher.calls.size(), 1);

@@ -6,17 +6,17 @@
 #include <cups/cups.h>
 
 #include "CupsServer.h"
-#include "RecordingLauncher.h"
 #include "WaitUntil.h"
 #include "devices/CashDrawer.h"
 #include "devices/SpoolerRawPrinter.h"
+#include "support/LaunchRecorder.h"
 #include "support/RecordingMessageService.h"
 
 using sandogh::CashDrawer;
 using sandogh::DrawerConfig;
 using sandogh::SpoolerRawPrinter;
 using sandogh::test::CupsServer;
-using sandogh::test::RecordingLauncher;
+using sandogh::test::LaunchRecorder;
 using sandogh::test::RecordingMessageService;
 using sandogh::test::waitUntil;
 
@@ -39,7 +39,7 @@ protected:
     }
 
     CupsServer server;
-    RecordingLauncher launcher;
+    LaunchRecorder launcher;
     RecordingMessageService messages;
 };
 

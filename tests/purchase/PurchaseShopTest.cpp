@@ -46,11 +46,4 @@ void PurchaseShopTest::fill(bool isReturn, const QList<Line>& lines, int supplie
     }
 }
 
-int PurchaseShopTest::account(int code) {
-    Session s = db().session();
-    return static_cast<int>(
-        s.scalarInt64(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = :c"),
-                      {{QStringLiteral(":c"), code}}));
-}
-
 }  // namespace sandogh::test

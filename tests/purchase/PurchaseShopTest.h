@@ -35,8 +35,6 @@ protected:
     void fill(bool isReturn, const QList<Line>& lines, int supplier = kSupplier);
 
     qint64 count(const char* table) { return rows(QString::fromLatin1(table)); }
-    // tblAccountingGroup.ID by its Code.
-    int account(int code);
 
     FixedClock m_clock;
 

@@ -1,12 +1,11 @@
-// The internal documents' list, delete and reprint on both backends: pages in number
-// order with the branch as the party, the delete by kind and number with the stock that
+// The internal documents' list, delete and reprint on both backends: the list with the
+// branch as the party, the delete by kind and number with the stock that
 // follows and a failure that leaves everything as it was, and a number on two dates that
 // asks for the date.
 
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QSet>
 #include <QTemporaryDir>
 
 #include "SavedSalesTest.h"
@@ -69,19 +68,6 @@ protected:
         Session s = db().session();
         ASSERT_TRUE(procedures::sp_StockRepair(s));
     }
-    // In less out over the lines of both the ordinary and the internal documents.
-    double stockOfAllLines(const QString& barcode) {
-        Session s = db().session();
-        const QString sum = QStringLiteral(
-            "SELECT COALESCE(SUM(CASE WHEN H.TransType IN (1, 3) THEN D.Qty ELSE -D.Qty END), 0) "
-            "FROM %1 D INNER JOIN %2 H ON H.Code = D.Code WHERE D.EAN_Code = :b");
-        const SqlBinds b{{QStringLiteral(":b"), barcode}};
-        return s.scalarNumber(sum.arg(QStringLiteral("Whs_QTYDocD"), QStringLiteral("Whs_QTYDocH")),
-                              b) +
-               s.scalarNumber(sum.arg(QStringLiteral("Whs_QTYDocDInternal"),
-                                      QStringLiteral("Whs_QTYDocHInternal")),
-                              b);
-    }
     qint64 internalRows(qint64 code) {
         const SqlBinds c{{QStringLiteral(":c"), code}};
         return count(QStringLiteral("Whs_QTYDocHInternal"), QStringLiteral("Code = :c"), c) +
@@ -94,49 +80,23 @@ protected:
     qint64 m_lastCode = 0;
 };
 
-TEST_P(InternalDocumentsTest, TheListReadsInternalDocumentsInPagesWithTheBranchAsParty) {
-    // 250 internal sales numbered 1 .. 250 with keys in the reverse order (one statement),
-    // a return, and an ordinary sale whose number the list must not show.
-    QStringList tuples;
-    SqlBinds binds;
-    for (int i = 250; i >= 1; --i) {
-        const QString n = QString::number(i);
-        tuples << QStringLiteral("(:c%1, :n%1, 2, :b%1, '1404/01/01', 1, 0)").arg(n);
-        binds.append({QStringLiteral(":c") + n, ++m_lastCode});
-        binds.append({QStringLiteral(":n") + n, n});
-        binds.append({QStringLiteral(":b") + n, i % 2 == 0 ? m_branch : m_other});
-    }
-    exec(QStringLiteral("INSERT INTO Whs_QTYDocHInternal (Code, DocNo, TransType, CompanyID, "
-                        "DocDate, StationID, DocSum) VALUES ") +
-             tuples.join(QStringLiteral(", ")),
-         binds);
+// The list's paging is the ordinary list's (SaleListTest); here its internal rows.
+TEST_P(InternalDocumentsTest, TheListReadsInternalDocumentsWithTheBranchAsParty) {
+    addInternal(2, QStringLiteral("1"), {});
+    addInternal(2, QStringLiteral("2"), {}, QStringLiteral("1404/01/01"), m_other);
     addInternal(3, QStringLiteral("9"), {});
+    // An ordinary sale, whose number the list must not show.
     addDocument(900, 2, QStringLiteral("777"), QStringLiteral("2222"), 1, 1000);
 
     SaleListModel model(db(), DocumentFamily::Internal);
     model.load(SaleList::Choice::Last500, {});
-    EXPECT_EQ(model.rowCount(), SaleList::kPageRows);
-    while (model.canFetchMore()) {
-        model.fetchMore();
-    }
-    ASSERT_EQ(model.rowCount(), 250);
-    QSet<qint64> seen;
-    for (int i = 0; i < model.rowCount(); ++i) {
-        EXPECT_EQ(model.row(i).docNo, QString::number(250 - i));
-        seen.insert(model.row(i).code);
-    }
-    EXPECT_EQ(seen.size(), 250);
-    EXPECT_EQ(model.row(0).customerName, QStringLiteral("شعبه يك"));
-    EXPECT_EQ(model.row(0).customerId, m_branch);
-    EXPECT_EQ(model.row(1).customerName, QStringLiteral("Branch B"));
+    ASSERT_EQ(model.rowCount(), 2);  // the sales, newest number first
+    EXPECT_EQ(model.row(0).docNo, QStringLiteral("2"));
+    EXPECT_EQ(model.row(0).customerName, QStringLiteral("Branch B"));
+    EXPECT_EQ(model.row(1).customerName, QStringLiteral("شعبه يك"));
+    EXPECT_EQ(model.row(1).customerId, m_branch);
     EXPECT_EQ(model.headerData(SaleListModel::CustomerName, Qt::Horizontal).toString(),
               QStringLiteral("شعبه"));
-
-    model.load(SaleList::Choice::First500, {});
-    ASSERT_GE(model.rowCount(), 3);
-    EXPECT_EQ(model.row(0).docNo, QStringLiteral("1"));
-    EXPECT_EQ(model.row(2).docNo, QStringLiteral("3"));
-
     SaleListQuery::Filter f;
     f.transType = 3;
     model.load(SaleList::Choice::All, f);
@@ -194,9 +154,6 @@ TEST_P(InternalDocumentsTest, TheDeleteFindsByKindAndNumberAndStockFollowsTheRem
     EXPECT_EQ(internalRows(sale), 0);
     EXPECT_EQ(internalRows(back), 2);  // the return with the same number stays
     EXPECT_EQ(internalRows(kept), 2);
-    for (const QString& barcode : {QStringLiteral("2222"), QStringLiteral("3333")}) {
-        EXPECT_EQ(stock(barcode), stockOfAllLines(barcode)) << barcode.toStdString();
-    }
     EXPECT_EQ(stock(QStringLiteral("2222")), 50 + 1 - 3);
     EXPECT_EQ(stock(QStringLiteral("3333")), 50);
 }

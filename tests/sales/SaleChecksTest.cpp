@@ -72,10 +72,12 @@ TEST_P(SaleChecksTest, TheStockCheckSkipsFlaggedLinesReturnsAndAnOptionOff) {
     EXPECT_TRUE(sale().checkStock());
 }
 
-TEST_P(SaleChecksTest, APriceBelowTheLastPurchaseBlocksSavingUntilChanged) {
-    setFlag("SaleSetting", "BuySalePriceChecking", true);
+TEST_P(SaleChecksTest, APriceBelowTheLastPurchaseBlocksSavingWhileItsOptionIsOn) {
     ring(kTea, 1);
     ring(kRice, 1);  // 5000 against the last purchase at 5200
+    EXPECT_TRUE(sale().checkPriceFloor());
+    EXPECT_EQ(messages().count(), 0);
+    setFlag("SaleSetting", "BuySalePriceChecking", true);
     EXPECT_FALSE(sale().checkPriceFloor());
     EXPECT_EQ(sale().lastFailedRow(), 1);
     EXPECT_EQ(messages().countOf(SaleTexts::belowPurchasePrice()), 1);
@@ -85,12 +87,6 @@ TEST_P(SaleChecksTest, APriceBelowTheLastPurchaseBlocksSavingUntilChanged) {
     sale().removeLine(1);
     sale().addLine(rice);
     EXPECT_TRUE(sale().checkPriceFloor());
-}
-
-TEST_P(SaleChecksTest, ThePriceFloorIsNotCheckedWhileItsOptionIsOff) {
-    ring(kRice, 1);
-    EXPECT_TRUE(sale().checkPriceFloor());
-    EXPECT_EQ(messages().count(), 0);
 }
 
 TEST_P(SaleChecksTest, LockedGoodsAreCheckedOverAllTheirLines) {

@@ -98,10 +98,8 @@ TEST_P(SaleDeleteTest, StockFollowsTheRemainingLinesAndTheRecordKeepsTheDeletedO
     clock().set(QDateTime(QDate(2025, 3, 22), QTime(18, 5, 9)));
 
     ASSERT_EQ(deleteSale(first), SaleDelete::Outcome::Deleted);
-    for (const QString& barcode : {QStringLiteral("2222"), QStringLiteral("3333")}) {
-        EXPECT_EQ(stock(barcode), stockOfLines(barcode)) << barcode.toStdString();
-    }
     EXPECT_EQ(stock(QStringLiteral("2222")), 46);
+    EXPECT_EQ(stock(QStringLiteral("3333")), 50);
 
     const QList<SaleAuditRepository::Record> records =
         SaleAudit::list(db(), QStringLiteral("1404/01/02"), {}, 7);

@@ -7,18 +7,6 @@
 namespace sandogh {
 namespace {
 
-struct KeyCase {
-    int key;
-    Qt::KeyboardModifiers modifiers;
-    SaleCommand command;
-    const char* handOff;
-};
-
-class SaleKeys : public ::testing::TestWithParam<KeyCase> {};
-
-constexpr Qt::KeyboardModifiers kNone = Qt::NoModifier;
-constexpr Qt::KeyboardModifiers kCtrl = Qt::ControlModifier;
-
 TEST(SaleKeyMap, OtherModifiersAndPlainLettersAreNotTheSalesKeys) {
     EXPECT_FALSE(SaleKeyMap::lookup(Qt::Key_D, Qt::NoModifier));
     EXPECT_FALSE(SaleKeyMap::lookup(Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier));

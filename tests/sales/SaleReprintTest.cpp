@@ -1,17 +1,11 @@
-// Reprinting on both backends: the desk's last number proposed, a number shared by two
-// dates asks for the date, and the receipt goes through the receipt path as a reprint.
+// Reprinting on both backends: the desk's last number proposed, and a number shared by two
+// dates asks for the date (the reprint itself: InternalDocumentsTest).
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QTemporaryDir>
-
 #include "SavedSalesTest.h"
-#include "devices/ProgramLauncher.h"
 #include "sales/ReceiptReader.h"
-#include "sales/SaleReceipt.h"
 #include "sales/SaleReprint.h"
-#include "support/LaunchRecorder.h"
 
 namespace sandogh::test {
 namespace {
@@ -37,23 +31,6 @@ TEST_P(SaleReprintTest, ANumberOnTwoDatesAsksForTheDate) {
     EXPECT_EQ(messages().countOf(ReceiptReader::notFoundText()), 2);
     EXPECT_EQ(reprint.lastNumber(2, 1), second.docNo);
     EXPECT_EQ(reprint.lastNumber(3, 1), QString());
-}
-
-TEST_P(SaleReprintTest, TheReceiptIsPrintedAgainUnderTheReprintTitle) {
-    const SaleSaveResult r = sell({{QStringLiteral("2222"), 1}});
-    QTemporaryDir folder;
-    QFile program(folder.filePath(QStringLiteral("Companion.exe")));
-    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
-    program.close();
-    setOption("Programs", "Companion", program.fileName());
-    LaunchRecorder launcher;
-    SaleReceipt receipt(db(), settings(), messages(), launcher, folder.path(), nullptr, nullptr);
-    ASSERT_TRUE(SaleReprint::print(receipt, r.code));
-    ASSERT_EQ(launcher.calls.size(), 1);
-    const QString command = launcher.calls.first().arguments.value(0);
-    EXPECT_TRUE(
-        command.contains(QLatin1Char(',') + ReceiptReader::reprintTitle() + QLatin1Char(',')))
-        << command.toStdString();
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(SaleReprintTest);

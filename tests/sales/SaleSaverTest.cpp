@@ -52,49 +52,10 @@ protected:
         SaleShopTest::TearDown();
     }
     qint64 count(const char* table, const QString& where = {}, const SqlBinds& binds = {}) {
-        Session s = db().session();
-        return s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM ") + QString::fromLatin1(table) +
-                                 (where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + where),
-                             binds, -1);
-    }
-    int account(int code) {
-        Session s = db().session();
-        return static_cast<int>(
-            s.scalarInt64(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = :c"),
-                          {{QStringLiteral(":c"), code}}));
-    }
-    // Debit and credit of an account in a voucher.
-    std::pair<double, double> posted(qint64 voucher, int accountCode) {
-        Session s = db().session();
-        SqlQuery q(s, QStringLiteral("SELECT COALESCE(SUM(Debt), 0), COALESCE(SUM(Credit), 0) "
-                                     "FROM tblDocumentD WHERE DocumentHID = :v AND "
-                                     "AccountingGroupID = :a"));
-        q.bind(QStringLiteral(":v"), voucher).bind(QStringLiteral(":a"), account(accountCode));
-        EXPECT_TRUE(q.exec() && q.next());
-        return {q.number(0), q.number(1)};
-    }
-    // Makes every insert into `table` fail.
-    void addTrigger(const QString& table) {
-        if (backend() == Backend::SQLite) {
-            exec(QStringLiteral("CREATE TRIGGER fail_it BEFORE INSERT ON %1 BEGIN "
-                                "SELECT RAISE(ABORT, 'refused'); END")
-                     .arg(table));
-        } else {
-            exec(
-                QStringLiteral("CREATE FUNCTION fail_it() RETURNS trigger AS $$ BEGIN RAISE "
-                               "EXCEPTION 'refused'; END $$ LANGUAGE plpgsql"));
-            exec(QStringLiteral("CREATE TRIGGER fail_it BEFORE INSERT ON %1 FOR EACH "
-                                "ROW EXECUTE FUNCTION fail_it()")
-                     .arg(table.toLower()));
-        }
-    }
-    void dropTrigger(const QString& table) {
-        if (backend() == Backend::SQLite) {
-            exec(QStringLiteral("DROP TRIGGER fail_it"));
-        } else {
-            exec(QStringLiteral("DROP TRIGGER fail_it ON %1").arg(table.toLower()));
-            exec(QStringLiteral("DROP FUNCTION fail_it()"));
-        }
+        return ShopFixture::count(
+            QStringLiteral("SELECT COUNT(*) FROM ") + QString::fromLatin1(table) +
+                (where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + where),
+            binds);
     }
 
     std::unique_ptr<SaleSaver> saver;
@@ -152,10 +113,7 @@ TEST_P(SaleSaverTest, DiscountAndChargeAreWrittenWithTheDocumentItsLinesAndVouch
     EXPECT_DOUBLE_EQ(l.number(3), 100000);
     EXPECT_EQ(l.integer(4), 7);
     EXPECT_FALSE(l.next());
-    EXPECT_DOUBLE_EQ(s.scalarNumber(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = "
-                                                   ":b"),
-                                    {{QStringLiteral(":b"), QStringLiteral("2222")}}),
-                     -1);
+    EXPECT_DOUBLE_EQ(stock(QStringLiteral("2222")), -1);
 
     EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Note FROM tblDocumentH WHERE ID = :id"),
                            {{QStringLiteral(":id"), r.voucherId}}),
@@ -182,10 +140,7 @@ TEST_P(SaleSaverTest, AReturnIsWrittenAsTypeThreeWithTheReturnVoucher) {
                   SaleSaveTexts::voucherNoteDate() + QStringLiteral("1404/01/01"));
     EXPECT_EQ(posted(r.voucherId, 602), std::make_pair(100000.0, 0.0));
     EXPECT_EQ(posted(r.voucherId, 101), std::make_pair(0.0, 100000.0));
-    EXPECT_DOUBLE_EQ(s.scalarNumber(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = "
-                                                   ":b"),
-                                    {{QStringLiteral(":b"), QStringLiteral("2222")}}),
-                     1);
+    EXPECT_DOUBLE_EQ(stock(QStringLiteral("2222")), 1);
 }
 
 TEST_P(SaleSaverTest, AShortPaymentIsSavedOwingOnlyWhenConfirmed) {
@@ -223,9 +178,9 @@ TEST_P(SaleSaverTest, AFailureHalfwayLeavesNothingAndTheSameSaleSavesAfterwards)
                               QStringLiteral("tblDocumentD")};
     for (const QString& table : failing) {
         SCOPED_TRACE(table.toStdString());
-        addTrigger(table);
+        refuse(table, QStringLiteral("INSERT"));
         const SaleSaveResult failed = saver->save(sale(), settlement);
-        dropTrigger(table);
+        allow(table);
         EXPECT_FALSE(failed.saved);
         EXPECT_EQ(count("Whs_QTYDocH"), 0);
         EXPECT_EQ(count("Whs_QTYDocD"), 0);

@@ -80,36 +80,6 @@ protected:
                                  (where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + where),
                              binds, -1);
     }
-    double stock(const QString& barcode) {
-        Session s = db().session();
-        return s.scalarNumber(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = :b"),
-                              {{QStringLiteral(":b"), barcode}}, -1);
-    }
-    // What the lines still in the documents make of an article: in less out.
-    double stockOfLines(const QString& barcode) {
-        Session s = db().session();
-        return s.scalarNumber(
-            QStringLiteral("SELECT COALESCE(SUM(CASE WHEN H.TransType IN (1, 3) THEN D.Qty ELSE "
-                           "-D.Qty END), 0) FROM Whs_QTYDocD D INNER JOIN Whs_QTYDocH H ON "
-                           "H.Code = D.Code WHERE D.EAN_Code = :b"),
-            {{QStringLiteral(":b"), barcode}});
-    }
-    // Makes every statement on `table` of the given kind ("DELETE") fail.
-    void refuse(const QString& table, const QString& kind) {
-        if (backend() == Backend::SQLite) {
-            exec(QStringLiteral("CREATE TRIGGER refuse_it BEFORE %1 ON %2 BEGIN "
-                                "SELECT RAISE(ABORT, 'refused'); END")
-                     .arg(kind, table));
-        } else {
-            exec(
-                QStringLiteral("CREATE FUNCTION refuse_it() RETURNS trigger AS $$ BEGIN RAISE "
-                               "EXCEPTION 'refused'; END $$ LANGUAGE plpgsql"));
-            exec(QStringLiteral("CREATE TRIGGER refuse_it BEFORE %1 ON %2 FOR EACH ROW EXECUTE "
-                                "FUNCTION refuse_it()")
-                     .arg(kind, table.toLower()));
-        }
-    }
-
     std::unique_ptr<SaleSaver> saver;
 };
 

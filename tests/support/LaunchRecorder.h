@@ -15,10 +15,11 @@ public:
         QString program;
         QStringList arguments;
         QString workingDirectory;
+        bool hidden = false;
     };
     bool startDetached(const QString& program, const QStringList& arguments,
-                       const QString& workingDirectory, bool) override {
-        calls.append({program, arguments, workingDirectory});
+                       const QString& workingDirectory, bool hidden) override {
+        calls.append({program, arguments, workingDirectory, hidden});
         return true;
     }
     QStringList programs() const {

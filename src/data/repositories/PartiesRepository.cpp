@@ -9,8 +9,8 @@
 #include "data/Transaction.h"
 #include "data/procedures/ReturningInsert.h"
 #include "data/repositories/PartyMessages.h"
-#include "data/repositories/TypedSearch.h"
 #include "data/repositories/SearchKeys.h"
+#include "data/repositories/TypedSearch.h"
 #include "data/repositories/TypesRepository.h"
 
 namespace sandogh {

@@ -43,6 +43,11 @@ TEST_P(UsersServiceTest, ACashierMadeHereLogsInWithTheCashiersPermissions) {
     UserRow sara = cashier(QStringLiteral("sara"));
     EXPECT_EQ(users_().save(sara, QStringLiteral("1234")), QString());
     ASSERT_GT(sara.id, 0);
+    const UserRow listed = users().last();
+    EXPECT_EQ(listed.id, sara.id);
+    EXPECT_EQ(listed.name, sara.name);
+    EXPECT_EQ(listed.userName, sara.userName);
+    EXPECT_EQ(listed.level, sara.level);
 
     const LoginService::Result r = LoginService(db()).login(QStringLiteral("Sara"), "1234");
     ASSERT_EQ(r.outcome, Outcome::Accepted);

@@ -150,6 +150,7 @@ TEST_P(PurchaseSessionTest, StartsFromAPreInvoiceOrAnEarlierDocument) {
     ASSERT_TRUE(purchase().loadPreInvoice(40));
     ASSERT_EQ(purchase().lines().lineCount(), 1);
     const PurchaseLine pre = purchase().lines().line(0);
+    EXPECT_EQ(pre.barcode, QStringLiteral("2222"));
     EXPECT_EQ(pre.name, QStringLiteral("Tea"));
     EXPECT_DOUBLE_EQ(pre.qty, 6);
     EXPECT_DOUBLE_EQ(pre.mFee, 450);

@@ -8,6 +8,7 @@
 #include "data/repositories/DiscountTypes.h"
 #include "data/repositories/GiftCardRepository.h"
 #include "data/repositories/SaleCodes.h"
+#include "sales/SaleChecks.h"
 #include "sales/SaleSaveTexts.h"
 #include "sales/SaleSession.h"
 #include "sales/SaleSettlement.h"
@@ -103,8 +104,8 @@ SaleSaveCheck SaleSaveChecks::run(SaleSession& sale, const SaleSettlement& settl
             return SaleSaveCheck::Received;
         }
     }
-    if (!sale.checkStock() || !sale.checkLockedGoods() || !sale.checkPriceFloor()) {
-        return SaleSaveCheck::Lines;
+    if (const SaleSaveCheck onLines = lines(sale); onLines != SaleSaveCheck::None) {
+        return onLines;
     }
     for (const SaleLine& line : sale.lines()) {
         if (line.sellerId == 0 && line.seller.trimmed().isEmpty()) {
@@ -125,6 +126,28 @@ SaleSaveCheck SaleSaveChecks::run(SaleSession& sale, const SaleSettlement& settl
         return SaleSaveCheck::ReturnCause;
     }
     return codes(sale, settlement);
+}
+
+SaleSaveCheck SaleSaveChecks::lines(const SaleSession& sale) {
+    m_failedRow = -1;
+    // A return brings goods back: there is nothing to count against.
+    const bool selling = sale.mode() == SaleMode::Sale;
+    SaleChecks checks(m_messages);
+    SaleChecks::Result r;
+    if (selling && m_settings.stockCheckEnabled()) {
+        Session session = m_database.session(kModule, QStringLiteral("CheckStock"));
+        r = checks.stock(session, sale.lines(), sale.warehouse());
+    }
+    if (r.ok && selling && m_settings.itemLock()) {
+        Session session = m_database.session(kModule, QStringLiteral("CheckLockedGoods"));
+        r = checks.lockedGoods(session, sale.lines(), sale.warehouse());
+    }
+    if (r.ok && m_settings.buySalePriceChecking()) {
+        Session session = m_database.session(kModule, QStringLiteral("CheckPriceFloor"));
+        r = checks.priceFloor(session, sale.lines());
+    }
+    m_failedRow = r.row;
+    return r.ok ? SaleSaveCheck::None : SaleSaveCheck::Lines;
 }
 
 // The only discount kind with a factor is the loyalty gift kind (the fifth of the list):

@@ -22,6 +22,12 @@ public:
 
     // The check that refused, or SaleSaveCheck::None when the sale may be saved.
     SaleSaveCheck run(SaleSession& sale, const SaleSettlement& settlement);
+    // The checks on the lines alone, each only while its option is on: stock (IsExistQty),
+    // locked goods (SaleSetting/ItemLock), both skipped for a return, and the price floor
+    // (SaleSetting/BuySalePriceChecking). SaleSaveCheck::Lines when one refused, its
+    // first refused row then in failedRow().
+    SaleSaveCheck lines(const SaleSession& sale);
+    int failedRow() const { return m_failedRow; }
 
     // The amount payable: total - discount + overhead.
     static double payable(const SaleSession& sale, const SaleSettlement& settlement);
@@ -41,6 +47,7 @@ private:
     Database& m_database;
     const MachineSettings& m_settings;
     MessageService& m_messages;
+    int m_failedRow = -1;
 };
 
 }  // namespace sandogh

@@ -9,7 +9,6 @@
 #include "sales/BarcodeResolver.h"
 #include "sales/CustomerSearch.h"
 #include "sales/LinePricer.h"
-#include "sales/SaleActions.h"
 #include "sales/SaleChecks.h"
 #include "sales/SaleOptions.h"
 #include "sales/SalePricing.h"
@@ -63,7 +62,6 @@ struct SaleSession::Private {
     int changedRow = -1;
     double changedQty = 0;
     LoadedDocument loaded;
-    int lastFailedRow = -1;
 
     // The options are read once per outermost call, so that one scan reads the
     // settings store once however many lines it adds.
@@ -386,7 +384,6 @@ void SaleSession::newSale() {
     d->changedRow = -1;
     d->changedQty = 0;
     d->loaded = {};
-    d->lastFailedRow = -1;
     clearCustomer();
     setMode(SaleMode::Sale);
     if (d->salesType != kFirstSalesType) {
@@ -394,45 +391,6 @@ void SaleSession::newSale() {
         emit salesTypeChanged(d->salesType);
     }
     showTotalOnDisplay();
-}
-
-bool SaleSession::checkStock() {
-    d->lastFailedRow = -1;
-    // A return brings goods back: there is nothing to count against.
-    if (!d->settings.stockCheckEnabled() || d->mode == SaleMode::Return) {
-        return true;
-    }
-    Session session = d->database.session(kModule, QStringLiteral("CheckStock"));
-    const SaleChecks::Result r = SaleChecks(d->messages).stock(session, lines(), d->warehouse);
-    d->lastFailedRow = r.row;
-    return r.ok;
-}
-
-bool SaleSession::checkPriceFloor() {
-    d->lastFailedRow = -1;
-    if (!d->settings.buySalePriceChecking()) {
-        return true;
-    }
-    Session session = d->database.session(kModule, QStringLiteral("CheckPriceFloor"));
-    const SaleChecks::Result r = SaleChecks(d->messages).priceFloor(session, lines());
-    d->lastFailedRow = r.row;
-    return r.ok;
-}
-
-bool SaleSession::checkLockedGoods() {
-    d->lastFailedRow = -1;
-    if (!d->settings.itemLock() || d->mode == SaleMode::Return) {
-        return true;
-    }
-    Session session = d->database.session(kModule, QStringLiteral("CheckLockedGoods"));
-    const SaleChecks::Result r =
-        SaleChecks(d->messages).lockedGoods(session, lines(), d->warehouse);
-    d->lastFailedRow = r.row;
-    return r.ok;
-}
-
-int SaleSession::lastFailedRow() const {
-    return d->lastFailedRow;
 }
 
 double SaleSession::lineProfit(int row) {
@@ -461,60 +419,6 @@ void SaleSession::showTotalOnDisplay() {
     if (displayOn && d->display != nullptr) {
         d->display->showTotal(totalText());
     }
-}
-
-SaleSession::CommandResult SaleSession::execute(const SaleKeyBinding& binding, int selectedRow) {
-    switch (binding.command) {
-        case SaleCommand::Save:
-        case SaleCommand::SaveAndPrint:
-            if (d->actions == nullptr) {
-                return CommandResult::Refused;
-            }
-            // The display shows the total once more just before saving.
-            showTotalOnDisplay();
-            return d->actions->save() ? CommandResult::Done : CommandResult::Refused;
-        case SaleCommand::PecPayment:
-            if (d->actions == nullptr) {
-                return CommandResult::Refused;
-            }
-            return d->actions->pecPayment() ? CommandResult::Done : CommandResult::Refused;
-        case SaleCommand::TerminalHandOff:
-            if (d->actions == nullptr || binding.handOff.isEmpty()) {
-                return CommandResult::Refused;
-            }
-            d->actions->terminalHandOff(binding.handOff);
-            return CommandResult::Done;
-        case SaleCommand::NewSale:
-            // Esc is next to F-keys and easy to hit: a sale with lines is only dropped
-            // when the cashier says so.
-            if (!confirmLeave()) {
-                return CommandResult::Refused;
-            }
-            newSale();
-            return CommandResult::Done;
-        case SaleCommand::DeleteLine:
-            return removeLine(selectedRow) ? CommandResult::Done : CommandResult::Refused;
-        case SaleCommand::SwitchMode:
-            toggleMode();
-            return CommandResult::Done;
-        case SaleCommand::DailyTotals:
-            return d->settings.displayDailySale() ? CommandResult::ForScreen
-                                                  : CommandResult::Refused;
-        default:
-            return CommandResult::ForScreen;
-    }
-}
-
-bool SaleSession::openDrawer() {
-    if (d->actions == nullptr) {
-        return false;
-    }
-    d->actions->openDrawer();
-    return true;
-}
-
-bool SaleSession::choosePayment() {
-    return d->actions != nullptr && d->actions->paymentType();
 }
 
 }  // namespace sandogh

@@ -7,7 +7,6 @@
 #include "sales/EntryOutcome.h"
 #include "sales/LoadedDocument.h"
 #include "sales/SaleCustomer.h"
-#include "sales/SaleKeyBinding.h"
 #include "sales/SaleLinesModel.h"
 #include "sales/SaleMode.h"
 
@@ -38,13 +37,6 @@ public:
     static constexpr int kNoSalesType = 0;
     static constexpr int kFirstSalesType = 1;
     static constexpr int kSecondSalesType = 2;
-
-    // What execute() did with a command.
-    enum class CommandResult {
-        Done,       // carried out here (or handed to SaleActions)
-        Refused,    // not allowed now; a message may have been shown
-        ForScreen,  // a screen matter: focus, another form, a panel
-    };
 
     // The edges are not owned and must outlive the session.
     SaleSession(Database& database, const MachineSettings& settings, MessageService& messages,
@@ -148,15 +140,6 @@ public:
     // Esc: a new, empty sale of the same kind; the customer and last barcode cleared.
     void newSale();
 
-    // Checks run before saving, each only while its option is on; the first failing
-    // line's message is shown and its row kept in lastFailedRow().
-    // Stock check (IsExistQty): quantity above the warehouse quantity.
-    bool checkStock();
-    // Price floor (SaleSetting/BuySalePriceChecking): unit price below the last purchase.
-    bool checkPriceFloor();
-    // Locked goods (SaleSetting/ItemLock): more than the saleable quantity on the lines.
-    bool checkLockedGoods();
-    int lastFailedRow() const;
     // btnProfit: the article's Cost less the net unit price of its latest purchase line.
     double lineProfit(int row);
 
@@ -167,11 +150,6 @@ public:
 
     // Sends the total to the display (only while the display option is on).
     void showTotalOnDisplay();
-    // A key of the screen (SaleKeyMap); selectedRow is the grid's current line.
-    CommandResult execute(const SaleKeyBinding& binding, int selectedRow = -1);
-    // btnOpenCash and the payment split, handed to SaleActions.
-    bool openDrawer();
-    bool choosePayment();
 
 signals:
     void totalChanged(double total);

@@ -1,5 +1,7 @@
 #include "sales/SettlementCalculator.h"
 
+#include <algorithm>
+
 #include <cmath>
 
 #include "sales/SaleSettlement.h"
@@ -78,6 +80,14 @@ void SettlementCalculator::fill(SaleSettlement& settlement, double total, double
     settlement.overhead = overhead;
     settlement.payable = payable(total, discount, overhead);
     settlement.handedOver = handedOver;
+}
+
+double SettlementCalculator::giftCardShare(double balance, double payable) {
+    return std::min(balance, payable);
+}
+
+bool SettlementCalculator::isLoyaltyGift(std::optional<double> given, double discount) {
+    return given.has_value() && *given == discount && discount > 0;
 }
 
 }  // namespace sandogh

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 namespace sandogh {
 
@@ -51,6 +52,12 @@ public:
     // from the panel's figures; kinds, payments and texts are left as they are.
     static void fill(SaleSettlement& settlement, double total, double discount,
                      double discountPercent, double overhead, double handedOver);
+
+    // The part of the payable amount a gift card pays: its balance, at most the payable.
+    static double giftCardShare(double balance, double payable);
+    // Whether the discount is the loyalty gift: one the gift button gave (given) that has
+    // not been changed by hand since. A gift of nothing is none.
+    static bool isLoyaltyGift(std::optional<double> given, double discount);
 };
 
 }  // namespace sandogh

@@ -1,9 +1,10 @@
-// The checks the save step runs on the lines, each only while its option is on.
+// The checks the save runs on the lines, each only while its option is on.
 
 #include <gtest/gtest.h>
 
 #include "SaleShopTest.h"
 #include "sales/SaleChecks.h"
+#include "sales/SaleSaveChecks.h"
 #include "sales/SaleTexts.h"
 
 namespace sandogh::test {
@@ -34,59 +35,67 @@ protected:
             sale().enterText(QString::number(qty));
         }
     }
+    // The line checks of the save, the first refused row kept in failedRow.
+    bool linesPass() {
+        SaleSaveChecks checks(db(), settings(), messages());
+        const bool ok = checks.lines(sale()) == SaleSaveCheck::None;
+        failedRow = checks.failedRow();
+        return ok;
+    }
+    int failedRow = -1;
 };
 
 TEST_P(SaleChecksTest, TheStockCheckStopsALineAboveTheWarehouseQuantity) {
     setFlag("IsExistQty", "Enable", true);
     ring(kTea, 5);
     ring(kRice, 7);  // 6 on hand
-    EXPECT_FALSE(sale().checkStock());
-    EXPECT_EQ(sale().lastFailedRow(), 1);
+    EXPECT_FALSE(linesPass());
+    EXPECT_EQ(failedRow, 1);
     EXPECT_EQ(messages().countOf(SaleTexts::quantityNotAllowed()), 1);
 
     sale().changeQuantity(1, 6);
-    EXPECT_TRUE(sale().checkStock());
-    EXPECT_EQ(sale().lastFailedRow(), -1);
+    EXPECT_TRUE(linesPass());
+    EXPECT_EQ(failedRow, -1);
 }
 
 TEST_P(SaleChecksTest, TheStockCheckCountsTheChosenWarehouseOnly) {
     setFlag("IsExistQty", "Enable", true);
     ring(kRice, 2);
     sale().setWarehouse(QStringLiteral("1"));  // the rice is in warehouse 2
-    EXPECT_FALSE(sale().checkStock());
+    EXPECT_FALSE(linesPass());
     sale().setWarehouse(QStringLiteral("2"));
-    EXPECT_TRUE(sale().checkStock());
+    EXPECT_TRUE(linesPass());
 }
 
 TEST_P(SaleChecksTest, TheStockCheckSkipsFlaggedLinesReturnsAndAnOptionOff) {
     ring(kTea, 50);
-    EXPECT_TRUE(sale().checkStock());  // option off
+    EXPECT_TRUE(linesPass());  // option off
     setFlag("IsExistQty", "Enable", true);
     sale().setMode(SaleMode::Return);
-    EXPECT_TRUE(sale().checkStock());
+    EXPECT_TRUE(linesPass());
     sale().setMode(SaleMode::Sale);
-    EXPECT_FALSE(sale().checkStock());
+    EXPECT_FALSE(linesPass());
 
     sale().newSale();
     sale().addLine(SaleLine{QStringLiteral("9999"), {}, 3, 100, 0, 0, 0, {}, 0, 1, -1});
-    EXPECT_TRUE(sale().checkStock());
+    EXPECT_TRUE(linesPass());
 }
 
 TEST_P(SaleChecksTest, APriceBelowTheLastPurchaseBlocksSavingWhileItsOptionIsOn) {
     ring(kTea, 1);
     ring(kRice, 1);  // 5000 against the last purchase at 5200
-    EXPECT_TRUE(sale().checkPriceFloor());
+    EXPECT_TRUE(linesPass());
     EXPECT_EQ(messages().count(), 0);
     setFlag("SaleSetting", "BuySalePriceChecking", true);
-    EXPECT_FALSE(sale().checkPriceFloor());
-    EXPECT_EQ(sale().lastFailedRow(), 1);
+    EXPECT_FALSE(linesPass());
+    EXPECT_EQ(failedRow, 1);
     EXPECT_EQ(messages().countOf(SaleTexts::belowPurchasePrice()), 1);
 
     SaleLine rice = sale().lines().at(1);
     rice.unitPrice = 5200;
     sale().removeLine(1);
     sale().addLine(rice);
-    EXPECT_TRUE(sale().checkPriceFloor());
+    EXPECT_TRUE(linesPass());
 }
 
 TEST_P(SaleChecksTest, LockedGoodsAreCheckedOverAllTheirLines) {
@@ -95,10 +104,10 @@ TEST_P(SaleChecksTest, LockedGoodsAreCheckedOverAllTheirLines) {
     ring(kTea, 1);
     addLock(kTea, 4);  // 5 on hand, 1 saleable, 2 on the lines
     setFlag("SaleSetting", "ItemLock", true);
-    EXPECT_FALSE(sale().checkLockedGoods());
+    EXPECT_FALSE(linesPass());
     EXPECT_EQ(messages().countOf(SaleChecks::lockedMessage(4, 1)), 1);
     sale().removeLine(1);
-    EXPECT_TRUE(sale().checkLockedGoods());
+    EXPECT_TRUE(linesPass());
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(SaleChecksTest);

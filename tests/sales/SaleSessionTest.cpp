@@ -5,6 +5,7 @@
 
 #include "SaleDoubles.h"
 #include "SaleShopTest.h"
+#include "sales/SaleKeyDispatch.h"
 #include "sales/SaleKeyMap.h"
 #include "sales/SaleTexts.h"
 #include "support/QtPrinters.h"
@@ -23,10 +24,11 @@ protected:
         addGoods({QStringLiteral("2222"), 5000, 0, QStringLiteral("Rice")});
         sale().setActions(&actions);
     }
-    SaleSession::CommandResult key(int k, Qt::KeyboardModifiers m = Qt::NoModifier, int row = -1) {
+    SaleKeyDispatch::Result key(int k, Qt::KeyboardModifiers m = Qt::NoModifier, int row = -1) {
         const std::optional<SaleKeyBinding> b = SaleKeyMap::lookup(k, m);
         EXPECT_TRUE(b.has_value());
-        return b ? sale().execute(*b, row) : SaleSession::CommandResult::Refused;
+        return b ? SaleKeyDispatch(sale(), settings()).execute(*b, row)
+                 : SaleKeyDispatch::Result::Refused;
     }
     RecordingActions actions;
 };
@@ -38,29 +40,29 @@ TEST_P(SaleSessionTest, KeysOfLaterStepsGoToTheActions) {
     sale().enterText(QStringLiteral("1111"));
     display.shown.clear();
 
-    EXPECT_EQ(key(Qt::Key_F6), SaleSession::CommandResult::Done);
+    EXPECT_EQ(key(Qt::Key_F6), SaleKeyDispatch::Result::Done);
     EXPECT_EQ(actions.saves, 1);
     EXPECT_EQ(display.shown, QStringList{QStringLiteral("10,900")});  // once more before saving
     actions.saveAnswer = false;
-    EXPECT_EQ(key(Qt::Key_Return, Qt::ControlModifier), SaleSession::CommandResult::Refused);
-    EXPECT_EQ(key(Qt::Key_F5), SaleSession::CommandResult::Done);
+    EXPECT_EQ(key(Qt::Key_Return, Qt::ControlModifier), SaleKeyDispatch::Result::Refused);
+    EXPECT_EQ(key(Qt::Key_F5), SaleKeyDispatch::Result::Done);
     EXPECT_EQ(actions.pecPayments, 1);
     key(Qt::Key_F7);
     key(Qt::Key_F12);
     EXPECT_EQ(actions.handOffs,
               (QStringList{QStringLiteral("mnuPosMellat,"), QStringLiteral("mnuDamavandPsp,")}));
-    EXPECT_TRUE(sale().openDrawer());
+    EXPECT_TRUE(SaleKeyDispatch(sale(), settings()).openDrawer());
     EXPECT_EQ(actions.drawers, 1);
-    EXPECT_TRUE(sale().choosePayment());
+    EXPECT_TRUE(SaleKeyDispatch(sale(), settings()).choosePayment());
     EXPECT_EQ(actions.payments, 1);
-    EXPECT_EQ(key(Qt::Key_L, Qt::ControlModifier), SaleSession::CommandResult::ForScreen);
+    EXPECT_EQ(key(Qt::Key_L, Qt::ControlModifier), SaleKeyDispatch::Result::ForScreen);
 }
 
 TEST_P(SaleSessionTest, WithoutActionsTheirKeysAreRefused) {
     sale().setActions(nullptr);
-    EXPECT_EQ(key(Qt::Key_F6), SaleSession::CommandResult::Refused);
-    EXPECT_EQ(key(Qt::Key_F8), SaleSession::CommandResult::Refused);
-    EXPECT_FALSE(sale().openDrawer());
+    EXPECT_EQ(key(Qt::Key_F6), SaleKeyDispatch::Result::Refused);
+    EXPECT_EQ(key(Qt::Key_F8), SaleKeyDispatch::Result::Refused);
+    EXPECT_FALSE(SaleKeyDispatch(sale(), settings()).openDrawer());
     setFlag("IsKeyboardRFID", "Enable", true);
     EXPECT_FALSE(sale().enterText(QStringLiteral("0000000012")).clearBox);
 }
@@ -74,16 +76,16 @@ TEST_P(SaleSessionTest, DeleteAndQuantityChangeRewriteTheLinesAndTotal) {
     EXPECT_DOUBLE_EQ(sale().total(), 32700 + 5000);
     EXPECT_FALSE(sale().changeQuantity(2, 1));
     EXPECT_FALSE(sale().changeQuantity(0, 0));
-    EXPECT_EQ(key(Qt::Key_D, Qt::ControlModifier, 0), SaleSession::CommandResult::Done);
-    EXPECT_EQ(key(Qt::Key_D, Qt::ControlModifier, 4), SaleSession::CommandResult::Refused);
+    EXPECT_EQ(key(Qt::Key_D, Qt::ControlModifier, 0), SaleKeyDispatch::Result::Done);
+    EXPECT_EQ(key(Qt::Key_D, Qt::ControlModifier, 4), SaleKeyDispatch::Result::Refused);
     ASSERT_EQ(sale().lines().size(), 1);
     EXPECT_DOUBLE_EQ(sale().total(), 5000);
 }
 
 TEST_P(SaleSessionTest, TheDailyTotalsKeyWaitsForItsSetting) {
-    EXPECT_EQ(key(Qt::Key_T, Qt::ControlModifier), SaleSession::CommandResult::Refused);
+    EXPECT_EQ(key(Qt::Key_T, Qt::ControlModifier), SaleKeyDispatch::Result::Refused);
     setOption("Cash", "DisplayDailySale", QStringLiteral("1"));
-    EXPECT_EQ(key(Qt::Key_T, Qt::ControlModifier), SaleSession::CommandResult::ForScreen);
+    EXPECT_EQ(key(Qt::Key_T, Qt::ControlModifier), SaleKeyDispatch::Result::ForScreen);
 }
 
 TEST_P(SaleSessionTest, EscapeStartsANewSaleOfTheDefaultKind) {
@@ -91,7 +93,7 @@ TEST_P(SaleSessionTest, EscapeStartsANewSaleOfTheDefaultKind) {
     sale().setCustomer(SaleCustomer{5, QStringLiteral("C5"), QStringLiteral("Ali")});
     sale().setMode(SaleMode::Return);
     sale().enterText(QStringLiteral("1111"));
-    EXPECT_EQ(key(Qt::Key_Escape), SaleSession::CommandResult::Done);
+    EXPECT_EQ(key(Qt::Key_Escape), SaleKeyDispatch::Result::Done);
     EXPECT_TRUE(sale().isEmpty());
     EXPECT_EQ(sale().CompanyId(), 0);
     EXPECT_EQ(sale().Barcode(), QString());

@@ -78,5 +78,27 @@ TEST(SettlementCalculatorFill, FillsTheAmountsAndKeepsTheRest) {
     EXPECT_EQ(s.note, QStringLiteral("note"));
 }
 
+// The gift card pays its balance up to the payable amount; the discount is the loyalty
+// gift only while it is still the amount the gift button gave.
+TEST(SettlementCalculatorGifts, CardShareAndLoyaltyGift) {
+    EXPECT_DOUBLE_EQ(SettlementCalculator::giftCardShare(30000, 95000), 30000);
+    EXPECT_DOUBLE_EQ(SettlementCalculator::giftCardShare(95000, 95000), 95000);
+    EXPECT_DOUBLE_EQ(SettlementCalculator::giftCardShare(200000, 95000), 95000);
+    struct Case {
+        std::optional<double> given;
+        double discount;
+        bool gift;
+    } const cases[] = {
+        {50000, 50000, true},
+        {50000, 40000, false},
+        {std::nullopt, 50000, false},
+        {0, 0, false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.given.value_or(-1) << " / " << c.discount);
+        EXPECT_EQ(SettlementCalculator::isLoyaltyGift(c.given, c.discount), c.gift);
+    }
+}
+
 }  // namespace
 }  // namespace sandogh

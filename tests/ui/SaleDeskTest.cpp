@@ -36,6 +36,8 @@
 namespace sandogh {
 namespace {
 
+using test::child;
+
 const QString kBarcode = QStringLiteral("9990001112223");
 
 class SaleDeskTest : public ::testing::Test {
@@ -68,14 +70,14 @@ protected:
         auto* screen = active == nullptr ? nullptr : qobject_cast<frmSale*>(active->widget());
         EXPECT_NE(screen, nullptr);
         if (screen != nullptr) {
-            screen->txtBarcode->setFocus();
+            child<QLineEdit>(*screen, "txtBarcode")->setFocus();
         }
         return screen;
     }
 
     static void scan(frmSale& screen, const QString& text) {
-        QTest::keyClicks(screen.txtBarcode, text);
-        QTest::keyClick(screen.txtBarcode, Qt::Key_Return);
+        QTest::keyClicks(child<QLineEdit>(screen, "txtBarcode"), text);
+        QTest::keyClick(child<QLineEdit>(screen, "txtBarcode"), Qt::Key_Return);
     }
 
     QList<frmSale*> saleScreens() const {
@@ -101,9 +103,9 @@ TEST_F(SaleDeskTest, TheMenuOpensOneSaleScreenAndF3Another) {
     EXPECT_EQ(openSale(), first);
     EXPECT_EQ(saleScreens().size(), 1);
 
-    QTest::keyClick(first->txtBarcode, Qt::Key_F3);
+    QTest::keyClick(child<QLineEdit>(*first, "txtBarcode"), Qt::Key_F3);
     EXPECT_EQ(saleScreens().size(), 2);
-    QTest::keyClick(first->txtBarcode, Qt::Key_F3);
+    QTest::keyClick(child<QLineEdit>(*first, "txtBarcode"), Qt::Key_F3);
     EXPECT_EQ(saleScreens().size(), 3);
 
     // A rung-up line goes to the screen's own sale, not to the others.
@@ -131,10 +133,10 @@ protected:
 TEST_F(SaleDeskPecTest, F5SendsThePayableAndTheScreenGoesOnUntilTheAnswer) {
     frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
-    screen->txtNo->setText(QStringLiteral("57"));
+    child<QLineEdit>(*screen, "txtNo")->setText(QStringLiteral("57"));
     scan(*screen, kBarcode);
 
-    QTest::keyClick(screen->txtBarcode, Qt::Key_F5);
+    QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_F5);
     const QByteArray expected = PecRequest::build(QStringLiteral("125,000"), QStringLiteral("57"));
     EXPECT_EQ(pty.readMaster(expected.size()), expected);
     PecTerminal& terminal = SaleDesk::of(*screen)->pecTerminal();
@@ -169,7 +171,7 @@ TEST_P(SaleDeskSaveTest, ASaleTypedAndSavedLandsInTheShopAndTheScreenStartsAnew)
     ASSERT_TRUE(exe.open(QIODevice::WriteOnly));
     frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
-    const QString number = screen->txtNo->text();
+    const QString number = child<QLineEdit>(*screen, "txtNo")->text();
     ASSERT_FALSE(number.isEmpty());
 
     scan(*screen, kBarcode);
@@ -177,9 +179,9 @@ TEST_P(SaleDeskSaveTest, ASaleTypedAndSavedLandsInTheShopAndTheScreenStartsAnew)
     // The first payment kind is chosen for every sale.
     ASSERT_GT(screen->detailPanel()->cmbPayType->count(), 1);
     EXPECT_EQ(screen->detailPanel()->cmbPayType->currentIndex(), 1);
-    screen->chkPrint->setChecked(c.print);
+    child<QCheckBox>(*screen, "chkPrint")->setChecked(c.print);
     app.messages.clear();
-    QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
+    QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_F6);
 
     // Saved as typed (three teas) under the number shown; the lines are the saver's.
     EXPECT_EQ(app.count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE TransType = 2 AND "
@@ -191,12 +193,12 @@ TEST_P(SaleDeskSaveTest, ASaleTypedAndSavedLandsInTheShopAndTheScreenStartsAnew)
 
     // Ready for the next customer: a new number, nothing rung up, the last invoice shown.
     EXPECT_TRUE(screen->session().isEmpty());
-    EXPECT_EQ(screen->txtNo->text(), QString::number(number.toLongLong() + 1));
-    EXPECT_TRUE(screen->lblPrevFactor->text().endsWith(number));
-    EXPECT_TRUE(screen->lblPrevPrice->text().endsWith(QStringLiteral("375,000")));
+    EXPECT_EQ(child<QLineEdit>(*screen, "txtNo")->text(), QString::number(number.toLongLong() + 1));
+    EXPECT_TRUE(child<QLabel>(*screen, "lblPrevFactor")->text().endsWith(number));
+    EXPECT_TRUE(child<QLabel>(*screen, "lblPrevPrice")->text().endsWith(QStringLiteral("375,000")));
     EXPECT_TRUE(screen->totalsPanel()->txtSumReceived->text().isEmpty() ||
                 screen->totalsPanel()->txtSumReceived->value() == 0);
-    EXPECT_TRUE(screen->cmdSave->isEnabled());
+    EXPECT_TRUE(child<QPushButton>(*screen, "cmdSave")->isEnabled());
 }
 
 INSTANTIATE_TEST_SUITE_P(Receipt, SaleDeskSaveTest,
@@ -209,43 +211,44 @@ TEST_F(SaleDeskTest, TheChangeStaysInSightUntilTheNextScanAndAReturnShowsItsNumb
     ASSERT_NE(screen, nullptr);
     scan(*screen, kBarcode);
     QTest::keyClicks(screen->totalsPanel()->txtReceivedPrice, QStringLiteral("200000"));
-    QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
+    QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_F6);
     ASSERT_TRUE(screen->session().isEmpty()) << app.messages.count();
-    EXPECT_TRUE(screen->lblLastReceived->text().endsWith(QStringLiteral("200,000")))
-        << screen->lblLastReceived->text().toStdString();
-    EXPECT_TRUE(screen->lblLastChange->text().endsWith(QStringLiteral("75,000")))
-        << screen->lblLastChange->text().toStdString();
-    EXPECT_TRUE(screen->lblPrevPrice->text().endsWith(QStringLiteral("125,000")));
+    EXPECT_TRUE(
+        child<QLabel>(*screen, "lblLastReceived")->text().endsWith(QStringLiteral("200,000")))
+        << child<QLabel>(*screen, "lblLastReceived")->text().toStdString();
+    EXPECT_TRUE(child<QLabel>(*screen, "lblLastChange")->text().endsWith(QStringLiteral("75,000")))
+        << child<QLabel>(*screen, "lblLastChange")->text().toStdString();
+    EXPECT_TRUE(child<QLabel>(*screen, "lblPrevPrice")->text().endsWith(QStringLiteral("125,000")));
 
     scan(*screen, kBarcode);
-    EXPECT_TRUE(screen->lblLastReceived->text().isEmpty());
-    EXPECT_TRUE(screen->lblLastChange->text().isEmpty());
+    EXPECT_TRUE(child<QLabel>(*screen, "lblLastReceived")->text().isEmpty());
+    EXPECT_TRUE(child<QLabel>(*screen, "lblLastChange")->text().isEmpty());
 
     // Returns are numbered in their own run.
     Session s = app.context.database().session();
     const qint64 nextReturn = s.scalarInt64(
         QStringLiteral("SELECT COALESCE(MAX(CAST(DocNo AS BIGINT)), 0) + 1 FROM Whs_QTYDocH "
                        "WHERE TransType = 3 AND DocType IS NULL"));
-    const QString saleNumber = screen->txtNo->text();
-    QTest::keyClick(screen->txtBarcode, Qt::Key_M, Qt::ControlModifier);
-    EXPECT_EQ(screen->txtNo->text(), QString::number(nextReturn));
-    QTest::keyClick(screen->txtBarcode, Qt::Key_M, Qt::ControlModifier);
-    EXPECT_EQ(screen->txtNo->text(), saleNumber);
+    const QString saleNumber = child<QLineEdit>(*screen, "txtNo")->text();
+    QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_M, Qt::ControlModifier);
+    EXPECT_EQ(child<QLineEdit>(*screen, "txtNo")->text(), QString::number(nextReturn));
+    QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_M, Qt::ControlModifier);
+    EXPECT_EQ(child<QLineEdit>(*screen, "txtNo")->text(), saleNumber);
 }
 
 TEST_F(SaleDeskTest, ARefusedSaveKeepsTheSale) {
     frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
-    const QString number = screen->txtNo->text();
+    const QString number = child<QLineEdit>(*screen, "txtNo")->text();
     scan(*screen, kBarcode);
     // No payment kind chosen: refused with the saver's message, nothing written.
     screen->detailPanel()->cmbPayType->setCurrentIndex(0);
     app.messages.clear();
-    QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
+    QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_F6);
     EXPECT_GE(app.messages.count(), 1);
     EXPECT_EQ(screen->session().lines().size(), 1);
-    EXPECT_EQ(screen->txtNo->text(), number);
-    EXPECT_TRUE(screen->cmdSave->isEnabled());
+    EXPECT_EQ(child<QLineEdit>(*screen, "txtNo")->text(), number);
+    EXPECT_TRUE(child<QPushButton>(*screen, "cmdSave")->isEnabled());
     EXPECT_EQ(app.count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH WHERE DocNo = :no AND "
                                        "StationID = 1 AND TransType = 2"),
                         {{QStringLiteral(":no"), number}}),
@@ -274,11 +277,11 @@ TEST_F(SaleDeskTest, TheLoyaltyButtonGivesTheEarnedGiftsAndSavingCountsThem) {
     SaleTotalsPanel* totals = screen->totalsPanel();
     // The loyalty gift kind: the fifth of the shop's list.
     ASSERT_TRUE(totals->chooseDiscountKind(5));
-    QTest::mouseClick(screen->btnBuyFactor, Qt::LeftButton);
+    QTest::mouseClick(child<QPushButton>(*screen, "btnBuyFactor"), Qt::LeftButton);
     EXPECT_EQ(totals->txtDiscount->value(), 10000);
 
     app.messages.clear();
-    QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
+    QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_F6);
     EXPECT_TRUE(screen->session().isEmpty()) << app.messages.count();
     EXPECT_EQ(
         s.scalarInt64(QStringLiteral("SELECT DiscountTakenTotal FROM Types WHERE Counter = :c"),
@@ -293,7 +296,7 @@ TEST_F(SaleDeskTest, TheLoyaltyButtonGivesTheEarnedGiftsAndSavingCountsThem) {
     ASSERT_TRUE(totals->chooseDiscountKind(1));
     totals->txtDiscount->setValue(5000);
     app.messages.clear();
-    QTest::mouseClick(screen->btnBuyFactor, Qt::LeftButton);
+    QTest::mouseClick(child<QPushButton>(*screen, "btnBuyFactor"), Qt::LeftButton);
     EXPECT_EQ(totals->txtDiscount->value(), 0);
     EXPECT_GE(app.messages.count(), 1);
 }

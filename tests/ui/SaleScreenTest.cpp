@@ -81,19 +81,19 @@ frmSale& SaleScreenTest::openScreen() {
     m_screen->resize(1280, 720);
     m_screen->show();
     QApplication::setActiveWindow(m_screen.get());
-    m_screen->txtBarcode->setFocus();
+    child<QLineEdit>(*m_screen, "txtBarcode")->setFocus();
     return *m_screen;
 }
 
 void SaleScreenTest::scan(const QString& text) {
-    QTest::keyClicks(m_screen->txtBarcode, text);
-    QTest::keyClick(m_screen->txtBarcode, Qt::Key_Return);
+    QTest::keyClicks(child<QLineEdit>(*m_screen, "txtBarcode"), text);
+    QTest::keyClick(child<QLineEdit>(*m_screen, "txtBarcode"), Qt::Key_Return);
 }
 
 void SaleScreenTest::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QWidget* target = QApplication::focusWidget();
     if (target == nullptr || (target != m_screen.get() && !m_screen->isAncestorOf(target))) {
-        target = m_screen->txtBarcode;
+        target = child<QLineEdit>(*m_screen, "txtBarcode");
     }
     QTest::keyClick(target, key, modifiers);
 }
@@ -105,7 +105,7 @@ QLineEdit* SaleScreenTest::box(const char* name) {
 }
 
 bool SaleScreenTest::barcodeHasFocus() {
-    return m_screen->focusWidget() == m_screen->txtBarcode;
+    return m_screen->focusWidget() == child<QLineEdit>(*m_screen, "txtBarcode");
 }
 
 int SaleScreenTest::lineCount() {

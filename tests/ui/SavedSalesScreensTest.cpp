@@ -35,6 +35,8 @@
 namespace sandogh {
 namespace {
 
+using test::child;
+
 using namespace procedures;
 
 class SavedSalesScreensTest : public ::testing::Test {
@@ -171,8 +173,8 @@ TEST_F(SavedSalesScreensTest, CtrlPOnTheSaleScreenOpensTheDeleteScreenWhenAllowe
         window->command(QStringLiteral("mnuSale"))->trigger();
         auto* sale = qobject_cast<frmSale*>(window->mdiArea()->activeSubWindow()->widget());
         ASSERT_NE(sale, nullptr);
-        sale->txtBarcode->setFocus();
-        QTest::keyClick(sale->txtBarcode, Qt::Key_P, Qt::ControlModifier);
+        child<QLineEdit>(*sale, "txtBarcode")->setFocus();
+        QTest::keyClick(child<QLineEdit>(*sale, "txtBarcode"), Qt::Key_P, Qt::ControlModifier);
         QMdiSubWindow* active = window->mdiArea()->activeSubWindow();
         const bool opened =
             active != nullptr && qobject_cast<frmDeleteFactor*>(active->widget()) != nullptr;

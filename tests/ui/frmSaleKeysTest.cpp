@@ -39,7 +39,7 @@ protected:
 
 TEST_F(frmSaleKeysTest, CtrlDDeletesTheSelectedLine) {
     ringUpTwoLines();
-    screen().Grid1->selectLine(0);
+    child<SaleGridView>(screen(), "Grid1")->selectLine(0);
 
     press(Qt::Key_D, Qt::ControlModifier);
 
@@ -53,40 +53,40 @@ TEST_F(frmSaleKeysTest, CtrlMSwitchesBetweenSaleAndReturn) {
     openScreen();
     auto* received = screen().findChild<QLabel*>(QStringLiteral("lblReceivedPrice"));
     ASSERT_NE(received, nullptr);
-    EXPECT_EQ(screen().lblCaption->text(), QStringLiteral("فاکتور فروش"));
+    EXPECT_EQ(child<QLabel>(screen(), "lblCaption")->text(), QStringLiteral("فاکتور فروش"));
     EXPECT_EQ(received->text(), QStringLiteral("مبلغ دريافت شده :"));
 
     press(Qt::Key_M, Qt::ControlModifier);
 
     EXPECT_EQ(screen().session().mode(), SaleMode::Return);
-    EXPECT_EQ(screen().lblCaption->text(), QStringLiteral("فاکتور مرجوعي فروش"));
+    EXPECT_EQ(child<QLabel>(screen(), "lblCaption")->text(), QStringLiteral("فاکتور مرجوعي فروش"));
     EXPECT_EQ(screen().windowTitle(), QStringLiteral("فاکتور مرجوعي فروش"));
     EXPECT_EQ(received->text(), QStringLiteral("مبلغ پرداخت شده :"));
-    EXPECT_TRUE(screen().frmDetail->rdoTypeReturn->isChecked());
+    EXPECT_TRUE(child<SaleDetailPanel>(screen(), "frmDetail")->rdoTypeReturn->isChecked());
 
     press(Qt::Key_M, Qt::ControlModifier);
-    EXPECT_EQ(screen().lblCaption->text(), QStringLiteral("فاکتور فروش"));
-    EXPECT_TRUE(screen().frmDetail->rdoTypeSale->isChecked());
+    EXPECT_EQ(child<QLabel>(screen(), "lblCaption")->text(), QStringLiteral("فاکتور فروش"));
+    EXPECT_TRUE(child<SaleDetailPanel>(screen(), "frmDetail")->rdoTypeSale->isChecked());
 }
 
 TEST_F(frmSaleKeysTest, EscapeClosesTheDetailPanelFirstThenStartsANewSale) {
     ringUpTwoLines();
-    QTest::mouseClick(screen().btnDetail, Qt::LeftButton);
-    ASSERT_TRUE(screen().frmDetail->isVisible());
-    screen().frmDetail->txtNote->setFocus();
+    QTest::mouseClick(child<QPushButton>(screen(), "btnDetail"), Qt::LeftButton);
+    ASSERT_TRUE(child<SaleDetailPanel>(screen(), "frmDetail")->isVisible());
+    child<SaleDetailPanel>(screen(), "frmDetail")->txtNote->setFocus();
 
     press(Qt::Key_Escape);
-    EXPECT_FALSE(screen().frmDetail->isVisible());
+    EXPECT_FALSE(child<SaleDetailPanel>(screen(), "frmDetail")->isVisible());
     EXPECT_EQ(lineCount(), 2);
 
     // A sale with lines is dropped once the cashier says so (the question is the session's).
-    QTest::keyClicks(screen().txtBarcode, QStringLiteral("62"));
+    QTest::keyClicks(child<QLineEdit>(screen(), "txtBarcode"), QStringLiteral("62"));
     messages().queueAnswer(true);
     press(Qt::Key_Escape);
     EXPECT_EQ(messages().countOf(SaleTexts::unsavedSale()), 1);
     EXPECT_EQ(lineCount(), 0);
     EXPECT_EQ(totalShown(), QStringLiteral("0"));
-    EXPECT_TRUE(screen().txtBarcode->text().isEmpty());
+    EXPECT_TRUE(child<QLineEdit>(screen(), "txtBarcode")->text().isEmpty());
     EXPECT_TRUE(barcodeHasFocus());
 }
 
@@ -142,13 +142,13 @@ TEST_P(frmSaleSaveKeyTest, SavesOnlyWhenAllowed) {
     RecordingSaleActions actions;
     actions.saveResult = false;
     openScreen().setActions(&actions);
-    screen().cmdSave->setEnabled(c.saveEnabled);
-    screen().chkPrint->setChecked(c.print);
+    child<QPushButton>(screen(), "cmdSave")->setEnabled(c.saveEnabled);
+    child<QCheckBox>(screen(), "chkPrint")->setChecked(c.print);
 
     press(c.key, c.modifiers);
 
     EXPECT_EQ(actions.saves, c.saves);
-    EXPECT_EQ(screen().cmdSave->isEnabled(), c.saveEnabled);
+    EXPECT_EQ(child<QPushButton>(screen(), "cmdSave")->isEnabled(), c.saveEnabled);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -217,7 +217,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, frmSaleRequestTest,
 
 TEST_F(frmSaleKeysTest, CtrlQChangesTheQuantityOfTheSelectedLine) {
     ringUpTwoLines();
-    screen().Grid1->selectLine(0);
+    child<SaleGridView>(screen(), "Grid1")->selectLine(0);
     DialogDriver typeQuantity(QStringLiteral("frmChangeQty"), [](QWidget* dialog) {
         auto* qty = dialog->findChild<QLineEdit*>(QStringLiteral("txtQty"));
         ASSERT_NE(qty, nullptr);

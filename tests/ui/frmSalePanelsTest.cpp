@@ -132,13 +132,16 @@ TEST_F(frmSalePanelsTest, DailyTotalsShownOnOpeningAndOnCtrlT) {
     addDocument(2, 2, QStringLiteral("7101"), 1, 50000, 50000);
     openScreen();
 
-    EXPECT_TRUE(screen().lblDailySale->isVisible());
-    EXPECT_EQ(screen().lblDailySale->text(), QStringLiteral("فروش روزانه صندوق :200,000"));
-    EXPECT_EQ(screen().lblDailyReceived->text(), QStringLiteral("مبلغ روزانه صندوق :190,000"));
+    EXPECT_TRUE(child<QLabel>(screen(), "lblDailySale")->isVisible());
+    EXPECT_EQ(child<QLabel>(screen(), "lblDailySale")->text(),
+              QStringLiteral("فروش روزانه صندوق :200,000"));
+    EXPECT_EQ(child<QLabel>(screen(), "lblDailyReceived")->text(),
+              QStringLiteral("مبلغ روزانه صندوق :190,000"));
 
     addDocument(5, 2, QStringLiteral("7101"), 1, 10000, 10000);
     press(Qt::Key_T, Qt::ControlModifier);
-    EXPECT_EQ(screen().lblDailySale->text(), QStringLiteral("فروش روزانه صندوق :210,000"));
+    EXPECT_EQ(child<QLabel>(screen(), "lblDailySale")->text(),
+              QStringLiteral("فروش روزانه صندوق :210,000"));
 }
 
 struct LeaveCase {
@@ -160,7 +163,7 @@ TEST_P(frmSaleLeaveTest, CmdExit) {
     }
     messages().queueAnswer(c.answer);
 
-    QTest::mouseClick(screen().cmdExit, Qt::LeftButton);
+    QTest::mouseClick(child<QPushButton>(screen(), "cmdExit"), Qt::LeftButton);
 
     EXPECT_EQ(messages().countOf(SaleTexts::unsavedSale()), c.asked ? 1 : 0);
     EXPECT_EQ(screen().isVisible(), c.stillOpen);

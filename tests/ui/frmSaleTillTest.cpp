@@ -60,12 +60,15 @@ TEST_F(frmSaleTillTest, TheGoodsSearchOpensByKeyOrButtonAndEnterAddsTheChosenArt
     ASSERT_EQ(lineCount(), 1);
     EXPECT_TRUE(barcodeHasFocus());
 
-    listed = searchWith([this] { QTest::mouseClick(screen().btnBarcodeSearch, Qt::LeftButton); },
-                        QStringLiteral("چای"),
-                        [](frmGoodsSearch* s) {
-                            QTest::keyClick(s->txtSearch, Qt::Key_Down);
-                            QTest::keyClick(s->txtSearch, Qt::Key_Enter);
-                        });
+    listed = searchWith(
+        [this] {
+            QTest::mouseClick(child<QPushButton>(screen(), "btnBarcodeSearch"), Qt::LeftButton);
+        },
+        QStringLiteral("چای"),
+        [](frmGoodsSearch* s) {
+            QTest::keyClick(s->txtSearch, Qt::Key_Down);
+            QTest::keyClick(s->txtSearch, Qt::Key_Enter);
+        });
     EXPECT_EQ(listed.size(), 2);
     ASSERT_EQ(lineCount(), 2);
     EXPECT_EQ(screen().session().linesModel().line(1).barcode, QStringLiteral("6260002"));
@@ -80,13 +83,13 @@ TEST_F(frmSaleTillTest, PersianDigitsFromTheScannerFindTheBarcode) {
     openScreen();
     // As a scanner on a Persian keyboard layout types them.
     for (const QString& typed : {QStringLiteral("۶۲۶۰۰۰۱"), QStringLiteral("٦٢٦٠٠٠٣")}) {
-        typeText(screen().txtBarcode, typed);
-        QTest::keyClick(screen().txtBarcode, Qt::Key_Return);
+        typeText(child<QLineEdit>(screen(), "txtBarcode"), typed);
+        QTest::keyClick(child<QLineEdit>(screen(), "txtBarcode"), Qt::Key_Return);
     }
     ASSERT_EQ(lineCount(), 2);
     EXPECT_EQ(screen().session().linesModel().line(0).barcode, QStringLiteral("6260001"));
     EXPECT_EQ(screen().session().linesModel().line(1).barcode, QStringLiteral("6260003"));
-    EXPECT_TRUE(screen().lblBarcodeStatus->text().isEmpty());
+    EXPECT_TRUE(child<QLabel>(screen(), "lblBarcodeStatus")->text().isEmpty());
 }
 
 TEST_F(frmSaleTillTest, AnUnknownBarcodeIsToldInTheRedLineWithoutADialog) {
@@ -95,14 +98,14 @@ TEST_F(frmSaleTillTest, AnUnknownBarcodeIsToldInTheRedLineWithoutADialog) {
     scan(QStringLiteral("9999999"));
     EXPECT_EQ(lineCount(), 1);
     EXPECT_EQ(messages().count(), 0);
-    const QString status = screen().lblBarcodeStatus->text();
+    const QString status = child<QLabel>(screen(), "lblBarcodeStatus")->text();
     EXPECT_TRUE(status.startsWith(SaleTexts::goodsNotFound())) << status.toStdString();
     EXPECT_TRUE(status.endsWith(QStringLiteral("9999999"))) << status.toStdString();
-    EXPECT_TRUE(screen().txtBarcode->text().isEmpty());
+    EXPECT_TRUE(child<QLineEdit>(screen(), "txtBarcode")->text().isEmpty());
     // The next scan goes on at once and clears the line.
     scan(QStringLiteral("6260003"));
     EXPECT_EQ(lineCount(), 2);
-    EXPECT_TRUE(screen().lblBarcodeStatus->text().isEmpty());
+    EXPECT_TRUE(child<QLabel>(screen(), "lblBarcodeStatus")->text().isEmpty());
 }
 
 }  // namespace

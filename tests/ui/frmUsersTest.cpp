@@ -121,9 +121,9 @@ TEST_F(frmUsersTest, ALoginOpensTheMainWindowAndSwitchingUserWithASaleOpenAsksFi
     main->command(QStringLiteral("mnuSale"))->trigger();
     auto* sale = qobject_cast<frmSale*>(main->mdiArea()->activeSubWindow()->widget());
     ASSERT_NE(sale, nullptr);
-    sale->txtBarcode->setFocus();
-    QTest::keyClicks(sale->txtBarcode, QStringLiteral("9990001112223"));
-    QTest::keyClick(sale->txtBarcode, Qt::Key_Return);
+    child<QLineEdit>(*sale, "txtBarcode")->setFocus();
+    QTest::keyClicks(child<QLineEdit>(*sale, "txtBarcode"), QStringLiteral("9990001112223"));
+    QTest::keyClick(child<QLineEdit>(*sale, "txtBarcode"), Qt::Key_Return);
     app.messages.clear();
 
     // No: the sale and the user stay.

@@ -36,38 +36,23 @@ QString SaleDeskActions::companionMissingText() {
 }
 
 QString SaleDeskActions::payableText() const {
-    const QString payable = m_screen.totalsPanel()->txtSumReceived->text().trimmed();
-    if (AmountText::parse(payable.toStdString()) > 0) {
-        return payable;
-    }
-    return m_screen.session().totalText();
+    const QString payable = m_screen.totalsPanel()->payableText();
+    return payable.isEmpty() ? m_screen.session().totalText() : payable;
 }
 
 SaleSettlement SaleDeskActions::settlementOnScreen() const {
     SaleSettlement s;
-    s.docNo = m_screen.txtNo->text().trimmed();
-    const SaleTotalsPanel& totals = *m_screen.totalsPanel();
+    s.docNo = m_screen.docNoText();
     // The total of the lines themselves, not its rounded text in txtSum.
-    SettlementCalculator::fill(s, m_screen.session().total(), totals.txtDiscount->value(),
-                               totals.txtDiscountPercent->value(), totals.txtOther->value(),
-                               totals.txtReceivedPrice->value());
-    s.discountTypeId = SaleTotalsPanel::chosenKind(totals.cmbDiscountType);
-    s.overheadId = SaleTotalsPanel::chosenKind(totals.cmbOverhead);
-    if (totals.txtSumReceived->value() > 0) {
-        s.received = totals.txtSumReceived->value();
-    }
-    const SaleDetailPanel& detail = *m_screen.detailPanel();
-    s.payType = SaleTotalsPanel::chosenKind(detail.cmbPayType);
-    s.returnCauseId = SaleTotalsPanel::chosenKind(detail.cmbReturnCause);
-    s.note = detail.txtNote->text().trimmed();
+    m_screen.totalsPanel()->fillSettlement(s, m_screen.session().total());
+    m_screen.detailPanel()->fillSettlement(s);
     if (m_card && m_card->accepted) {
         s.giftCardId = m_card->cardNumber;
-        s.giftCardAmount = std::min(m_card->balance, s.payable);
+        s.giftCardAmount = SettlementCalculator::giftCardShare(m_card->balance, s.payable);
     }
     s.payments = m_payments;
-    // A gift given by the button and not changed by hand since.
-    s.loyaltyGift = m_giftDiscount.has_value() && *m_giftDiscount == s.discount && s.discount > 0;
-    s.printReceipt = m_screen.chkPrint->isChecked();
+    s.loyaltyGift = SettlementCalculator::isLoyaltyGift(m_giftDiscount, s.discount);
+    s.printReceipt = m_screen.printsReceipt();
     return s;
 }
 
@@ -78,8 +63,8 @@ bool SaleDeskActions::giveLoyaltyGift() {
     }
     SaleTotalsPanel& totals = *m_screen.totalsPanel();
     const SaleSession& sale = m_screen.session();
-    const LoyaltyGift::Offer offer = m_loyalty->offer(
-        sale.CompanyId(), sale.CompanyName(), SaleTotalsPanel::chosenKind(totals.cmbDiscountType));
+    const LoyaltyGift::Offer offer =
+        m_loyalty->offer(sale.CompanyId(), sale.CompanyName(), totals.discountKind());
     totals.setDiscount(offer.given ? offer.discount : 0);
     if (offer.given) {
         m_giftDiscount = offer.discount;
@@ -98,7 +83,7 @@ bool SaleDeskActions::save() {
     m_lastSave = m_saver->save(m_screen.session(), settlement);
     if (!m_lastSave.saved) {
         // A number taken by another desk meanwhile has been replaced: show the new one.
-        m_screen.txtNo->setText(settlement.docNo);
+        m_screen.showDocNo(settlement.docNo);
         return false;
     }
     m_card.reset();
@@ -107,9 +92,7 @@ bool SaleDeskActions::save() {
     // What was handed over and the change stay in sight after the boxes are cleared;
     // nothing typed means the payable amount exactly.
     const SaleTotalsPanel& totals = *m_screen.totalsPanel();
-    const QString handedOver = totals.txtReceivedPrice->text().trimmed();
-    m_screen.showSettled(handedOver.isEmpty() ? totals.txtSumReceived->text() : handedOver,
-                         handedOver.isEmpty() ? QStringLiteral("0") : totals.txtReturn->text());
+    m_screen.showSettled(totals.handedOverText(), totals.changeText());
     m_screen.session().newSale();
     showNewDocument();
     return true;
@@ -119,7 +102,7 @@ void SaleDeskActions::showNewDocument() {
     if (m_saver == nullptr) {
         return;
     }
-    m_screen.txtNo->setText(m_saver->nextDocNo(m_screen.session()));
+    m_screen.showDocNo(m_saver->nextDocNo(m_screen.session()));
     const PreviousInvoice previous = m_saver->previousInvoice(m_screen.session().station());
     m_screen.showPreviousInvoice(previous.docNo, previous.received);
 }
@@ -146,7 +129,7 @@ bool SaleDeskActions::pecPayment() {
     }
     // Sent and left: the answer arrives on the port and is shown or recorded there, so
     // the cashier can go on meanwhile. A port that cannot be opened says nothing.
-    return m_pec->sendPaymentRequest(payableText(), m_screen.txtNo->text().trimmed());
+    return m_pec->sendPaymentRequest(payableText(), m_screen.docNoText());
 }
 
 void SaleDeskActions::terminalHandOff(const QString& command) {

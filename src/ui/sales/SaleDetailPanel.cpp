@@ -8,6 +8,8 @@
 #include <QRadioButton>
 
 #include "sales/SaleSession.h"
+#include "sales/SaleSettlement.h"
+#include "ui/sales/SaleTotalsPanel.h"
 #include "ui/widgets/JalaliDateEdit.h"
 
 namespace sandogh {
@@ -149,6 +151,12 @@ void SaleDetailPanel::onSalesTypeClicked(int salesType) {
 void SaleDetailPanel::onWarehouseChosen(int index) {
     const QVariant code = cmbWarehouseSelector->itemData(index);
     m_sale.setWarehouse(code.isValid() ? code.toString() : QString());
+}
+
+void SaleDetailPanel::fillSettlement(SaleSettlement& settlement) const {
+    settlement.payType = SaleTotalsPanel::chosenKind(cmbPayType);
+    settlement.returnCauseId = SaleTotalsPanel::chosenKind(cmbReturnCause);
+    settlement.note = txtNote->text().trimmed();
 }
 
 }  // namespace sandogh

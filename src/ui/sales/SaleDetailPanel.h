@@ -15,6 +15,7 @@ namespace sandogh {
 
 class JalaliDateEdit;
 class SaleSession;
+struct SaleSettlement;
 
 // The detail panel frmDetail of the sale screen, opened beside the grid when the cashier
 // needs it: the kind of document (rdoType: sale or return from sale), the sales type
@@ -35,6 +36,8 @@ public:
     void setPaymentKinds(const QList<SaleScreenLists::Item>& kinds);
     // A new sale: no return cause, today's date, no note.
     void clearDocument();
+    // Fills the payment kind, the return cause and the note of a settlement.
+    void fillSettlement(SaleSettlement& settlement) const;
 
     QButtonGroup* rdoType;
     QRadioButton* rdoTypeSale;

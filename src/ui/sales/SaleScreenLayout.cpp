@@ -40,7 +40,9 @@ QFont scaled(const QFont& base, double scale, bool bold = false) {
     return font;
 }
 
-QHBoxLayout* topBar(frmSale& s) {
+}  // namespace
+
+QHBoxLayout* SaleScreenLayout::topBar(frmSale& s) {
     s.lblCaption->setFont(scaled(s.font(), kCaptionScale, true));
     s.txtNo->setMinimumWidth(90);
     s.txtNo->setMaximumWidth(120);
@@ -63,7 +65,7 @@ QHBoxLayout* topBar(frmSale& s) {
     return bar;
 }
 
-QHBoxLayout* barcodeRow(frmSale& s) {
+QHBoxLayout* SaleScreenLayout::barcodeRow(frmSale& s) {
     s.txtBarcode->setFont(scaled(s.font(), kBarcodeScale, true));
     s.txtBarcode->setMinimumWidth(kBarcodeMinWidth);
     s.txtBarcode->setStyleSheet(
@@ -118,7 +120,7 @@ QHBoxLayout* barcodeRow(frmSale& s) {
 
 // The customer, its buttons and the detail panel: a page of the side column that scrolls
 // when the open detail panel would squeeze the fields past reading.
-QScrollArea* customerPage(frmSale& s) {
+QScrollArea* SaleScreenLayout::customerPage(frmSale& s) {
     auto* customerButtons = new QHBoxLayout;
     customerButtons->addWidget(s.btnCalculateHesab);
     customerButtons->addWidget(s.btnBuyFactor);
@@ -144,7 +146,7 @@ QScrollArea* customerPage(frmSale& s) {
 // The side column: the customer and the favourite goods on two tabs of the full height, so
 // that on a low screen each shows its rows rather than both being squeezed. The tab follows
 // the keyboard: focus on the customer search shows the customer page.
-QTabWidget* sideColumn(frmSale& s) {
+QTabWidget* SaleScreenLayout::sideColumn(frmSale& s) {
     auto* tabs = new QTabWidget(&s);
     tabs->setObjectName(QStringLiteral("tabSide"));
     tabs->setFixedWidth(kSideColumnWidth + s.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
@@ -175,7 +177,7 @@ QTabWidget* sideColumn(frmSale& s) {
     return tabs;
 }
 
-QHBoxLayout* buttonRow(frmSale& s) {
+QHBoxLayout* SaleScreenLayout::buttonRow(frmSale& s) {
     QFont saveFont = scaled(s.font(), kSaveScale, true);
     s.cmdSave->setFont(saveFont);
     s.cmdSave->setMinimumWidth(160);
@@ -199,8 +201,6 @@ QHBoxLayout* buttonRow(frmSale& s) {
     row->addWidget(s.cmdExit);
     return row;
 }
-
-}  // namespace
 
 void SaleScreenLayout::arrange(frmSale& s) {
     s.setLayoutDirection(Qt::RightToLeft);

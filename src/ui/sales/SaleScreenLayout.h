@@ -1,5 +1,9 @@
 #pragma once
 
+class QHBoxLayout;
+class QScrollArea;
+class QTabWidget;
+
 namespace sandogh {
 
 class frmSale;
@@ -16,6 +20,13 @@ class frmSale;
 class SaleScreenLayout {
 public:
     static void arrange(frmSale& screen);
+
+private:
+    static QHBoxLayout* topBar(frmSale& s);
+    static QHBoxLayout* barcodeRow(frmSale& s);
+    static QScrollArea* customerPage(frmSale& s);
+    static QTabWidget* sideColumn(frmSale& s);
+    static QHBoxLayout* buttonRow(frmSale& s);
 };
 
 }  // namespace sandogh

@@ -213,6 +213,30 @@ void SaleTotalsPanel::fillSettlement(SaleSettlement& settlement) const {
     settlement.overheadId = chosenKind(cmbOverhead);
 }
 
+void SaleTotalsPanel::fillSettlement(SaleSettlement& settlement, double linesTotal) const {
+    SettlementCalculator::fill(settlement, linesTotal, txtDiscount->value(),
+                               txtDiscountPercent->value(), txtOther->value(),
+                               txtReceivedPrice->value());
+    settlement.discountTypeId = chosenKind(cmbDiscountType);
+    settlement.overheadId = chosenKind(cmbOverhead);
+    if (txtSumReceived->value() > 0) {
+        settlement.received = txtSumReceived->value();
+    }
+}
+
+QString SaleTotalsPanel::payableText() const {
+    return txtSumReceived->value() > 0 ? txtSumReceived->text().trimmed() : QString();
+}
+
+QString SaleTotalsPanel::handedOverText() const {
+    const QString handedOver = txtReceivedPrice->text().trimmed();
+    return handedOver.isEmpty() ? txtSumReceived->text() : handedOver;
+}
+
+QString SaleTotalsPanel::changeText() const {
+    return txtReceivedPrice->text().trimmed().isEmpty() ? QStringLiteral("0") : txtReturn->text();
+}
+
 SaleSettlement SaleTotalsPanel::settlement() const {
     SaleSettlement settlement;
     fillSettlement(settlement);

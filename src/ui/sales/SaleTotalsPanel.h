@@ -47,10 +47,21 @@ public:
     // The amounts and the chosen kinds (item data of cmbDiscountType and cmbOverhead: the
     // Ids; none for the empty first entry) as a settlement; the rest left empty.
     SaleSettlement settlement() const;
-    // Fills the amounts and kinds of a settlement, keeping its other values.
+    // Fills the amounts and kinds of a settlement, keeping its other values. With the
+    // total of the lines, that total is used in place of its rounded text in txtSum, and
+    // a payable amount typed over the computed one is taken as received.
     void fillSettlement(SaleSettlement& settlement) const;
+    void fillSettlement(SaleSettlement& settlement, double linesTotal) const;
+    // txtSumReceived as typed, when it holds an amount above 0; otherwise empty.
+    QString payableText() const;
+    // What the sale just saved leaves in sight: the amount handed over (the payable one
+    // when nothing was typed) and the change ("0" then).
+    QString handedOverText() const;
+    QString changeText() const;
     // The Id (item data) chosen in a kind list; nothing for the empty first row.
     static std::optional<int> chosenKind(const QComboBox* combo);
+    // The discount kind chosen in cmbDiscountType; nothing for the empty first row.
+    std::optional<int> discountKind() const { return chosenKind(cmbDiscountType); }
     // Writes a discount (the loyalty gift) and recomputes.
     void setDiscount(double discount);
     // Chooses a discount kind by its Id; false when the list has no such kind.

@@ -19,6 +19,7 @@
 #include "sales/DailyTotals.h"
 #include "sales/EntryOutcome.h"
 #include "sales/FavouriteGoods.h"
+#include "sales/SaleKeyDispatch.h"
 #include "sales/SaleKeyMap.h"
 #include "sales/SaleScreenLists.h"
 #include "sales/SaleSession.h"
@@ -183,14 +184,15 @@ void frmSale::connectSale() {
     connect(btnGetScaleWeight, &QPushButton::clicked, this, &frmSale::readWeight);
     connect(cmdSave, &QPushButton::clicked, this,
             [this] { runCommand(command(SaleCommand::Save)); });
-    connect(btnPaymentType, &QPushButton::clicked, this, [this] { m_sale->choosePayment(); });
+    connect(btnPaymentType, &QPushButton::clicked, this,
+            [this] { SaleKeyDispatch(*m_sale, m_settings).choosePayment(); });
     connect(btnParsianPos, &QPushButton::clicked, this,
             [this] { runCommand(command(SaleCommand::PecPayment)); });
     connect(btnOpenCash, &QPushButton::clicked, this, [this] {
         if (m_allows && !m_allows(Permission::OpenDrawer)) {
             m_messages.show(SaleTexts::forbidden(), MessageStyle::Critical);
         } else {
-            m_sale->openDrawer();
+            SaleKeyDispatch(*m_sale, m_settings).openDrawer();
         }
         focusBarcode();
     });
@@ -357,7 +359,7 @@ bool frmSale::handleKey(QKeyEvent* key) {
 }
 
 void frmSale::runCommand(const SaleKeyBinding& binding) {
-    using Result = SaleSession::CommandResult;
+    using Result = SaleKeyDispatch::Result;
     switch (binding.command) {
         case SaleCommand::Save:
             if (cmdSave->isEnabled()) {
@@ -380,7 +382,8 @@ void frmSale::runCommand(const SaleKeyBinding& binding) {
         default:
             break;
     }
-    const Result result = m_sale->execute(binding, Grid1->selectedRow());
+    const Result result =
+        SaleKeyDispatch(*m_sale, m_settings).execute(binding, Grid1->selectedRow());
     if (result == Result::Refused || !permitted(binding.command)) {
         return;
     }
@@ -446,10 +449,12 @@ void frmSale::save(bool printing) {
     }
     // One save at a time: the button stays off while the sale is written.
     cmdSave->setEnabled(false);
-    const SaleSession::CommandResult result = m_sale->execute(
-        command(printing ? SaleCommand::SaveAndPrint : SaleCommand::Save), Grid1->selectedRow());
+    const SaleKeyDispatch::Result result =
+        SaleKeyDispatch(*m_sale, m_settings)
+            .execute(command(printing ? SaleCommand::SaveAndPrint : SaleCommand::Save),
+                     Grid1->selectedRow());
     cmdSave->setEnabled(true);
-    if (result == SaleSession::CommandResult::Done && m_sale->isEmpty()) {
+    if (result == SaleKeyDispatch::Result::Done && m_sale->isEmpty()) {
         newSale();
     }
     focusBarcode();
@@ -522,6 +527,18 @@ void frmSale::showPreviousInvoice(const QString& docNo, double received) {
     lblPrevFactor->setText(QStringLiteral("فاکتور قبلی: ") + docNo);
     lblPrevPrice->setText(QStringLiteral("مبلغ: ") +
                           QString::fromStdString(AmountText::formatWhole(received)));
+}
+
+QString frmSale::docNoText() const {
+    return txtNo->text().trimmed();
+}
+
+void frmSale::showDocNo(const QString& docNo) {
+    txtNo->setText(docNo);
+}
+
+bool frmSale::printsReceipt() const {
+    return chkPrint->isChecked();
 }
 
 void frmSale::showSettled(const QString& received, const QString& change) {

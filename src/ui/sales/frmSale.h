@@ -87,9 +87,32 @@ public:
     bool showDailyTotals();
     // The desk's previous invoice beside the number: its number and the amount received.
     void showPreviousInvoice(const QString& docNo, double received);
+    // txtNo: the number proposed for the sale, and the one a save wrote or took instead.
+    QString docNoText() const;
+    void showDocNo(const QString& docNo);
+    // chkPrint: whether the receipt is printed.
+    bool printsReceipt() const;
     // The amount handed over and the change of the sale just saved, in large type until
     // the next entry in the barcode box.
     void showSettled(const QString& received, const QString& change);
+
+signals:
+    // F3 / cmdNewSaleForm: the main window opens a second, new sale screen.
+    void newSaleFormRequested();
+    // F2 / btnGoodDefinition: the goods definition screen.
+    void goodDefinitionRequested();
+    // Ctrl+P: the invoice delete screen.
+    void deleteInvoiceRequested();
+    // btnBuyFactor: the customer's loyalty gift, worked out by the settlement.
+    void loyaltyGiftRequested();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    // The layout places the controls; from outside they are found by their objectName.
+    friend class SaleScreenLayout;
 
     QLabel* lblCaption;
     QLineEdit* txtBarcode;
@@ -120,21 +143,6 @@ public:
     QPushButton* btnGoodDefinition;
     QPushButton* cmdExit;
 
-signals:
-    // F3 / cmdNewSaleForm: the main window opens a second, new sale screen.
-    void newSaleFormRequested();
-    // F2 / btnGoodDefinition: the goods definition screen.
-    void goodDefinitionRequested();
-    // Ctrl+P: the invoice delete screen.
-    void deleteInvoiceRequested();
-    // btnBuyFactor: the customer's loyalty gift, worked out by the settlement.
-    void loyaltyGiftRequested();
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
-
-private:
     // False, with the refusal shown, when the user may not open what the command opens.
     bool permitted(SaleCommand command);
     void buildControls();

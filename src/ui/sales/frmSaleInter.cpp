@@ -16,6 +16,7 @@
 #include "sales/InternalSaleSaver.h"
 #include "sales/InternalSaleSession.h"
 #include "sales/ReceiptOptions.h"
+#include "sales/SaleKeyDispatch.h"
 #include "sales/SaleKeyMap.h"
 #include "sales/SaleReceipt.h"
 #include "sales/SaleSession.h"
@@ -281,7 +282,8 @@ bool frmSaleInter::eventFilter(QObject* watched, QEvent* event) {
         case SaleCommand::NewSale:
         case SaleCommand::DeleteLine:
         case SaleCommand::SwitchMode:
-            m_sale->entry().execute(*binding, Grid1->selectedRow());
+            SaleKeyDispatch(m_sale->entry(), m_context.machineSettings())
+                .execute(*binding, Grid1->selectedRow());
             if (binding->command == SaleCommand::NewSale && m_sale->entry().isEmpty()) {
                 m_sale->newSale();
                 txtAtf->clear();

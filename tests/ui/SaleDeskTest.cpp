@@ -177,8 +177,8 @@ TEST_P(SaleDeskSaveTest, ASaleTypedAndSavedLandsInTheShopAndTheScreenStartsAnew)
     scan(*screen, kBarcode);
     scan(*screen, QStringLiteral("3"));
     // The first payment kind is chosen for every sale.
-    ASSERT_GT(screen->detailPanel()->cmbPayType->count(), 1);
-    EXPECT_EQ(screen->detailPanel()->cmbPayType->currentIndex(), 1);
+    ASSERT_GT(child<QComboBox>(*screen->detailPanel(), "cmbPayType")->count(), 1);
+    EXPECT_EQ(child<QComboBox>(*screen->detailPanel(), "cmbPayType")->currentIndex(), 1);
     child<QCheckBox>(*screen, "chkPrint")->setChecked(c.print);
     app.messages.clear();
     QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_F6);
@@ -196,8 +196,8 @@ TEST_P(SaleDeskSaveTest, ASaleTypedAndSavedLandsInTheShopAndTheScreenStartsAnew)
     EXPECT_EQ(child<QLineEdit>(*screen, "txtNo")->text(), QString::number(number.toLongLong() + 1));
     EXPECT_TRUE(child<QLabel>(*screen, "lblPrevFactor")->text().endsWith(number));
     EXPECT_TRUE(child<QLabel>(*screen, "lblPrevPrice")->text().endsWith(QStringLiteral("375,000")));
-    EXPECT_TRUE(screen->totalsPanel()->txtSumReceived->text().isEmpty() ||
-                screen->totalsPanel()->txtSumReceived->value() == 0);
+    EXPECT_TRUE(child<AmountEdit>(*screen->totalsPanel(), "txtSumReceived")->text().isEmpty() ||
+                child<AmountEdit>(*screen->totalsPanel(), "txtSumReceived")->value() == 0);
     EXPECT_TRUE(child<QPushButton>(*screen, "cmdSave")->isEnabled());
 }
 
@@ -210,7 +210,8 @@ TEST_F(SaleDeskTest, TheChangeStaysInSightUntilTheNextScanAndAReturnShowsItsNumb
     frmSale* screen = openSale();
     ASSERT_NE(screen, nullptr);
     scan(*screen, kBarcode);
-    QTest::keyClicks(screen->totalsPanel()->txtReceivedPrice, QStringLiteral("200000"));
+    QTest::keyClicks(child<AmountEdit>(*screen->totalsPanel(), "txtReceivedPrice"),
+                     QStringLiteral("200000"));
     QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_F6);
     ASSERT_TRUE(screen->session().isEmpty()) << app.messages.count();
     EXPECT_TRUE(
@@ -242,7 +243,7 @@ TEST_F(SaleDeskTest, ARefusedSaveKeepsTheSale) {
     const QString number = child<QLineEdit>(*screen, "txtNo")->text();
     scan(*screen, kBarcode);
     // No payment kind chosen: refused with the saver's message, nothing written.
-    screen->detailPanel()->cmbPayType->setCurrentIndex(0);
+    child<QComboBox>(*screen->detailPanel(), "cmbPayType")->setCurrentIndex(0);
     app.messages.clear();
     QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_F6);
     EXPECT_GE(app.messages.count(), 1);
@@ -278,7 +279,7 @@ TEST_F(SaleDeskTest, TheLoyaltyButtonGivesTheEarnedGiftsAndSavingCountsThem) {
     // The loyalty gift kind: the fifth of the shop's list.
     ASSERT_TRUE(totals->chooseDiscountKind(5));
     QTest::mouseClick(child<QPushButton>(*screen, "btnBuyFactor"), Qt::LeftButton);
-    EXPECT_EQ(totals->txtDiscount->value(), 10000);
+    EXPECT_EQ(child<AmountEdit>(*totals, "txtDiscount")->value(), 10000);
 
     app.messages.clear();
     QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_F6);
@@ -294,10 +295,10 @@ TEST_F(SaleDeskTest, TheLoyaltyButtonGivesTheEarnedGiftsAndSavingCountsThem) {
     scan(*screen, kBarcode);
     ASSERT_TRUE(screen->session().selectCustomer(int(customer)));
     ASSERT_TRUE(totals->chooseDiscountKind(1));
-    totals->txtDiscount->setValue(5000);
+    child<AmountEdit>(*totals, "txtDiscount")->setValue(5000);
     app.messages.clear();
     QTest::mouseClick(child<QPushButton>(*screen, "btnBuyFactor"), Qt::LeftButton);
-    EXPECT_EQ(totals->txtDiscount->value(), 0);
+    EXPECT_EQ(child<AmountEdit>(*totals, "txtDiscount")->value(), 0);
     EXPECT_GE(app.messages.count(), 1);
 }
 

@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include "DialogDriver.h"
+#include "ScreenTestContext.h"
 #include "TypeText.h"
 #include "sales/SettlementTexts.h"
 #include "support/RecordingMessageService.h"
@@ -50,18 +51,18 @@ TEST_P(SaleTotalsPanelTest, TypingRecomputesPayableChangeAndState) {
     panel.show();
     panel.showTotal(QString::fromLatin1(c.total));
     if (*c.percent != 0) {
-        typeAmount(panel.txtDiscountPercent, QString::fromLatin1(c.percent));
-        QTest::mouseClick(panel.DiscountButton, Qt::LeftButton);
+        typeAmount(child<AmountEdit>(panel, "txtDiscountPercent"), QString::fromLatin1(c.percent));
+        QTest::mouseClick(child<QPushButton>(panel, "DiscountButton"), Qt::LeftButton);
     }
     if (*c.discount != 0) {
-        typeAmount(panel.txtDiscount, QString::fromUtf8(c.discount));
+        typeAmount(child<AmountEdit>(panel, "txtDiscount"), QString::fromUtf8(c.discount));
     }
-    typeAmount(panel.txtOther, QString::fromLatin1(c.other));
-    typeAmount(panel.txtReceivedPrice, QString::fromUtf8(c.received));
+    typeAmount(child<AmountEdit>(panel, "txtOther"), QString::fromLatin1(c.other));
+    typeAmount(child<AmountEdit>(panel, "txtReceivedPrice"), QString::fromUtf8(c.received));
 
-    EXPECT_EQ(panel.txtSumReceived->text(), QString::fromLatin1(c.payable));
-    EXPECT_EQ(panel.txtReturn->text(), QString::fromLatin1(c.change));
-    EXPECT_EQ(panel.lblReturnCalculator->text(), c.label);
+    EXPECT_EQ(child<AmountEdit>(panel, "txtSumReceived")->text(), QString::fromLatin1(c.payable));
+    EXPECT_EQ(child<AmountEdit>(panel, "txtReturn")->text(), QString::fromLatin1(c.change));
+    EXPECT_EQ(child<QLabel>(panel, "lblReturnCalculator")->text(), c.label);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -79,18 +80,20 @@ TEST(SaleTotalsPanelFlow, TheTotalChangingRecomputesAndANewSaleEmptiesEverything
     panel.setOverheadKinds({{2, QStringLiteral("حمل")}});
     panel.show();
     panel.showTotal(QStringLiteral("50,000"));
-    typeAmount(panel.txtReceivedPrice, QStringLiteral("50000"));
-    EXPECT_EQ(panel.lblReturnCalculator->text(), SettlementTexts::settled());
+    typeAmount(child<AmountEdit>(panel, "txtReceivedPrice"), QStringLiteral("50000"));
+    EXPECT_EQ(child<QLabel>(panel, "lblReturnCalculator")->text(), SettlementTexts::settled());
     // Another line rung up: still to receive.
     panel.showTotal(QStringLiteral("70,000"));
-    EXPECT_EQ(panel.txtSumReceived->text(), QStringLiteral("70,000"));
-    EXPECT_EQ(panel.txtReturn->text(), QStringLiteral("20,000"));
-    EXPECT_EQ(panel.lblReturnCalculator->text(), SettlementTexts::toReceive());
+    EXPECT_EQ(child<AmountEdit>(panel, "txtSumReceived")->text(), QStringLiteral("70,000"));
+    EXPECT_EQ(child<AmountEdit>(panel, "txtReturn")->text(), QStringLiteral("20,000"));
+    EXPECT_EQ(child<QLabel>(panel, "lblReturnCalculator")->text(), SettlementTexts::toReceive());
 
-    typeAmount(panel.txtDiscount, QStringLiteral("7000"));
-    panel.cmbDiscountType->setCurrentIndex(panel.cmbDiscountType->findData(5));
-    typeAmount(panel.txtOther, QStringLiteral("1000"));
-    panel.cmbOverhead->setCurrentIndex(panel.cmbOverhead->findData(2));
+    typeAmount(child<AmountEdit>(panel, "txtDiscount"), QStringLiteral("7000"));
+    child<QComboBox>(panel, "cmbDiscountType")
+        ->setCurrentIndex(child<QComboBox>(panel, "cmbDiscountType")->findData(5));
+    typeAmount(child<AmountEdit>(panel, "txtOther"), QStringLiteral("1000"));
+    child<QComboBox>(panel, "cmbOverhead")
+        ->setCurrentIndex(child<QComboBox>(panel, "cmbOverhead")->findData(2));
     const SaleSettlement s = panel.settlement();
     EXPECT_DOUBLE_EQ(s.discount, 7000);
     EXPECT_DOUBLE_EQ(s.overhead, 1000);
@@ -101,11 +104,13 @@ TEST(SaleTotalsPanelFlow, TheTotalChangingRecomputesAndANewSaleEmptiesEverything
 
     panel.clearSettlement();
     panel.showTotal(QStringLiteral("0"));
-    for (AmountEdit* box : {panel.txtDiscount, panel.txtOther, panel.txtSumReceived,
-                            panel.txtReceivedPrice, panel.txtReturn}) {
+    for (AmountEdit* box :
+         {child<AmountEdit>(panel, "txtDiscount"), child<AmountEdit>(panel, "txtOther"),
+          child<AmountEdit>(panel, "txtSumReceived"), child<AmountEdit>(panel, "txtReceivedPrice"),
+          child<AmountEdit>(panel, "txtReturn")}) {
         EXPECT_TRUE(box->text().isEmpty()) << box->objectName().toStdString();
     }
-    EXPECT_TRUE(panel.lblReturnCalculator->text().isEmpty());
+    EXPECT_TRUE(child<QLabel>(panel, "lblReturnCalculator")->text().isEmpty());
     EXPECT_FALSE(panel.settlement().discountTypeId.has_value());
     EXPECT_FALSE(panel.settlement().overheadId.has_value());
 }
@@ -117,7 +122,8 @@ QList<frmSalePayment::AccountChoice> paymentAccounts() {
 }
 
 void chooseAccount(frmSalePayment& dialog, int id) {
-    dialog.cmbAccount->setCurrentIndex(dialog.cmbAccount->findData(id));
+    child<QComboBox>(dialog, "cmbAccount")
+        ->setCurrentIndex(child<QComboBox>(dialog, "cmbAccount")->findData(id));
 }
 
 TEST(frmSalePaymentTest, RowsMustAddUpBeforeOk) {
@@ -127,33 +133,34 @@ TEST(frmSalePaymentTest, RowsMustAddUpBeforeOk) {
     dialog.setCustomerName(QStringLiteral("رضا"));
     dialog.FillTextValue();
     dialog.show();
-    EXPECT_EQ(dialog.txtAmount->text(), QStringLiteral("95,000"));
-    EXPECT_EQ(dialog.lblCompanyName->text(), QStringLiteral("رضا"));
-    ASSERT_EQ(dialog.cmbPaymentKind->count(), 3);
+    EXPECT_EQ(child<AmountEdit>(dialog, "txtAmount")->text(), QStringLiteral("95,000"));
+    EXPECT_EQ(child<QLabel>(dialog, "lblCompanyName")->text(), QStringLiteral("رضا"));
+    ASSERT_EQ(child<QComboBox>(dialog, "cmbPaymentKind")->count(), 3);
 
     // A bank account shows its terminal.
     chooseAccount(dialog, 21);
-    EXPECT_TRUE(dialog.lblPosId->text().contains(QStringLiteral("31005566")));
+    EXPECT_TRUE(child<QLabel>(dialog, "lblPosId")->text().contains(QStringLiteral("31005566")));
     chooseAccount(dialog, 22);
-    EXPECT_TRUE(dialog.lblPosId->text().isEmpty());
+    EXPECT_TRUE(child<QLabel>(dialog, "lblPosId")->text().isEmpty());
 
     // 45,000 in cash, then OK refused: 50,000 left.
     chooseAccount(dialog, 11);
-    typeAmount(dialog.txtAmount, QStringLiteral("45000"));
-    QTest::mouseClick(dialog.btnAdd, Qt::LeftButton);
-    EXPECT_EQ(dialog.txtAmount->text(), QStringLiteral("50,000"));
-    dialog.buttons->button(QDialogButtonBox::Ok)->click();
+    typeAmount(child<AmountEdit>(dialog, "txtAmount"), QStringLiteral("45000"));
+    QTest::mouseClick(child<QPushButton>(dialog, "btnAdd"), Qt::LeftButton);
+    EXPECT_EQ(child<AmountEdit>(dialog, "txtAmount")->text(), QStringLiteral("50,000"));
+    child<QDialogButtonBox>(dialog, "buttons")->button(QDialogButtonBox::Ok)->click();
     EXPECT_TRUE(dialog.isVisible());
     ASSERT_EQ(messages.messages().size(), 1);
     EXPECT_TRUE(messages.messages().first().text.startsWith(SettlementTexts::splitMismatch()));
 
     // The rest on the Mellat terminal: OK closes with both rows.
-    dialog.cmbPaymentKind->setCurrentIndex(1);
+    child<QComboBox>(dialog, "cmbPaymentKind")->setCurrentIndex(1);
     chooseAccount(dialog, 21);
-    QTest::mouseClick(dialog.btnAdd, Qt::LeftButton);
-    EXPECT_EQ(dialog.grdPayments->rowCount(), 2);
-    EXPECT_EQ(dialog.grdPayments->item(1, 2)->text(), QStringLiteral("31005566"));
-    dialog.buttons->button(QDialogButtonBox::Ok)->click();
+    QTest::mouseClick(child<QPushButton>(dialog, "btnAdd"), Qt::LeftButton);
+    EXPECT_EQ(child<QTableWidget>(dialog, "grdPayments")->rowCount(), 2);
+    EXPECT_EQ(child<QTableWidget>(dialog, "grdPayments")->item(1, 2)->text(),
+              QStringLiteral("31005566"));
+    child<QDialogButtonBox>(dialog, "buttons")->button(QDialogButtonBox::Ok)->click();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     const QList<SalePayment> rows = dialog.payments();
     ASSERT_EQ(rows.size(), 2);
@@ -173,8 +180,8 @@ TEST(frmSalePaymentTest, RunsModallyAndCancelKeepsNothing) {
     {
         DialogDriver driver(QStringLiteral("frmSalePayment"), [](QWidget* w) {
             auto* d = static_cast<frmSalePayment*>(w);
-            QTest::mouseClick(d->btnAdd, Qt::LeftButton);
-            d->buttons->button(QDialogButtonBox::Ok)->click();
+            QTest::mouseClick(child<QPushButton>(*d, "btnAdd"), Qt::LeftButton);
+            child<QDialogButtonBox>(*d, "buttons")->button(QDialogButtonBox::Ok)->click();
         });
         EXPECT_EQ(dialog.exec(), QDialog::Accepted);
     }

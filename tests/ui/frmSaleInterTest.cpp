@@ -24,6 +24,8 @@
 namespace sandogh {
 namespace {
 
+using test::child;
+
 class frmSaleInterTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -37,12 +39,12 @@ protected:
                                         "AND ISActive = 1 AND Type = 0"));
         ASSERT_FALSE(barcode.isEmpty());
         screen = std::make_unique<frmSaleInter>(app.context);
-        screen->chkPrint->setChecked(false);
+        child<QCheckBox>(*screen, "chkPrint")->setChecked(false);
         screen->show();
     }
     void scan(const QString& text) {
-        test::typeText(screen->txtBarcode, text);
-        QTest::keyClick(screen->txtBarcode, Qt::Key_Return);
+        test::typeText(child<QLineEdit>(*screen, "txtBarcode"), text);
+        QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_Return);
     }
 
     test::ScreenTestContext app;
@@ -51,26 +53,26 @@ protected:
 };
 
 TEST_F(frmSaleInterTest, RingingUpAndSavingClearsTheScreenAndShowsThePreviousInvoice) {
-    EXPECT_EQ(screen->cboBranch->count(), 1);
-    EXPECT_EQ(screen->txtNo->text(), QStringLiteral("1"));
-    EXPECT_FALSE(screen->txtAtf->isVisible());
+    EXPECT_EQ(child<QComboBox>(*screen, "cboBranch")->count(), 1);
+    EXPECT_EQ(child<QLineEdit>(*screen, "txtNo")->text(), QStringLiteral("1"));
+    EXPECT_FALSE(child<QLineEdit>(*screen, "txtAtf")->isVisible());
     scan(barcode);
     scan(QStringLiteral("4"));
-    ASSERT_EQ(screen->Grid1->model()->rowCount(), 1);
+    ASSERT_EQ(child<SaleGridView>(*screen, "Grid1")->model()->rowCount(), 1);
     const double total = screen->session().entry().total();
     EXPECT_GT(total, 0);
     EXPECT_EQ(screen->session().entry().lines().first().quantity, 4);
-    EXPECT_FALSE(screen->txtSum->text().isEmpty());
+    EXPECT_FALSE(child<QLineEdit>(*screen, "txtSum")->text().isEmpty());
 
-    QTest::mouseClick(screen->cmdSave, Qt::LeftButton);
+    QTest::mouseClick(child<QPushButton>(*screen, "cmdSave"), Qt::LeftButton);
     EXPECT_EQ(app.messages.countOf(InternalSaleTexts::noBranch()), 1);
-    EXPECT_EQ(screen->Grid1->model()->rowCount(), 1);
+    EXPECT_EQ(child<SaleGridView>(*screen, "Grid1")->model()->rowCount(), 1);
 
-    screen->cboBranch->setCurrentIndex(0);
-    QTest::keyClick(screen->txtBarcode, Qt::Key_F6);
-    EXPECT_EQ(screen->Grid1->model()->rowCount(), 0);
-    EXPECT_EQ(screen->lblPrevFactor->text(), QStringLiteral("1"));
-    EXPECT_EQ(screen->txtNo->text(), QStringLiteral("2"));
+    child<QComboBox>(*screen, "cboBranch")->setCurrentIndex(0);
+    QTest::keyClick(child<QLineEdit>(*screen, "txtBarcode"), Qt::Key_F6);
+    EXPECT_EQ(child<SaleGridView>(*screen, "Grid1")->model()->rowCount(), 0);
+    EXPECT_EQ(child<QLabel>(*screen, "lblPrevFactor")->text(), QStringLiteral("1"));
+    EXPECT_EQ(child<QLineEdit>(*screen, "txtNo")->text(), QStringLiteral("2"));
     Session s = app.context.database().session();
     EXPECT_DOUBLE_EQ(
         s.scalarNumber(QStringLiteral("SELECT DocSum FROM Whs_QTYDocHInternal WHERE Code = 1")),
@@ -79,7 +81,7 @@ TEST_F(frmSaleInterTest, RingingUpAndSavingClearsTheScreenAndShowsThePreviousInv
 
 TEST_F(frmSaleInterTest, TheEditorShowsTheSavedDocumentAndClosesOnceSaved) {
     EXPECT_EQ(frmSaleInter::editor(app.context, 1), nullptr);
-    screen->cboBranch->setCurrentIndex(0);
+    child<QComboBox>(*screen, "cboBranch")->setCurrentIndex(0);
     scan(barcode);
     ASSERT_TRUE(screen->save());
 
@@ -87,11 +89,11 @@ TEST_F(frmSaleInterTest, TheEditorShowsTheSavedDocumentAndClosesOnceSaved) {
     ASSERT_NE(editor, nullptr);
     editor->show();
     EXPECT_EQ(editor->objectName(), QStringLiteral("frmSaleInterUpdate"));
-    EXPECT_EQ(editor->txtNo->text(), QStringLiteral("1"));
-    EXPECT_EQ(editor->cboBranch->currentIndex(), 0);
-    ASSERT_EQ(editor->Grid1->model()->rowCount(), 1);
-    test::typeText(editor->txtBarcode, barcode);
-    QTest::keyClick(editor->txtBarcode, Qt::Key_Return);
+    EXPECT_EQ(child<QLineEdit>(*editor, "txtNo")->text(), QStringLiteral("1"));
+    EXPECT_EQ(child<QComboBox>(*editor, "cboBranch")->currentIndex(), 0);
+    ASSERT_EQ(child<SaleGridView>(*editor, "Grid1")->model()->rowCount(), 1);
+    test::typeText(child<QLineEdit>(*editor, "txtBarcode"), barcode);
+    QTest::keyClick(child<QLineEdit>(*editor, "txtBarcode"), Qt::Key_Return);
     EXPECT_EQ(editor->session().entry().lines().first().quantity, 2);
     EXPECT_TRUE(editor->save());
     EXPECT_FALSE(editor->isVisible());
@@ -100,11 +102,12 @@ TEST_F(frmSaleInterTest, TheEditorShowsTheSavedDocumentAndClosesOnceSaved) {
 }
 
 TEST_F(frmSaleInterTest, TheReturnSwitchShowsTheReturnedInvoiceBox) {
-    screen->chkReturn->setChecked(true);
+    child<QCheckBox>(*screen, "chkReturn")->setChecked(true);
     EXPECT_EQ(screen->session().entry().mode(), SaleMode::Return);
-    EXPECT_TRUE(screen->txtAtf->isVisible());
-    EXPECT_EQ(screen->lblCaption->text(), SaleSession::captionOf(SaleMode::Return));
-    test::typeText(screen->txtAtf, QStringLiteral("7"));
+    EXPECT_TRUE(child<QLineEdit>(*screen, "txtAtf")->isVisible());
+    EXPECT_EQ(child<QLabel>(*screen, "lblCaption")->text(),
+              SaleSession::captionOf(SaleMode::Return));
+    test::typeText(child<QLineEdit>(*screen, "txtAtf"), QStringLiteral("7"));
     EXPECT_EQ(screen->session().returnedInvoice(), QStringLiteral("7"));
 }
 

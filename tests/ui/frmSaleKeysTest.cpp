@@ -62,18 +62,18 @@ TEST_F(frmSaleKeysTest, CtrlMSwitchesBetweenSaleAndReturn) {
     EXPECT_EQ(child<QLabel>(screen(), "lblCaption")->text(), QStringLiteral("فاکتور مرجوعي فروش"));
     EXPECT_EQ(screen().windowTitle(), QStringLiteral("فاکتور مرجوعي فروش"));
     EXPECT_EQ(received->text(), QStringLiteral("مبلغ پرداخت شده :"));
-    EXPECT_TRUE(child<SaleDetailPanel>(screen(), "frmDetail")->rdoTypeReturn->isChecked());
+    EXPECT_TRUE(child<QRadioButton>(screen(), "rdoType1")->isChecked());
 
     press(Qt::Key_M, Qt::ControlModifier);
     EXPECT_EQ(child<QLabel>(screen(), "lblCaption")->text(), QStringLiteral("فاکتور فروش"));
-    EXPECT_TRUE(child<SaleDetailPanel>(screen(), "frmDetail")->rdoTypeSale->isChecked());
+    EXPECT_TRUE(child<QRadioButton>(screen(), "rdoType0")->isChecked());
 }
 
 TEST_F(frmSaleKeysTest, EscapeClosesTheDetailPanelFirstThenStartsANewSale) {
     ringUpTwoLines();
     QTest::mouseClick(child<QPushButton>(screen(), "btnDetail"), Qt::LeftButton);
     ASSERT_TRUE(child<SaleDetailPanel>(screen(), "frmDetail")->isVisible());
-    child<SaleDetailPanel>(screen(), "frmDetail")->txtNote->setFocus();
+    child<QLineEdit>(screen(), "txtNote")->setFocus();
 
     press(Qt::Key_Escape);
     EXPECT_FALSE(child<SaleDetailPanel>(screen(), "frmDetail")->isVisible());

@@ -64,7 +64,7 @@ TEST_F(frmSalePanelsTest, FavouriteTabsShowTheirGoodsAndADoubleClickRingsUp) {
     EXPECT_DOUBLE_EQ(quantityOf(0), 2);
     EXPECT_TRUE(barcodeHasFocus());
 
-    panel->tabFavourites->setCurrentIndex(1);
+    child<QTabBar>(*panel, "tabFavourites")->setCurrentIndex(1);
     ASSERT_EQ(grid->rowCount(), 1);
     EXPECT_EQ(grid->item(0, SaleFavouritesPanel::ColBarcode)->text(), QStringLiteral("7003"));
 }
@@ -76,29 +76,30 @@ TEST_F(frmSalePanelsTest, CustomerSearchEnterSearchesArrowsMove) {
     openScreen();
     SaleCustomerPanel* panel = screen().customerPanel();
     press(Qt::Key_S, Qt::ControlModifier);
-    ASSERT_TRUE(panel->txtAccountSearch->hasFocus());
-    panel->txtAccountSearch->setText(QStringLiteral("علی"));
+    ASSERT_TRUE(child<QLineEdit>(*panel, "txtAccountSearch")->hasFocus());
+    child<QLineEdit>(*panel, "txtAccountSearch")->setText(QStringLiteral("علی"));
 
-    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
+    QTest::keyClick(child<QLineEdit>(*panel, "txtAccountSearch"), Qt::Key_Return);
 
-    ASSERT_EQ(panel->lstCustomers->count(), 2);
+    ASSERT_EQ(child<QListWidget>(*panel, "lstCustomers")->count(), 2);
     EXPECT_EQ(screen().session().CompanyId(), 11);
-    EXPECT_EQ(panel->txtCustomerName->text(), QStringLiteral("علی رضایی"));
-    EXPECT_EQ(panel->txtAccount->text(), QStringLiteral("1011"));
-    EXPECT_TRUE(panel->lblCredit->text().startsWith(SaleTexts::customerBalance()));
+    EXPECT_EQ(child<QLineEdit>(*panel, "txtCustomerName")->text(), QStringLiteral("علی رضایی"));
+    EXPECT_EQ(child<QLineEdit>(*panel, "txtAccount")->text(), QStringLiteral("1011"));
+    EXPECT_TRUE(
+        child<QLabel>(*panel, "lblCredit")->text().startsWith(SaleTexts::customerBalance()));
 
     // The arrows move in the results found; they do not search the box's new text.
-    panel->txtAccountSearch->setText(QStringLiteral("مریم"));
-    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Down);
+    child<QLineEdit>(*panel, "txtAccountSearch")->setText(QStringLiteral("مریم"));
+    QTest::keyClick(child<QLineEdit>(*panel, "txtAccountSearch"), Qt::Key_Down);
     EXPECT_EQ(screen().session().CompanyId(), 12);
-    EXPECT_EQ(panel->txtCustomerName->text(), QStringLiteral("علی کریمی"));
-    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Down);
+    EXPECT_EQ(child<QLineEdit>(*panel, "txtCustomerName")->text(), QStringLiteral("علی کریمی"));
+    QTest::keyClick(child<QLineEdit>(*panel, "txtAccountSearch"), Qt::Key_Down);
     EXPECT_EQ(screen().session().CompanyId(), 12);
-    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Up);
+    QTest::keyClick(child<QLineEdit>(*panel, "txtAccountSearch"), Qt::Key_Up);
     EXPECT_EQ(screen().session().CompanyId(), 11);
-    EXPECT_EQ(panel->lstCustomers->currentRow(), 0);
+    EXPECT_EQ(child<QListWidget>(*panel, "lstCustomers")->currentRow(), 0);
 
-    QTest::keyClick(panel->txtAccountSearch, Qt::Key_Return);
+    QTest::keyClick(child<QLineEdit>(*panel, "txtAccountSearch"), Qt::Key_Return);
     EXPECT_EQ(screen().session().CompanyId(), 13);
 }
 
@@ -117,11 +118,11 @@ TEST_F(frmSalePanelsTest, OnA768PixelScreenFavouritesAndCustomerResultsEachShowF
     // The customer key brings the customer page to the front and its five result rows.
     press(Qt::Key_S, Qt::ControlModifier);
     SaleCustomerPanel* panel = screen().customerPanel();
-    ASSERT_TRUE(panel->txtAccountSearch->hasFocus());
+    ASSERT_TRUE(child<QLineEdit>(*panel, "txtAccountSearch")->hasFocus());
     EXPECT_TRUE(side->currentWidget()->isAncestorOf(panel));
-    panel->lstCustomers->addItem(QStringLiteral("x"));
-    EXPECT_GE(panel->lstCustomers->viewport()->height(),
-              5 * panel->lstCustomers->sizeHintForRow(0));
+    child<QListWidget>(*panel, "lstCustomers")->addItem(QStringLiteral("x"));
+    EXPECT_GE(child<QListWidget>(*panel, "lstCustomers")->viewport()->height(),
+              5 * child<QListWidget>(*panel, "lstCustomers")->sizeHintForRow(0));
     EXPECT_LE(panel->width(), side->width());
 }
 

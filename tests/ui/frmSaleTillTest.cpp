@@ -38,9 +38,9 @@ protected:
         QStringList listed;
         DialogDriver driver(QStringLiteral("frmGoodsSearch"), [&](QWidget* dialog) {
             auto* search = qobject_cast<frmGoodsSearch*>(dialog);
-            typeText(search->txtSearch, typed);
-            for (int r = 0; r < search->grdGoods->rowCount(); ++r) {
-                listed << search->grdGoods->item(r, 1)->text();
+            typeText(child<QLineEdit>(*search, "txtSearch"), typed);
+            for (int r = 0; r < child<QTableWidget>(*search, "grdGoods")->rowCount(); ++r) {
+                listed << child<QTableWidget>(*search, "grdGoods")->item(r, 1)->text();
             }
             act(search);
         });
@@ -55,7 +55,9 @@ TEST_F(frmSaleTillTest, TheGoodsSearchOpensByKeyOrButtonAndEnterAddsTheChosenArt
     openScreen();
     QStringList listed =
         searchWith([this] { press(Qt::Key_L, Qt::ControlModifier); }, QStringLiteral("ممتاز"),
-                   [](frmGoodsSearch* s) { QTest::keyClick(s->txtSearch, Qt::Key_Return); });
+                   [](frmGoodsSearch* s) {
+                       QTest::keyClick(child<QLineEdit>(*s, "txtSearch"), Qt::Key_Return);
+                   });
     EXPECT_EQ(listed, QStringList{QStringLiteral("چای سبز ممتاز گلستان")});
     ASSERT_EQ(lineCount(), 1);
     EXPECT_TRUE(barcodeHasFocus());
@@ -66,15 +68,17 @@ TEST_F(frmSaleTillTest, TheGoodsSearchOpensByKeyOrButtonAndEnterAddsTheChosenArt
         },
         QStringLiteral("چای"),
         [](frmGoodsSearch* s) {
-            QTest::keyClick(s->txtSearch, Qt::Key_Down);
-            QTest::keyClick(s->txtSearch, Qt::Key_Enter);
+            QTest::keyClick(child<QLineEdit>(*s, "txtSearch"), Qt::Key_Down);
+            QTest::keyClick(child<QLineEdit>(*s, "txtSearch"), Qt::Key_Enter);
         });
     EXPECT_EQ(listed.size(), 2);
     ASSERT_EQ(lineCount(), 2);
     EXPECT_EQ(screen().session().linesModel().line(1).barcode, QStringLiteral("6260002"));
 
     searchWith([this] { press(Qt::Key_L, Qt::ControlModifier); }, QStringLiteral("برنج"),
-               [](frmGoodsSearch* s) { QTest::keyClick(s->txtSearch, Qt::Key_Escape); });
+               [](frmGoodsSearch* s) {
+                   QTest::keyClick(child<QLineEdit>(*s, "txtSearch"), Qt::Key_Escape);
+               });
     EXPECT_EQ(lineCount(), 2);
     EXPECT_TRUE(barcodeHasFocus());
 }

@@ -36,6 +36,10 @@ public:
     // btnCustomerDetail and Ctrl+H: the customer's purchases, balance and net sales.
     void showSummary();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
     QLineEdit* txtAccountSearch;
     QComboBox* cmbSearchKind;
     QPushButton* cmdCustomerSearch;
@@ -45,10 +49,6 @@ public:
     QLabel* lblCredit;
     QPushButton* btnCustomerDetail;
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-private:
     void buildLayout();
     void moveTo(int index);
     void showCustomer();

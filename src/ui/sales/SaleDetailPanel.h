@@ -39,6 +39,7 @@ public:
     // Fills the payment kind, the return cause and the note of a settlement.
     void fillSettlement(SaleSettlement& settlement) const;
 
+private:
     QButtonGroup* rdoType;
     QRadioButton* rdoTypeSale;
     QRadioButton* rdoTypeReturn;
@@ -51,7 +52,6 @@ public:
     JalaliDateEdit* txtDate;
     QLineEdit* txtNote;
 
-private:
     void buildLayout();
     void showMode(SaleMode mode);
     void chooseFirstPaymentKind();

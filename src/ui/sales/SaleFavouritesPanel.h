@@ -38,13 +38,13 @@ public:
     static QList<int> parseColumnOrder(const QString& text);
     void applyColumnOrder(const QList<int>& order);
 
-    QTabBar* tabFavourites;
-    QTableWidget* dgGoods;
-
 signals:
     void goodsChosen(const QString& barcode);
 
 private:
+    QTabBar* tabFavourites;
+    QTableWidget* dgGoods;
+
     void loadTabs();
     void chooseRow(int row);
     void onSectionMoved();

@@ -260,6 +260,30 @@ bool SaleTotalsPanel::chooseDiscountKind(int id) {
     return true;
 }
 
+void SaleTotalsPanel::focusBox(Box box) {
+    AmountEdit* edit = txtSumReceived;
+    switch (box) {
+        case Box::Payable:
+            break;
+        case Box::HandedOver:
+            edit = txtReceivedPrice;
+            break;
+        case Box::Discount:
+            edit = txtDiscount;
+            break;
+        case Box::Overhead:
+            edit = txtOther;
+            break;
+    }
+    // Focused as by a click, so that only Ctrl+J selects the text.
+    edit->setFocus(Qt::OtherFocusReason);
+    if (box == Box::Discount) {
+        edit->selectAll();
+    } else {
+        edit->deselect();
+    }
+}
+
 void SaleTotalsPanel::applyDiscountPercent() {
     if (!txtDiscount->isEnabled()) {
         return;

@@ -67,11 +67,18 @@ public:
     // Chooses a discount kind by its Id; false when the list has no such kind.
     bool chooseDiscountKind(int id);
 
+    // The boxes a key of the sale screen jumps to.
+    enum class Box { Payable, HandedOver, Discount, Overhead };
+    // Focuses a box as a click would; only the discount's text is selected, ready to be
+    // typed over.
+    void focusBox(Box box);
+
     // DiscountButton: the percent of txtDiscountPercent applied to the total.
     void applyDiscountPercent();
     // txtSumReceived, txtReturn and lblReturnCalculator from the other boxes.
     void recompute();
 
+private:
     AmountEdit* txtSum;
     AmountEdit* txtDiscountPercent;
     AmountEdit* txtDiscount;
@@ -85,7 +92,6 @@ public:
     QLabel* lblReturnCalculator;
     QPushButton* DiscountButton;
 
-private:
     void buildLayout();
     static void fillKinds(QComboBox* combo, const QList<SaleScreenLists::Item>& kinds);
 

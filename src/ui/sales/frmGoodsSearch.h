@@ -31,14 +31,14 @@ public:
     // The barcode of the chosen row; empty without one.
     QString chosenBarcode() const;
 
-    QLineEdit* txtSearch;
-    QTableWidget* grdGoods;
-    QLabel* lblStatus;
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QLineEdit* txtSearch;
+    QTableWidget* grdGoods;
+    QLabel* lblStatus;
+
     void moveRow(int step);
     void choose();
 

@@ -405,16 +405,16 @@ void frmSale::runCommand(const SaleKeyBinding& binding) {
             emit deleteInvoiceRequested();
             break;
         case SaleCommand::FocusSumReceived:
-            focusAmount(m_totals->txtSumReceived, false);
+            m_totals->focusBox(SaleTotalsPanel::Box::Payable);
             break;
         case SaleCommand::FocusReceivedPrice:
-            focusAmount(m_totals->txtReceivedPrice, false);
+            m_totals->focusBox(SaleTotalsPanel::Box::HandedOver);
             break;
         case SaleCommand::FocusDiscount:
-            focusAmount(m_totals->txtDiscount, true);
+            m_totals->focusBox(SaleTotalsPanel::Box::Discount);
             break;
         case SaleCommand::FocusOther:
-            focusAmount(m_totals->txtOther, false);
+            m_totals->focusBox(SaleTotalsPanel::Box::Overhead);
             break;
         case SaleCommand::CustomerSummary:
             m_customer->showSummary();
@@ -560,16 +560,6 @@ void frmSale::showEntryOutcome(const QString& text, bool notFound) {
 
 void frmSale::focusBarcode() {
     txtBarcode->setFocus(Qt::OtherFocusReason);
-}
-
-void frmSale::focusAmount(QLineEdit* box, bool selectText) {
-    // Focused as by a click, so that only Ctrl+J selects the text.
-    box->setFocus(Qt::OtherFocusReason);
-    if (selectText) {
-        box->selectAll();
-    } else {
-        box->deselect();
-    }
 }
 
 void frmSale::showMode() {

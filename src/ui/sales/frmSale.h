@@ -158,7 +158,6 @@ private:
     void showProfit();
     void readWeight();
     void focusBarcode();
-    void focusAmount(QLineEdit* box, bool selectText);
     void showMode();
     void showEntryOutcome(const QString& text, bool notFound);
     void leave();

@@ -42,6 +42,11 @@ public:
     // cmdSave: true when the sale was saved and the screen cleared.
     bool save();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
     QLabel* lblCaption;
     QComboBox* cboBranch;
     QLineEdit* txtNo;
@@ -61,11 +66,6 @@ public:
     QPushButton* cmdDel;
     QPushButton* cmdExit;
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
-
-private:
     void buildControls();
     void buildLayout();
     void loadBranches();

@@ -95,6 +95,7 @@ frmSalePayment::frmSalePayment(QList<AccountChoice> accounts, MessageService& me
     connect(cmbAccount, &QComboBox::currentIndexChanged, this, [this] { showPosId(); });
     connect(btnAdd, &QPushButton::clicked, this, [this] { addEnteredRow(); });
     connect(btnDelete, &QPushButton::clicked, this, [this] { deleteCurrentRow(); });
+    buttons->setObjectName(QStringLiteral("buttons"));
     connect(buttons, &QDialogButtonBox::accepted, this, &frmSalePayment::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 

@@ -55,6 +55,10 @@ public:
     bool addRow(SalePayment::Kind kind, int accountingGroupId, double amount);
     QList<SalePayment> payments() const { return m_payments; }
 
+public slots:
+    void accept() override;
+
+private:
     QComboBox* cmbPaymentKind;
     QComboBox* cmbAccount;
     AmountEdit* txtAmount;
@@ -67,10 +71,6 @@ public:
     QLabel* lblRemaining;
     QDialogButtonBox* buttons;
 
-public slots:
-    void accept() override;
-
-private:
     void addEnteredRow();
     void deleteCurrentRow();
     void showPosId();

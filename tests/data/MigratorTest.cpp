@@ -188,39 +188,6 @@ TEST_P(MigratorTest, RowsSurviveALaterForeignKeyWhichIsThenEnforced) {
         s.scalarInt64(QStringLiteral("SELECT ID FROM Stations WHERE Station_Name = 'Second'")), 1);
 }
 
-TEST_P(MigratorTest, AFailingStepLeavesNothingOfItself) {
-    Migrator migrator(db());
-    ASSERT_TRUE(migrator.apply(testSteps()).ok);
-    const auto tablesBefore = [&] {
-        Session s = db().session();
-        return SchemaReader::tables(s);
-    }();
-    ASSERT_TRUE(tablesBefore.contains(QStringLiteral("doch")));
-    QList<MigrationStep> steps = testSteps();
-    MigrationStep broken;
-    broken.version = 4;
-    broken.description = QStringLiteral("broken");
-    broken.tables = {{QStringLiteral("Half"), {column("Id", ColumnType::Int)}, {}, {}}};
-    broken.addColumns = {{QStringLiteral("DocH"), column("Extra", ColumnType::Int), {}}};
-    broken.seedStatements = {QStringLiteral("INSERT INTO NoSuchTable (Id) VALUES (1)")};
-    steps << broken;
-
-    const Migrator::Result result = migrator.apply(steps);
-    EXPECT_FALSE(result.ok);
-    EXPECT_TRUE(result.message.contains(QStringLiteral("step 4"))) << result.message.toStdString();
-    EXPECT_EQ(result.versionAfter, 3);
-    EXPECT_EQ(migrator.currentVersion(), 3);
-    Session s = db().session();
-    EXPECT_EQ(SchemaReader::tables(s), tablesBefore);  // no Half, no DocH.Extra
-}
-
-TEST_P(MigratorTest, TheShopCatalogueApplies) {
-    const Migrator::Result result = Migrator(db()).apply(shopMigrations());
-    ASSERT_TRUE(result.ok) << result.message.toStdString();
-    EXPECT_EQ(result.versionAfter, shopMigrations().last().version);
-    EXPECT_TRUE(Migrator(db()).apply(shopMigrations()).applied.isEmpty());
-}
-
 SANDOGH_INSTANTIATE_BACKENDS(MigratorTest);
 
 // Every backend reads back the same tables and columns after the same steps.

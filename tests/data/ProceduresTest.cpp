@@ -1,5 +1,5 @@
-// The row procedures: vouchers and their postings, the card terminal record, gift card
-// rows and movements, serial numbers, accounts, and reading single rows back.
+// The row procedures: vouchers and their postings, gift card rows and movements, serial
+// numbers, and reading single rows back (the card terminal record: the devices suite).
 
 #include "ShopFixture.h"
 #include "data/procedures/PaymentProcedures.h"
@@ -69,30 +69,6 @@ TEST_P(ProceduresTest, PostingsAreWrittenAndDeletedWithTheirVoucher) {
     ASSERT_TRUE(sp_tblDocumentH_DeleteRow(s, h.id));
     EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM tblDocumentD")), 0);
     EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM tblDocumentH")), 0);
-}
-
-TEST_P(ProceduresTest, ACardTerminalPaymentIsRecordedWithItsParameters) {
-    Session s = session();
-    PosPayment p;
-    p.docNo = 3000000123LL;
-    p.dateTime = QStringLiteral("1404/01/05 - 12:30");
-    p.paymentAmount = 1250000;
-    p.errorDiscription = QStringLiteral("فرم ثبت فاکتور");
-    const qint64 first = sp_POS_Insert(s, p);
-    const qint64 second = sp_POS_Insert(s, p);
-    ASSERT_GT(first, 0);
-    EXPECT_EQ(second, first + 1);
-    SqlQuery q(s, QStringLiteral("SELECT MerchantId, TerminalId, DocNo, DateTime, TranType, "
-                                 "PaymentAmount, PRN, Stan, ErrorCode, ErrorDiscription, PosId "
-                                 "FROM tblPOS WHERE ID = :id"));
-    q.bind(QStringLiteral(":id"), first);
-    ASSERT_TRUE(q.exec() && q.next());
-    EXPECT_EQ(q.int64(0), 0);
-    EXPECT_EQ(q.int64(2), 3000000123LL);
-    EXPECT_EQ(q.text(3), p.dateTime);
-    EXPECT_EQ(q.integer(4), 2);
-    EXPECT_DOUBLE_EQ(q.number(5), 1250000);
-    EXPECT_EQ(q.text(9), p.errorDiscription);
 }
 
 TEST_P(ProceduresTest, TheNewestChargeRowOfACardIsSelected) {

@@ -51,19 +51,14 @@ TEST_P(PurchasePricesTest, PricesComeFromOrdinaryPurchasesOnly) {
     EXPECT_DOUBLE_EQ(procedures::sp_tblWhs_QTYDocD_GetLastBuyPrice(s, kMilk), 36000);
 }
 
-TEST_P(PurchasePricesTest, AZeroTotalQuantityDividesByOne) {
-    addGoods(kMilk);
-    addDocument(kPurchase, QStringLiteral("1"), {{kMilk, 3, 100, 300}});
-    addDocument(kPurchase, QStringLiteral("2"), {{kMilk, -3, 100, 250}});
+// A zero total quantity divides by one; whole amounts are not divided as integers.
+TEST_P(PurchasePricesTest, AveragesDivideAsDecimalsAndNeverByZero) {
+    const QString tea = QStringLiteral("T");
+    addDocument(kPurchase, QStringLiteral("1"), {{kMilk, 3, 100, 300}, {tea, 3, 333, 1000}});
+    addDocument(kPurchase, QStringLiteral("2"), {{kMilk, -3, 100, 250}, {tea, 1, 334, 334}});
     EXPECT_DOUBLE_EQ(prices().averagePurchasePrice(kMilk), 550);
-}
-
-TEST_P(PurchasePricesTest, WholeAmountsAreNotDividedAsIntegers) {
-    addGoods(kMilk);
-    addDocument(kPurchase, QStringLiteral("1"), {{kMilk, 3, 333, 1000}});
-    EXPECT_NEAR(prices().averagePurchasePrice(kMilk), 1000.0 / 3.0, 1e-6);
-    addDocument(kPurchase, QStringLiteral("2"), {{kMilk, 1, 334, 334}});
-    EXPECT_DOUBLE_EQ(prices().averageFee(kMilk), 333.5);
+    EXPECT_DOUBLE_EQ(prices().averagePurchasePrice(tea), 333.5);
+    EXPECT_DOUBLE_EQ(prices().averageFee(tea), 333.5);
 }
 
 TEST_P(PurchasePricesTest, TheNewestDocumentGivesTheLastPrice) {

@@ -1,5 +1,6 @@
-// Applying migration steps: idempotent, recorded, each step all or nothing, and the
-// same tables and columns on every backend.
+// Applying migration steps: idempotent, recorded, each step all or nothing (in the vendors'
+// databases too), the vendors' tables of an earlier shop kept, a newer schema refused
+// untouched, and the same tables and columns on every backend.
 
 #include <gtest/gtest.h>
 
@@ -26,8 +27,8 @@ ColumnDef identity(const char* name) {
 }
 
 // Three steps as a catalogue would write them: tables with identity, defaults and a
-// foreign key, a table of a vendor's database, then added columns, an index, and a
-// foreign key declared after its table was created.
+// foreign key, a table of a vendor's database with its index, then added columns, an
+// index, and a foreign key declared after its table was created.
 QList<MigrationStep> testSteps() {
     MigrationStep one;
     one.version = 1;
@@ -57,7 +58,12 @@ QList<MigrationStep> testSteps() {
                     QStringLiteral("Stations"),
                     {QStringLiteral("Station_Name")},
                     true,
-                    {}}};
+                    {}},
+                   {QStringLiteral("IX_Plu_Name"),
+                    QStringLiteral("Plu"),
+                    {QStringLiteral("Name")},
+                    false,
+                    QStringLiteral("MizanNet")}};
     one.seedStatements = {QStringLiteral("INSERT INTO Stations (Station_Name) VALUES ('Main')")};
 
     MigrationStep two;
@@ -80,12 +86,7 @@ QList<MigrationStep> testSteps() {
                     QStringLiteral("DocH"),
                     {QStringLiteral("DocDate")},
                     false,
-                    {}},
-                   {QStringLiteral("IX_Plu_Name"),
-                    QStringLiteral("Plu"),
-                    {QStringLiteral("Name")},
-                    false,
-                    QStringLiteral("MizanNet")}};
+                    {}}};
 
     MigrationStep three;
     three.version = 3;
@@ -104,12 +105,20 @@ QList<MigrationStep> testSteps() {
     return {one, two, three};
 }
 
+const QString kVendor = QStringLiteral("MizanNet");
+
 class MigratorTest : public test::BackendTest {
 protected:
     qint64 count(const QString& sql) {
         Session s = db().session();
         return s.scalarInt64(sql, {}, -1);
     }
+    // The tables and columns of the shop's database and of the vendor's.
+    QList<QMap<QString, QStringList>> schema() {
+        Session s = db().session();
+        return {SchemaReader::tables(s), SchemaReader::tables(s, kVendor)};
+    }
+    QString plu() { return db().dialect().table(QStringLiteral("Plu"), kVendor); }
 };
 
 TEST_P(MigratorTest, AppliesEveryStepOnceAndRecordsIt) {
@@ -147,18 +156,14 @@ TEST_P(MigratorTest, RowsSurviveALaterForeignKeyWhichIsThenEnforced) {
             s.exec(QStringLiteral("INSERT INTO DocH (Code, DocNo, StationID, DocDate) "
                                   "VALUES (1, '1', 1, '1404/01/05')")));
         ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO DocD (Code, EAN_Code) VALUES (1, '626')")));
-        ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (7, 'x')")
-                       .arg(s.dialect().table(QStringLiteral("Plu"), QStringLiteral("MizanNet")))));
+        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (7, 'x')").arg(plu())));
     }
     ASSERT_TRUE(migrator.apply(testSteps()).ok);
     Session s = db().session();
     EXPECT_EQ(s.scalarText(QStringLiteral("SELECT DocDate FROM DocH WHERE Code = 1")),
               QStringLiteral("1404/01/05"));
     EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM DocD")), 1);
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM ") +
-                           s.dialect().table(QStringLiteral("Plu"), QStringLiteral("MizanNet"))),
-              QStringLiteral("x"));
+    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM ") + plu()), QStringLiteral("x"));
     const struct {
         const char* what;
         QString sql;
@@ -186,6 +191,73 @@ TEST_P(MigratorTest, RowsSurviveALaterForeignKeyWhichIsThenEnforced) {
     EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(DISTINCT ID) FROM Stations")), 2);
     EXPECT_GT(
         s.scalarInt64(QStringLiteral("SELECT ID FROM Stations WHERE Station_Name = 'Second'")), 1);
+}
+
+// The vendor's table (and its index) as an earlier shop or the vendor's own program left
+// it, without any record of steps: kept with its rows, and the steps go on around it.
+TEST_P(MigratorTest, TheVendorsTablesOfAnEarlierShopAreKeptAsTheyAre) {
+    MigrationStep earlier;
+    earlier.version = 1;
+    earlier.tables = {testSteps()[0].tables.last()};
+    earlier.indexes = {testSteps()[0].indexes.last()};
+    ASSERT_TRUE(Migrator(db()).apply({earlier}).ok);
+    {
+        Session s = db().session();
+        ASSERT_TRUE(
+            s.exec(QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (7, 'Cheese')").arg(plu())));
+        ASSERT_TRUE(s.exec(QStringLiteral("DROP TABLE SchemaVersion")));
+    }
+    const Migrator::Result result = Migrator(db()).apply(testSteps());
+    ASSERT_TRUE(result.ok) << result.message.toStdString();
+    EXPECT_EQ(result.versionAfter, 3);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM ") + plu()), 1);
+}
+
+// Neither its tables, nor the columns it adds to earlier ones, in the shop's database or
+// the vendor's; mended, it applies.
+TEST_P(MigratorTest, AFailingStepLeavesNothingOfItselfAnywhere) {
+    Migrator migrator(db());
+    ASSERT_TRUE(migrator.apply(testSteps()).ok);
+    const auto before = schema();
+    ASSERT_TRUE(before[0].contains(QStringLiteral("doch")));
+    ASSERT_TRUE(before[1].contains(QStringLiteral("plu")));
+    QList<MigrationStep> steps = testSteps();
+    MigrationStep broken;
+    broken.version = 4;
+    broken.description = QStringLiteral("broken");
+    broken.tables = {{QStringLiteral("Half"), {column("Id", ColumnType::Int)}, {}, {}},
+                     {QStringLiteral("Scale"), {column("Id", ColumnType::Int)}, {}, kVendor}};
+    broken.addColumns = {{QStringLiteral("DocH"), column("Extra", ColumnType::Int), {}},
+                         {QStringLiteral("Plu"), column("Extra", ColumnType::Int), kVendor}};
+    broken.seedStatements = {QStringLiteral("INSERT INTO NoSuchTable (Id) VALUES (1)")};
+    steps << broken;
+
+    const Migrator::Result result = migrator.apply(steps);
+    EXPECT_FALSE(result.ok);
+    EXPECT_TRUE(result.message.contains(QStringLiteral("step 4"))) << result.message.toStdString();
+    EXPECT_EQ(result.versionAfter, 3);
+    EXPECT_EQ(migrator.currentVersion(), 3);
+    EXPECT_EQ(schema(), before);
+    steps.last().seedStatements.clear();
+    EXPECT_TRUE(migrator.apply(steps).ok);
+    EXPECT_NE(schema(), before);
+}
+
+TEST_P(MigratorTest, ASchemaNewerThanTheStepsIsRefusedUntouched) {
+    Migrator migrator(db());
+    ASSERT_TRUE(migrator.apply(testSteps().mid(0, 1)).ok);
+    {
+        Session s = db().session();
+        ASSERT_TRUE(s.exec(
+            QStringLiteral("INSERT INTO SchemaVersion (Version, Description) VALUES (9, 'x')")));
+    }
+    const auto before = schema();
+    const Migrator::Result result = migrator.apply(testSteps());
+    EXPECT_FALSE(result.ok);
+    EXPECT_TRUE(result.newerSchema);
+    EXPECT_TRUE(result.message.startsWith(Migrator::newerSchemaMessage()));
+    EXPECT_TRUE(result.applied.isEmpty());
+    EXPECT_EQ(schema(), before);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(MigratorTest);

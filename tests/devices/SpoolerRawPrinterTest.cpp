@@ -59,6 +59,19 @@ TEST_F(SpoolerOnLocalCups, DrawerKickArrivesAtTheDefaultPrinter) {
     EXPECT_TRUE(launcher.calls.isEmpty());
 }
 
+TEST_F(SpoolerOnLocalCups, ALongBinaryJobArrivesUnchangedUnderItsTitle) {
+    const QString out = server.addFileQueue(QStringLiteral("receipt"), true);
+    ASSERT_FALSE(out.isEmpty());
+    QByteArray job;
+    for (int i = 0; i < 40000; ++i) {
+        job.append(static_cast<char>(i * 7 % 256));
+    }
+    ASSERT_TRUE(SpoolerRawPrinter().printRaw(QStringLiteral("Receipt 12"), job));
+    ASSERT_TRUE(waitUntil([&] { return contents(out).size() >= job.size(); }, 20000));
+    EXPECT_EQ(contents(out), job);
+    EXPECT_EQ(server.lastJobTitle(QStringLiteral("receipt")), QStringLiteral("Receipt 12"));
+}
+
 TEST_F(SpoolerOnLocalCups, NoDefaultPrinterShowsTheMessage) {
     const QString out = server.addFileQueue(QStringLiteral("labels"), false);
     ASSERT_FALSE(out.isEmpty());

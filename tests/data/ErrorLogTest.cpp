@@ -31,15 +31,16 @@ protected:
                  QStringLiteral("1.2.3")};
 };
 
-TEST_F(ErrorLogTest, TwoRecordsAreTwoQuotedValuesExactly) {
+// Each record is appended as one quoted value (Persian intact), and its first three lines
+// are shown as a critical message.
+TEST_F(ErrorLogTest, TwoRecordsAreTwoQuotedValuesExactlyAndEachIsShown) {
     log.LogError(
         {QStringLiteral("53"), QStringLiteral("File not found"), QStringLiteral("Sandogh")},
         QStringLiteral("MainModule"), QStringLiteral("LoadPrimary"));
     log.setUserName(QStringLiteral("ali"));
     clock.set(QDateTime(QDate(2025, 4, 2), QTime(17, 30, 5)));
-    log.LogError(
-        {QStringLiteral("23505"), QStringLiteral("duplicate key"), QStringLiteral("QPSQL")},
-        QStringLiteral("frmSale"), QStringLiteral("SaveSale"));
+    log.LogError({QStringLiteral("23505"), QStringLiteral("کلید تکراری"), QStringLiteral("QPSQL")},
+                 QStringLiteral("frmSale"), QStringLiteral("SaveSale"));
 
     const QByteArray expected =
         "\"ErrNumber : 53\r\n"
@@ -53,7 +54,7 @@ TEST_F(ErrorLogTest, TwoRecordsAreTwoQuotedValuesExactly) {
         "*----------------------------------------------*\r\n"
         "\"\r\n"
         "\"ErrNumber : 23505\r\n"
-        "ErrDescription : duplicate key\r\n"
+        "ErrDescription : کلید تکراری\r\n"
         "ErrSource : QPSQL\r\n"
         "RoutineName : SaveSale\r\n"
         "Module : frmSale  \r\n"
@@ -63,20 +64,13 @@ TEST_F(ErrorLogTest, TwoRecordsAreTwoQuotedValuesExactly) {
         "*----------------------------------------------*\r\n"
         "\"\r\n";
     EXPECT_EQ(readAll(log.filePath()), expected);
-}
-
-TEST_F(ErrorLogTest, ShowsTheFirstThreeLinesAsACriticalMessage) {
-    log.LogError({QStringLiteral("5"), QStringLiteral("بد"), QStringLiteral("src")},
-                 QStringLiteral("m"), QStringLiteral("r"));
-    ASSERT_EQ(messages.count(), 1);
-    const auto shown = messages.messages().first();
+    ASSERT_EQ(messages.count(), 2);
+    const auto shown = messages.messages().last();
     EXPECT_EQ(shown.text,
-              QStringLiteral("ErrNumber : 5\r\nErrDescription : بد\r\nErrSource : src\r\n"));
+              QStringLiteral(
+                  "ErrNumber : 23505\r\nErrDescription : کلید تکراری\r\nErrSource : QPSQL\r\n"));
     EXPECT_EQ(shown.style, MessageStyle::Critical);
     EXPECT_EQ(shown.title, warningTitle());
-    // Persian descriptions reach the file intact.
-    EXPECT_TRUE(QString::fromUtf8(readAll(log.filePath()))
-                    .contains(QStringLiteral("ErrDescription : بد\r\n")));
 }
 
 // ErrTime's third field is the day of the month, whatever the date and time.

@@ -61,9 +61,6 @@ TEST(SqlitePool, ConnectionsEnforceForeignKeysAndWaitForWriters) {
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA foreign_keys")), 1);
     EXPECT_EQ(s.scalarText(QStringLiteral("PRAGMA journal_mode")), QStringLiteral("wal"));
     EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA synchronous")), 2);  // FULL
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA cache_size")), -65536);
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA temp_store")), 2);  // MEMORY
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("PRAGMA mmap_size")), 1073741824);
 
     ASSERT_TRUE(test::createTables(s, {test::probeTable()}));
     // Another desk holds the file in a write transaction for a moment: this desk's write

@@ -181,57 +181,5 @@ TEST(GoodsListQueryText, PrefixBoundsAndLikeEscapes) {
 
 SANDOGH_INSTANTIATE_BACKENDS(GoodsListQueryTest);
 
-// On SQLite the plan of every page walks an index in the order of the list: no table
-// scan, no sort of the whole table.
-class GoodsListPlan : public test::ShopBackendTest {};
-
-TEST_P(GoodsListPlan, EveryPageWalksAnIndexAndSortsNothing) {
-    struct Case {
-        Column column;
-        const char* text;
-        bool atStart;
-    };
-    const Case cases[] = {{Column::None, "", true},       {Column::None, "", false},
-                          {Column::Barcode, "626", true}, {Column::Barcode, "626", false},
-                          {Column::SpecCode, "S0", true}, {Column::SpecCode, "S0", false},
-                          {Column::Name, "juice", true},  {Column::Name, "juice", false}};
-    for (const Case& c : cases) {
-        GoodsListQuery query(db(), c.column, QString::fromLatin1(c.text));
-        Session s = db().session();
-        SqlQuery plan(s, QStringLiteral("EXPLAIN QUERY PLAN ") + query.pageSql(c.atStart, 201));
-        const QStringList names{":low",     ":high",         ":pattern",
-                                ":lastKey", ":lastKeyAgain", ":lastId"};
-        const QString sql = plan.sql();
-        for (const QString& name : names) {
-            if (sql.contains(name)) {
-                plan.bind(name, QStringLiteral("x"));
-            }
-        }
-        ASSERT_TRUE(plan.exec());
-        QStringList steps;
-        while (plan.next()) {
-            steps << plan.text(3);
-        }
-        const QString joined = steps.join(QStringLiteral(" | "));
-        EXPECT_FALSE(joined.contains(QStringLiteral("TEMP B-TREE"))) << joined.toStdString();
-        EXPECT_TRUE(joined.contains(QStringLiteral("USING INDEX")) ||
-                    joined.contains(QStringLiteral("USING COVERING INDEX")))
-            << joined.toStdString();
-        // The goods themselves are reached through an index, never scanned as a table.
-        bool goodsStep = false;
-        for (const QString& step : steps) {
-            if (step.startsWith(QStringLiteral("SCAN G ")) ||
-                step.startsWith(QStringLiteral("SEARCH G "))) {
-                goodsStep = true;
-                EXPECT_TRUE(step.contains(QStringLiteral("INDEX"))) << joined.toStdString();
-            }
-        }
-        EXPECT_TRUE(goodsStep) << joined.toStdString();
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Backends, GoodsListPlan, ::testing::Values(Backend::SQLite),
-                         test::backendParamName);
-
 }  // namespace
 }  // namespace sandogh

@@ -11,12 +11,7 @@
 #include "support/RawPrintRecorder.h"
 #include "support/RecordingMessageService.h"
 
-using sandogh::CashDrawer;
-using sandogh::DetachedProgramLauncher;
-using sandogh::DrawerConfig;
-using sandogh::MessageStyle;
-using sandogh::test::waitUntil;
-
+namespace sandogh::test {
 namespace {
 
 // The drawer opened once with a configuration, against recording stand-ins.
@@ -28,9 +23,9 @@ protected:
         CashDrawer(config, printer, launcher, messages).open();
     }
 
-    sandogh::test::RawPrintRecorder printer;
-    sandogh::test::LaunchRecorder launcher;
-    sandogh::test::RecordingMessageService messages;
+    RawPrintRecorder printer;
+    LaunchRecorder launcher;
+    RecordingMessageService messages;
 };
 
 TEST_F(CashDrawerTest, PrinterPortUsbChoosesTheKickThroughThePrinterOrTheProgram) {
@@ -114,3 +109,4 @@ TEST(DetachedProgramLauncher, StartsTheProgramWithItsArguments) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

@@ -3,12 +3,7 @@
 #include "PtyPair.h"
 #include "devices/CustomerDisplay.h"
 
-using sandogh::CustomerDisplay;
-using sandogh::DisplayConfig;
-using sandogh::GeneralPorts;
-using sandogh::GeneralPortsConfig;
-using sandogh::test::PtyPair;
-
+namespace sandogh::test {
 namespace {
 
 // MSComm1 and MSCommCustomerDisplay each on a pseudo-terminal.
@@ -143,3 +138,4 @@ TEST_F(DisplayOnPty, LeavingTheSaleScreenResetsAndCloses) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

@@ -6,10 +6,7 @@
 #include "devices/DeviceConfigs.h"
 #include "settings/QSettingsStore.h"
 
-using sandogh::DeviceConfigs;
-using sandogh::MachineSettings;
-using sandogh::QSettingsStore;
-
+namespace sandogh::test {
 namespace {
 
 // Settings kept in an INI file of a temporary folder, as a cash desk keeps them.
@@ -74,3 +71,4 @@ TEST_F(DeviceConfigsFromSettings, PortNumbersNeedTheMasterSwitch) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

@@ -8,15 +8,10 @@
 #include "devices/ScaleProgram.h"
 #include "support/LaunchRecorder.h"
 
-using sandogh::ConnectionSettings;
-using sandogh::Database;
-using sandogh::DisplayGreeting;
-using sandogh::ScaleProgram;
-using sandogh::test::LaunchRecorder;
-
+namespace sandogh::test {
 namespace {
 
-class Greeting : public sandogh::test::ShopFixture {};
+class Greeting : public ShopFixture {};
 
 TEST_P(Greeting, IsTheTextOfTheRowOrWelcomeWithoutOne) {
     EXPECT_EQ(DisplayGreeting::read(db()), QStringLiteral("Welcome"));
@@ -33,7 +28,7 @@ TEST(GreetingOffline, UnreachableDatabaseKeepsWelcomeAndShowsTheMessage) {
         QStringLiteral("Provider=PostgreSQL;Data Source=127.0.0.1,1;Initial Catalog=shop;"
                        "User ID=nobody;Password=;Persist Security Info=True;"),
         QDir::tempPath(), settings, nullptr));
-    sandogh::test::RecordingMessageService messages;
+    RecordingMessageService messages;
     Database database(settings, &messages);
     EXPECT_EQ(DisplayGreeting::read(database), QStringLiteral("Welcome"));
     EXPECT_EQ(messages.countOf(Database::connectionFailureMessage()), 1);
@@ -53,3 +48,4 @@ TEST(ArkaScale, StartsFromTheCompanionFolder) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

@@ -3,12 +3,10 @@
 #include "PtyPair.h"
 #include "devices/GeneralPorts.h"
 
-using sandogh::GeneralPorts;
-using sandogh::GeneralPortsConfig;
-using sandogh::test::PtyPair;
-using Branch = sandogh::GeneralPorts::StartupBranch;
-
+namespace sandogh::test {
 namespace {
+
+using Branch = GeneralPorts::StartupBranch;
 
 TEST(GeneralPorts, StartupTakesTheFirstBranchThatApplies) {
     const struct {
@@ -139,3 +137,4 @@ TEST_F(GeneralPortsOnPty, ClosePortSendsThreeLineEndsThroughEachPortUnlessSwitch
 }
 
 }  // namespace
+}  // namespace sandogh::test

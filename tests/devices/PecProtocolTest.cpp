@@ -4,10 +4,7 @@
 #include "devices/PecRequest.h"
 #include "devices/PecResponse.h"
 
-using sandogh::Cp1256;
-using sandogh::PecRequest;
-using sandogh::PecResponse;
-
+namespace sandogh::test {
 namespace {
 
 QByteArray hex(const QByteArray& bytes) {
@@ -170,3 +167,4 @@ TEST(PecResponse, EachRefusalHasItsMessage) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

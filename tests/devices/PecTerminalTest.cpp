@@ -9,18 +9,7 @@
 #include "support/FixedClock.h"
 #include "support/RecordingMessageService.h"
 
-using sandogh::MessageStyle;
-using sandogh::PecConfig;
-using sandogh::PecRequest;
-using sandogh::PecResponse;
-using sandogh::PecTerminal;
-using sandogh::PosPayment;
-using sandogh::test::FixedClock;
-using sandogh::test::PtyPair;
-using sandogh::test::RecordingMessageService;
-using sandogh::test::RecordingPaymentRecorder;
-using sandogh::test::waitUntil;
-
+namespace sandogh::test {
 namespace {
 
 // The terminal on the far end of a pseudo-terminal, answering what the test says.
@@ -134,3 +123,4 @@ TEST_F(PecTerminalOnPty, NoAnswerLeavesTheRequestWaiting) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

@@ -3,15 +3,10 @@
 #include "data/ShopFixture.h"
 #include "devices/ScaleExporter.h"
 
-using sandogh::ScaleExportConfig;
-using sandogh::ScaleExporter;
-using sandogh::ScaleGood;
-using sandogh::Session;
-using sandogh::SqlQuery;
-
+namespace sandogh::test {
 namespace {
 
-class ScaleExport : public sandogh::test::ShopFixture {
+class ScaleExport : public ShopFixture {
 protected:
     void SetUp() override {
         ShopFixture::SetUp();
@@ -51,7 +46,7 @@ TEST_P(ScaleExport, ANewItemGetsTheVendorsFixedValues) {
     ASSERT_TRUE(exporter.goodSaved(s, good(" 12 ", "2000012", "125,000")));
     SqlQuery q(s, QStringLiteral("SELECT ID, Code, Name1, Name2, BarCode, IranCode, Type, "
                                  "Price, ItemCode, AlterPrice, Sect, Grp, Vat, Logo FROM ") +
-                      table("Items", sandogh::kOnlineSalesDatabase));
+                      table("Items", kOnlineSalesDatabase));
     ASSERT_TRUE(q.exec() && q.next());
     EXPECT_EQ(q.integer(0), 175);
     EXPECT_EQ(q.int64(1), 12);
@@ -69,15 +64,15 @@ TEST_P(ScaleExport, ANewItemGetsTheVendorsFixedValues) {
     EXPECT_EQ(q.integer(13), 0);
     EXPECT_FALSE(q.next());
     SqlQuery key(s, QStringLiteral("SELECT ItemClassCode, PageNo, KeyNo, PluNo FROM ") +
-                        table("SADR_KeyAssignment", sandogh::kSadrDatabase));
+                        table("SADR_KeyAssignment", kSadrDatabase));
     ASSERT_TRUE(key.exec() && key.next());
     EXPECT_EQ(key.integer(0), 0);
     EXPECT_EQ(key.integer(1), 0);
     EXPECT_EQ(key.int64(2), 12);
     EXPECT_EQ(key.int64(3), 12);
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT PluUnit FROM ") +
-                            table("SADR_Item", sandogh::kSadrDatabase)),
-              1);
+    EXPECT_EQ(
+        s.scalarInt64(QStringLiteral("SELECT PluUnit FROM ") + table("SADR_Item", kSadrDatabase)),
+        1);
     EXPECT_EQ(messages().count(), 0);
 }
 
@@ -91,23 +86,23 @@ TEST_P(ScaleExport, SecondSaveUpdatesAndNeverInserts) {
     ASSERT_TRUE(exporter.goodSaved(s, changed));
     EXPECT_EQ(messages().count(), 0);
 
-    EXPECT_EQ(rows("Items", sandogh::kOnlineSalesDatabase), 1);
-    EXPECT_EQ(rows("MizanNetItem", sandogh::kMizanNetDatabase), 1);
-    EXPECT_EQ(rows("SADR_Item", sandogh::kSadrDatabase), 1);
-    EXPECT_EQ(rows("SADR_KeyAssignment", sandogh::kSadrDatabase), 1);
+    EXPECT_EQ(rows("Items", kOnlineSalesDatabase), 1);
+    EXPECT_EQ(rows("MizanNetItem", kMizanNetDatabase), 1);
+    EXPECT_EQ(rows("SADR_Item", kSadrDatabase), 1);
+    EXPECT_EQ(rows("SADR_KeyAssignment", kSadrDatabase), 1);
 
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name1 FROM ") +
-                           table("Items", sandogh::kOnlineSalesDatabase)),
-              QStringLiteral("Goat cheese"));
-    EXPECT_DOUBLE_EQ(s.scalarNumber(QStringLiteral("SELECT Price FROM ") +
-                                    table("Items", sandogh::kOnlineSalesDatabase)),
-                     110500.0);
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT Type FROM ") +
-                            table("Items", sandogh::kOnlineSalesDatabase)),
-              1);
+    EXPECT_EQ(
+        s.scalarText(QStringLiteral("SELECT Name1 FROM ") + table("Items", kOnlineSalesDatabase)),
+        QStringLiteral("Goat cheese"));
+    EXPECT_DOUBLE_EQ(
+        s.scalarNumber(QStringLiteral("SELECT Price FROM ") + table("Items", kOnlineSalesDatabase)),
+        110500.0);
+    EXPECT_EQ(
+        s.scalarInt64(QStringLiteral("SELECT Type FROM ") + table("Items", kOnlineSalesDatabase)),
+        1);
     SqlQuery mizan(s, QStringLiteral("SELECT PluNo, WeightUnit, UPrice, ItemCode, "
                                      "CommodityName FROM ") +
-                          table("MizanNetItem", sandogh::kMizanNetDatabase));
+                          table("MizanNetItem", kMizanNetDatabase));
     ASSERT_TRUE(mizan.exec() && mizan.next());
     EXPECT_EQ(mizan.int64(0), 12);
     EXPECT_EQ(mizan.integer(1), 0);
@@ -115,7 +110,7 @@ TEST_P(ScaleExport, SecondSaveUpdatesAndNeverInserts) {
     EXPECT_EQ(mizan.text(3), QStringLiteral("2000012"));
     EXPECT_EQ(mizan.text(4), QStringLiteral("Goat cheese"));
     SqlQuery sadr(s, QStringLiteral("SELECT PluNo, UnitPrice, ItemCode, PluName FROM ") +
-                         table("SADR_Item", sandogh::kSadrDatabase));
+                         table("SADR_Item", kSadrDatabase));
     ASSERT_TRUE(sadr.exec() && sadr.next());
     EXPECT_EQ(sadr.int64(0), 12);
     EXPECT_DOUBLE_EQ(sadr.number(1), 110500.0);
@@ -127,27 +122,27 @@ TEST_P(ScaleExport, MizanLooksTheGoodUpByItsBarcodeValue) {
     ScaleExporter exporter(ScaleExportConfig{false, true, false}, messages());
     // A scale item whose PLU happens to equal the barcode value of another good.
     ASSERT_TRUE(exporter.goodSaved(s, good("777", "777", "1,000")));
-    ASSERT_EQ(rows("MizanNetItem", sandogh::kMizanNetDatabase), 1);
+    ASSERT_EQ(rows("MizanNetItem", kMizanNetDatabase), 1);
     // PLU 5 with barcode 777: the existence test finds PLU 777 and the update goes
     // to PLU 5, which has no row, so nothing is added.
     ASSERT_TRUE(exporter.goodSaved(s, good("5", "777", "2,000")));
-    EXPECT_EQ(rows("MizanNetItem", sandogh::kMizanNetDatabase), 1);
+    EXPECT_EQ(rows("MizanNetItem", kMizanNetDatabase), 1);
     EXPECT_DOUBLE_EQ(s.scalarNumber(QStringLiteral("SELECT UPrice FROM ") +
-                                    table("MizanNetItem", sandogh::kMizanNetDatabase)),
+                                    table("MizanNetItem", kMizanNetDatabase)),
                      1000.0);
 }
 
 TEST_P(ScaleExport, AFailingVendorStopsTheOnesAfterIt) {
-    ASSERT_TRUE(
-        s.exec(QStringLiteral("DROP TABLE ") + table("MizanNetItem", sandogh::kMizanNetDatabase)));
+    ASSERT_TRUE(s.exec(QStringLiteral("DROP TABLE ") + table("MizanNetItem", kMizanNetDatabase)));
     ScaleExporter exporter(ScaleExportConfig{true, true, true}, messages());
     EXPECT_FALSE(exporter.goodSaved(s, good("12", "12", "5,000")));
-    EXPECT_EQ(rows("Items", sandogh::kOnlineSalesDatabase), 1);  // Takin ran before Mizan
-    EXPECT_EQ(rows("SADR_Item", sandogh::kSadrDatabase), 0);     // Sadr never came
+    EXPECT_EQ(rows("Items", kOnlineSalesDatabase), 1);  // Takin ran before Mizan
+    EXPECT_EQ(rows("SADR_Item", kSadrDatabase), 0);     // Sadr never came
     ASSERT_EQ(messages().count(), 1);
-    EXPECT_EQ(messages().messages()[0].text, sandogh::Database::connectionFailureMessage());
+    EXPECT_EQ(messages().messages()[0].text, Database::connectionFailureMessage());
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(ScaleExport);
 
 }  // namespace
+}  // namespace sandogh::test

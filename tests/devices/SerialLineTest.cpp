@@ -4,11 +4,7 @@
 #include "WaitUntil.h"
 #include "devices/SerialLine.h"
 
-using sandogh::SerialLine;
-using sandogh::SerialPortConfig;
-using sandogh::test::PtyPair;
-using sandogh::test::waitUntil;
-
+namespace sandogh::test {
 namespace {
 
 TEST(SerialLine, ComNumbersFollowThePlatformNamingUnlessAPathIsGiven) {
@@ -111,3 +107,4 @@ TEST(SerialLine, MissingDeviceStaysClosed) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

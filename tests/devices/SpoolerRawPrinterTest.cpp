@@ -12,14 +12,7 @@
 #include "support/LaunchRecorder.h"
 #include "support/RecordingMessageService.h"
 
-using sandogh::CashDrawer;
-using sandogh::DrawerConfig;
-using sandogh::SpoolerRawPrinter;
-using sandogh::test::CupsServer;
-using sandogh::test::LaunchRecorder;
-using sandogh::test::RecordingMessageService;
-using sandogh::test::waitUntil;
-
+namespace sandogh::test {
 namespace {
 
 QByteArray contents(const QString& path) {
@@ -87,3 +80,4 @@ TEST_F(SpoolerOnLocalCups, NoDefaultPrinterShowsTheMessage) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

@@ -6,17 +6,10 @@
 #include "data/ShopFixture.h"
 #include "devices/SqlPosPaymentRecorder.h"
 
-using sandogh::ConnectionSettings;
-using sandogh::Database;
-using sandogh::PosPayment;
-using sandogh::PosPaymentRecorder;
-using sandogh::Session;
-using sandogh::SqlPosPaymentRecorder;
-using sandogh::SqlQuery;
-
+namespace sandogh::test {
 namespace {
 
-class PosRecording : public sandogh::test::ShopFixture {};
+class PosRecording : public ShopFixture {};
 
 // Every field lands in its own column (the values all differ, so that a column written in
 // the place of its neighbour shows); texts are cut to the procedure's widths.
@@ -67,7 +60,7 @@ TEST(PosRecordingOffline, BrokenConnectionShowsTheConnectionMessage) {
         QStringLiteral("Provider=PostgreSQL;Data Source=127.0.0.1,1;Initial Catalog=shop;"
                        "User ID=nobody;Password=;Persist Security Info=True;"),
         QDir::tempPath(), settings, nullptr));
-    sandogh::test::RecordingMessageService messages;
+    RecordingMessageService messages;
     Database database(settings, &messages);
     EXPECT_EQ(SqlPosPaymentRecorder(database).record(PosPayment{}),
               PosPaymentRecorder::Result::ConnectionBroken);
@@ -75,3 +68,4 @@ TEST(PosRecordingOffline, BrokenConnectionShowsTheConnectionMessage) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

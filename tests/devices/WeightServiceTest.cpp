@@ -6,10 +6,7 @@
 #include "WaitUntil.h"
 #include "devices/WeightService.h"
 
-using sandogh::WeightService;
-using sandogh::WeightServiceConfig;
-using sandogh::test::waitUntil;
-
+namespace sandogh::test {
 namespace {
 
 // A minimal scale service: answers every request with the given status and
@@ -127,3 +124,4 @@ TEST(WeightService, PutsThePathOnTheConfiguredHost) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

@@ -8,10 +8,7 @@
 namespace sandogh {
 namespace {
 
-using procedures::kPurchase;
-using procedures::kPurchaseReturn;
-using procedures::kSale;
-using procedures::kSaleReturn;
+using namespace procedures;
 
 const QString kDay1 = QStringLiteral("1404/01/05");
 const QString kDay2 = QStringLiteral("1404/01/06");

@@ -14,9 +14,7 @@
 namespace sandogh {
 namespace {
 
-using procedures::KeyConflictRetry;
-using procedures::StockDocumentHeader;
-using procedures::StockDocumentWriter;
+using namespace procedures;
 
 StockDocumentHeader saleHeader(const QString& docNo) {
     StockDocumentHeader h;

@@ -8,10 +8,7 @@
 namespace sandogh {
 namespace {
 
-using procedures::kPurchase;
-using procedures::kPurchaseReturn;
-using procedures::kSale;
-using procedures::kSaleReturn;
+using namespace procedures;
 
 class PartyBalanceTest : public test::ShopFixture {
 protected:

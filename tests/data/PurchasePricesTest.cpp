@@ -8,9 +8,7 @@
 namespace sandogh {
 namespace {
 
-using procedures::kPurchase;
-using procedures::kPurchaseReturn;
-using procedures::kSale;
+using namespace procedures;
 
 const QString kMilk = QStringLiteral("6261234567890");
 

@@ -11,11 +11,7 @@
 namespace sandogh {
 namespace {
 
-using procedures::kPurchase;
-using procedures::kPurchaseReturn;
-using procedures::kSale;
-using procedures::kSaleReturn;
-using procedures::StockDocumentWriter;
+using namespace procedures;
 
 class StockFollowsDocumentsTest : public test::ShopFixture {
 protected:

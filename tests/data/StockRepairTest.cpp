@@ -10,10 +10,7 @@
 namespace sandogh {
 namespace {
 
-using procedures::kPurchase;
-using procedures::kPurchaseReturn;
-using procedures::kSale;
-using procedures::kSaleReturn;
+using namespace procedures;
 
 class StockRepairTest : public test::ShopFixture {
 protected:

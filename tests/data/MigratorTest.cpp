@@ -16,96 +16,59 @@ namespace sandogh {
 namespace {
 
 using test::column;
+using test::foreignKey;
+using test::index;
+using test::table;
+using T = ColumnType;
 
-ColumnDef withDefault(ColumnDef c, const char* literal) {
-    c.defaultValue = QLatin1String(literal);
-    return c;
-}
+const QString kVendor = QStringLiteral("MizanNet");
 
 ColumnDef identity(const char* name) {
-    return {QLatin1String(name), ColumnType::Int, 0, false, true, {}};
+    return {QLatin1String(name), T::Int, 0, false, true, {}};
 }
 
 // Three steps as a catalogue would write them: tables with identity, defaults and a
 // foreign key, a table of a vendor's database with its index, then added columns, an
 // index, and a foreign key declared after its table was created.
 QList<MigrationStep> testSteps() {
+    ColumnDef docSum = column("DocSum", T::Money, 0, false);
+    docSum.defaultValue = QStringLiteral("0");
     MigrationStep one;
     one.version = 1;
     one.description = QStringLiteral("site and documents");
     one.tables = {
-        {QStringLiteral("Stations"),
-         {identity("ID"), column("Station_Name", ColumnType::Text, 50, false)},
-         {QStringLiteral("ID")},
-         {}},
-        {QStringLiteral("DocH"),
-         {column("Code", ColumnType::Int, 0, false), column("DocNo", ColumnType::Text, 20),
-          column("StationID", ColumnType::Int),
-          withDefault(column("DocSum", ColumnType::Money, 0, false), "0")},
-         {QStringLiteral("Code")},
-         {}},
-        {QStringLiteral("Plu"),
-         {column("Id", ColumnType::Int, 0, false), column("Name", ColumnType::Text, 100)},
-         {QStringLiteral("Id")},
-         QStringLiteral("MizanNet")},
+        table("Stations", {identity("ID"), column("Station_Name", T::Text, 50, false)}, "ID"),
+        table("DocH",
+              {column("Code", T::Int, 0, false), column("DocNo", T::Text, 20),
+               column("StationID", T::Int), docSum},
+              "Code"),
+        table("Plu", {column("Id", T::Int, 0, false), column("Name", T::Text, 100)}, "Id", kVendor),
     };
-    one.foreignKeys = {{QStringLiteral("FK_DocH_Stations"),
-                        QStringLiteral("DocH"),
-                        {QStringLiteral("StationID")},
-                        QStringLiteral("Stations"),
-                        {QStringLiteral("ID")}}};
-    one.indexes = {{QStringLiteral("UX_Stations_Station_Name"),
-                    QStringLiteral("Stations"),
-                    {QStringLiteral("Station_Name")},
-                    true,
-                    {}},
-                   {QStringLiteral("IX_Plu_Name"),
-                    QStringLiteral("Plu"),
-                    {QStringLiteral("Name")},
-                    false,
-                    QStringLiteral("MizanNet")}};
+    one.foreignKeys = {foreignKey("DocH", "StationID", "Stations", "ID")};
+    one.indexes = {index("UX_Stations_Station_Name", "Stations", "Station_Name", true),
+                   index("IX_Plu_Name", "Plu", "Name", false, kVendor)};
     one.seedStatements = {QStringLiteral("INSERT INTO Stations (Station_Name) VALUES ('Main')")};
 
     MigrationStep two;
     two.version = 2;
     two.description = QStringLiteral("document dates and lines");
-    two.addColumns = {
-        {QStringLiteral("DocH"), column("DocDate", ColumnType::Text, 10), {}},
-        {QStringLiteral("Plu"), column("Price", ColumnType::Money), QStringLiteral("MizanNet")}};
-    two.tables = {{QStringLiteral("DocD"),
-                   {identity("ID"), column("Code", ColumnType::Int, 0, false),
-                    column("EAN_Code", ColumnType::Text, 50)},
-                   {QStringLiteral("ID")},
-                   {}}};
-    two.foreignKeys = {{QStringLiteral("FK_DocD_DocH"),
-                        QStringLiteral("DocD"),
-                        {QStringLiteral("Code")},
-                        QStringLiteral("DocH"),
-                        {QStringLiteral("Code")}}};
-    two.indexes = {{QStringLiteral("IX_DocH_DocDate"),
-                    QStringLiteral("DocH"),
-                    {QStringLiteral("DocDate")},
-                    false,
-                    {}}};
+    two.addColumns = {{QStringLiteral("DocH"), column("DocDate", T::Text, 10), {}},
+                      {QStringLiteral("Plu"), column("Price", T::Money), kVendor}};
+    two.tables = {table(
+        "DocD", {identity("ID"), column("Code", T::Int, 0, false), column("EAN_Code", T::Text, 50)},
+        "ID")};
+    two.foreignKeys = {foreignKey("DocD", "Code", "DocH", "Code")};
+    two.indexes = {index("IX_DocH_DocDate", "DocH", "DocDate")};
 
     MigrationStep three;
     three.version = 3;
     three.description = QStringLiteral("parties");
-    three.tables = {
-        {QStringLiteral("Parties"),
-         {column("Counter", ColumnType::Int, 0, false), column("Name", ColumnType::Text, 100)},
-         {QStringLiteral("Counter")},
-         {}}};
-    three.addColumns = {{QStringLiteral("DocH"), column("CompanyID", ColumnType::Int), {}}};
-    three.foreignKeys = {{QStringLiteral("FK_DocH_Parties"),
-                          QStringLiteral("DocH"),
-                          {QStringLiteral("CompanyID")},
-                          QStringLiteral("Parties"),
-                          {QStringLiteral("Counter")}}};
+    three.tables = {table(
+        "Parties", {column("Counter", T::Int, 0, false), column("Name", T::Text, 100)}, "Counter")};
+    three.addColumns = {{QStringLiteral("DocH"), column("CompanyID", T::Int), {}}};
+    three.foreignKeys = {foreignKey("DocH", "CompanyID", "Parties", "Counter")};
     return {one, two, three};
 }
-
-const QString kVendor = QStringLiteral("MizanNet");
 
 class MigratorTest : public test::BackendTest {
 protected:
@@ -225,10 +188,10 @@ TEST_P(MigratorTest, AFailingStepLeavesNothingOfItselfAnywhere) {
     MigrationStep broken;
     broken.version = 4;
     broken.description = QStringLiteral("broken");
-    broken.tables = {{QStringLiteral("Half"), {column("Id", ColumnType::Int)}, {}, {}},
-                     {QStringLiteral("Scale"), {column("Id", ColumnType::Int)}, {}, kVendor}};
-    broken.addColumns = {{QStringLiteral("DocH"), column("Extra", ColumnType::Int), {}},
-                         {QStringLiteral("Plu"), column("Extra", ColumnType::Int), kVendor}};
+    broken.tables = {table("Half", {column("Id", T::Int)}, nullptr),
+                     table("Scale", {column("Id", T::Int)}, nullptr, kVendor)};
+    broken.addColumns = {{QStringLiteral("DocH"), column("Extra", T::Int), {}},
+                         {QStringLiteral("Plu"), column("Extra", T::Int), kVendor}};
     broken.seedStatements = {QStringLiteral("INSERT INTO NoSuchTable (Id) VALUES (1)")};
     steps << broken;
 

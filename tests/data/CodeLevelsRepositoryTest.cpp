@@ -52,7 +52,7 @@ TEST_P(CodeLevelsRepositoryTest, AnEmptyFamilyStartsAtItsFirstNumberAndOrderOne)
     EXPECT_EQ(second.parameterLevel, 2);
 }
 
-TEST_P(CodeLevelsRepositoryTest, SavingNeedsANameAndEditsInPlace) {
+TEST_P(CodeLevelsRepositoryTest, SavingNeedsANameAndAFreeNumberAndEditsInPlace) {
     Level level;
     level.name = QStringLiteral("  ");
     const CheckResult refused = repo().save(level, Family::Goods);
@@ -71,10 +71,7 @@ TEST_P(CodeLevelsRepositoryTest, SavingNeedsANameAndEditsInPlace) {
     EXPECT_EQ(levels.first().digitQty, 4);
     EXPECT_EQ(levels.first().parameterLevel, 3);
     EXPECT_EQ(levels.first().typeNo, 501);
-}
-
-TEST_P(CodeLevelsRepositoryTest, ALevelNumberTakenAlreadyIsRefusedByTheKey) {
-    add(Family::Goods, QStringLiteral("Group"), 2, 501);
+    // A new level under a number already taken is refused by the key.
     Level twin;
     twin.typeNo = 501;
     twin.name = QStringLiteral("Twin");

@@ -22,10 +22,6 @@ struct ProviderCase {
     const char* catalog = "";
 };
 
-void PrintTo(const ProviderCase& c, std::ostream* os) {
-    *os << c.name;
-}
-
 constexpr Backend kSQLite = Backend::SQLite;
 constexpr Backend kPostgres = Backend::PostgreSQL;
 constexpr Backend kServer = Backend::SqlServer;
@@ -70,32 +66,29 @@ const ProviderCase kProviderCases[] = {
      kSQLite, "SQLiteData Source"},
 };
 
-class ProviderTest : public ::testing::TestWithParam<ProviderCase> {};
-
-TEST_P(ProviderTest, ChoosesTheBackend) {
-    const ProviderCase& c = GetParam();
-    ConnectionSettings s;
-    QString error;
-    ASSERT_EQ(
-        ConnectionSettings::parse(QString::fromUtf8(c.connectionString), kProgramDir, s, &error),
-        c.ok)
-        << error.toStdString();
-    const QString where = QString::fromUtf8(c.where);
-    if (!c.ok) {
-        EXPECT_TRUE(error.contains(where)) << error.toStdString();
-        return;
-    }
-    EXPECT_EQ(s.backend, c.backend);
-    EXPECT_EQ(s.catalog, QString::fromUtf8(c.catalog));
-    EXPECT_EQ(s.port, c.port);
-    EXPECT_EQ(c.backend == kSQLite ? s.sqliteFile() : s.host, where);
-    if (c.backend == kSQLite) {
-        EXPECT_TRUE(s.host.isEmpty());
+TEST(ConnectionSettings, TheProviderChoosesTheBackendAndTheRestSaysWhere) {
+    for (const ProviderCase& c : kProviderCases) {
+        SCOPED_TRACE(c.name);
+        ConnectionSettings s;
+        QString error;
+        ASSERT_EQ(ConnectionSettings::parse(QString::fromUtf8(c.connectionString), kProgramDir, s,
+                                            &error),
+                  c.ok)
+            << error.toStdString();
+        const QString where = QString::fromUtf8(c.where);
+        if (!c.ok) {
+            EXPECT_TRUE(error.contains(where)) << error.toStdString();
+            continue;
+        }
+        EXPECT_EQ(s.backend, c.backend);
+        EXPECT_EQ(s.catalog, QString::fromUtf8(c.catalog));
+        EXPECT_EQ(s.port, c.port);
+        EXPECT_EQ(c.backend == kSQLite ? s.sqliteFile() : s.host, where);
+        if (c.backend == kSQLite) {
+            EXPECT_TRUE(s.host.isEmpty());
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Cases, ProviderTest, ::testing::ValuesIn(kProviderCases),
-                         [](const auto& p) { return std::string(p.param.name); });
 
 struct OdbcCase {
     const char* name;
@@ -104,10 +97,6 @@ struct OdbcCase {
     const char* database;
     const char* expected;
 };
-
-void PrintTo(const OdbcCase& c, std::ostream* os) {
-    *os << c.name;
-}
 
 const char* const kPlain =
     "Provider=SQLOLEDB.1;Persist Security Info=False;User ID=sa;Password=123;Initial "
@@ -144,22 +133,19 @@ const OdbcCase kOdbcCases[] = {
      "Driver={SQL Server};Server=.\\SQLEXPRESS;Database=Shop;Trusted_Connection=yes;"},
 };
 
-class OdbcTest : public ::testing::TestWithParam<OdbcCase> {};
-
-TEST_P(OdbcTest, BuildsTheOdbcConnectionString) {
-    const OdbcCase& c = GetParam();
-    ConnectionSettings s;
-    QString error;
-    ASSERT_TRUE(ConnectionSettings::parse(
-        QString::fromUtf8(c.connectionString ? c.connectionString : kPlain), kProgramDir, s,
-        &error))
-        << error.toStdString();
-    EXPECT_EQ(s.odbcConnectionString(QString::fromUtf8(c.database), c.platform),
-              QString::fromUtf8(c.expected));
+TEST(ConnectionSettings, BuildsTheOdbcConnectionString) {
+    for (const OdbcCase& c : kOdbcCases) {
+        SCOPED_TRACE(c.name);
+        ConnectionSettings s;
+        QString error;
+        ASSERT_TRUE(ConnectionSettings::parse(
+            QString::fromUtf8(c.connectionString ? c.connectionString : kPlain), kProgramDir, s,
+            &error))
+            << error.toStdString();
+        EXPECT_EQ(s.odbcConnectionString(QString::fromUtf8(c.database), c.platform),
+                  QString::fromUtf8(c.expected));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Cases, OdbcTest, ::testing::ValuesIn(kOdbcCases),
-                         [](const auto& p) { return std::string(p.param.name); });
 
 TEST(ConnectionSettingsPairs, QuotedValuesKeepSemicolonsAndQuotes) {
     const auto pairs = ConnectionSettings::parsePairs(

@@ -1,5 +1,5 @@
 // Next document keys and numbers: separate runs per kind, daily runs, internal runs,
-// numbers compared as numbers, documents with a DocType left out, and the index seek.
+// numbers compared as numbers, documents with a DocType left out, and repeated numbers.
 
 #include "ShopFixture.h"
 #include "data/repositories/DocumentNumbering.h"
@@ -8,10 +8,7 @@
 namespace sandogh {
 namespace {
 
-using procedures::kPurchase;
-using procedures::kPurchaseReturn;
-using procedures::kSale;
-using procedures::kSaleReturn;
+using namespace procedures;
 
 const QString kDay1 = QStringLiteral("1404/01/05");
 const QString kDay2 = QStringLiteral("1404/01/06");
@@ -19,49 +16,6 @@ const QString kDay2 = QStringLiteral("1404/01/06");
 class DocumentNumberingTest : public test::ShopFixture {
 protected:
     DocumentNumbering numbering() { return DocumentNumbering(db()); }
-
-    // The plan of a numbering statement on this backend, one text.
-    QString planOf(const QString& sql, const SqlBinds& binds) {
-        Session s = session();
-        QStringList plan;
-        if (backend() == Backend::SQLite) {
-            SqlQuery q(s, QStringLiteral("EXPLAIN QUERY PLAN ") + sql);
-            for (const auto& [name, value] : binds) {
-                q.bindValue(name, value);
-            }
-            EXPECT_TRUE(q.exec());
-            while (q.next()) {
-                plan << q.text(3);
-            }
-            return plan.join(QLatin1Char('\n'));
-        }
-        // PostgreSQL: the generic plan of the prepared statement, as a cash desk runs it
-        // after a few executions; with sequential scans priced out, the plan shows which
-        // index the statement can use at all.
-        QString prepared = sql;
-        QStringList values;
-        for (qsizetype i = 0; i < binds.size(); ++i) {
-            prepared.replace(binds.at(i).first, QStringLiteral("$%1").arg(i + 1));
-            values << (binds.at(i).second.metaType().id() == QMetaType::QString
-                           ? QLatin1Char('\'') + binds.at(i).second.toString() + QLatin1Char('\'')
-                           : binds.at(i).second.toString());
-        }
-        EXPECT_TRUE(s.exec(QStringLiteral("SET plan_cache_mode = force_generic_plan")));
-        EXPECT_TRUE(s.exec(QStringLiteral("SET enable_seqscan = off")));
-        EXPECT_TRUE(s.exec(QStringLiteral("PREPARE probe AS ") + prepared));
-        SqlQuery q(s, QStringLiteral("EXPLAIN EXECUTE probe") +
-                          (values.isEmpty() ? QString()
-                                            : QLatin1Char('(') + values.join(QStringLiteral(", ")) +
-                                                  QLatin1Char(')')));
-        EXPECT_TRUE(q.exec());
-        while (q.next()) {
-            plan << q.text(0);
-        }
-        EXPECT_TRUE(s.exec(QStringLiteral("DEALLOCATE probe")));
-        EXPECT_TRUE(s.exec(QStringLiteral("RESET enable_seqscan")));
-        EXPECT_TRUE(s.exec(QStringLiteral("RESET plan_cache_mode")));
-        return plan.join(QLatin1Char('\n'));
-    }
 };
 
 TEST_P(DocumentNumberingTest, EmptyTablesGiveKeyOneAndNumberOne) {
@@ -81,21 +35,28 @@ TEST_P(DocumentNumberingTest, EmptyTablesGiveKeyOneAndNumberOne) {
     EXPECT_EQ(messages().count(), 0);
 }
 
+// Ordinary documents run per kind; internal receipts and their returns share one run.
 TEST_P(DocumentNumberingTest, EachKindKeepsItsOwnRun) {
     DocumentNumbering n = numbering();
     addDocument(kPurchase, QStringLiteral("1"), {});
     EXPECT_EQ(n.nextDocNo(kPurchaseReturn), 1);  // a purchase return's first number is 1 too
     addDocument(kPurchaseReturn, QStringLiteral("1"), {});
     addDocument(kSale, QStringLiteral("7"), {});
+    addInternalDocument(kPurchase, QStringLiteral("5"), {});
+    addInternalDocument(kPurchaseReturn, QStringLiteral("7"), {});
+    addInternalDocument(kSale, QStringLiteral("3"), {});
     struct Case {
         int type;
         qint64 next;
+        qint64 nextInternal;
     };
-    for (const Case& c :
-         {Case{kPurchase, 2}, Case{kPurchaseReturn, 2}, Case{kSale, 8}, Case{kSaleReturn, 1}}) {
+    for (const Case& c : {Case{kPurchase, 2, 8}, Case{kPurchaseReturn, 2, 8}, Case{kSale, 8, 4},
+                          Case{kSaleReturn, 1, 1}}) {
         EXPECT_EQ(n.nextDocNo(c.type), c.next) << c.type;
+        EXPECT_EQ(n.nextInternalDocNo(c.type), c.nextInternal) << c.type;
     }
     EXPECT_EQ(n.nextCode(), 4);
+    EXPECT_EQ(n.nextInternalCode(), 4);
 }
 
 TEST_P(DocumentNumberingTest, NumbersCompareAsNumbersNotText) {
@@ -140,48 +101,37 @@ TEST_P(DocumentNumberingTest, DocumentsWithADocTypeTakeNoPart) {
     EXPECT_EQ(n.nextCode(), 4);  // keys run over every document
 }
 
-TEST_P(DocumentNumberingTest, InternalReceiptsAndTheirReturnsShareARun) {
-    DocumentNumbering n = numbering();
-    addInternalDocument(kPurchase, QStringLiteral("5"), {});
-    addInternalDocument(kPurchaseReturn, QStringLiteral("7"), {});
-    addInternalDocument(kSale, QStringLiteral("3"), {});
-    struct Case {
-        int type;
-        qint64 next;
-    };
-    for (const Case& c :
-         {Case{kPurchase, 8}, Case{kPurchaseReturn, 8}, Case{kSale, 4}, Case{kSaleReturn, 1}}) {
-        EXPECT_EQ(n.nextInternalDocNo(c.type), c.next) << c.type;
-    }
-    // Ordinary documents keep their own runs.
-    EXPECT_EQ(n.nextDocNo(kPurchase), 1);
-}
-
-TEST_P(DocumentNumberingTest, SupplierNumberRepeatsAreFoundTrimmedPerKind) {
+// A supplier's number repeats per kind (trimmed); a sale's per kind and date.
+TEST_P(DocumentNumberingTest, RepeatedNumbersAreFoundPerKind) {
     DocumentNumbering n = numbering();
     addDocument(kPurchase, QStringLiteral(" 123 "), {});
+    addDocument(kSale, QStringLiteral("4"), {}, kDay1);
     struct Case {
         int type;
         const char* docNo;
+        QString date;  // empty: the supplier's number
         bool repeated;
     };
-    const Case cases[] = {{kPurchase, "123", true},          {kPurchaseReturn, "123", false},
-                          {kPurchase, "1234", false},        {kPurchase, "12", false},
-                          {kPurchase, "' OR '1'='1", false}, {kSale, "123", false}};
+    const Case cases[] = {
+        {kPurchase, "123", {}, true},
+        {kPurchaseReturn, "123", {}, false},
+        {kPurchase, "1234", {}, false},
+        {kPurchase, "12", {}, false},
+        {kPurchase, "' OR '1'='1", {}, false},
+        {kSale, "123", {}, false},
+        {kSale, "4", kDay1, true},
+        {kSale, "4", kDay2, false},
+        {kSaleReturn, "4", kDay1, false},
+        {kSale, "5", kDay1, false},
+    };
     for (const Case& c : cases) {
-        EXPECT_EQ(n.isSupplierDocNoRepeated(c.type, QString::fromLatin1(c.docNo)), c.repeated)
+        const QString docNo = QString::fromLatin1(c.docNo);
+        EXPECT_EQ(c.date.isEmpty() ? n.isSupplierDocNoRepeated(c.type, docNo)
+                                   : n.isSaleDocNoTaken(c.type, docNo, c.date),
+                  c.repeated)
             << c.type << " " << c.docNo;
     }
     EXPECT_EQ(n.nextDocNo(kPurchase), 124);
-}
-
-TEST_P(DocumentNumberingTest, SaleNumberClashesAreFoundPerKindAndDate) {
-    DocumentNumbering n = numbering();
-    addDocument(kSale, QStringLiteral("4"), {}, kDay1);
-    EXPECT_EQ(n.isSaleDocNoTaken(kSale, QStringLiteral("4"), kDay1), true);
-    EXPECT_EQ(n.isSaleDocNoTaken(kSale, QStringLiteral("4"), kDay2), false);
-    EXPECT_EQ(n.isSaleDocNoTaken(kSaleReturn, QStringLiteral("4"), kDay1), false);
-    EXPECT_EQ(n.isSaleDocNoTaken(kSale, QStringLiteral("5"), kDay1), false);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(DocumentNumberingTest);

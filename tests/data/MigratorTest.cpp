@@ -1,5 +1,6 @@
-// Applying migration steps: idempotent, recorded, each step all or nothing, and the
-// same tables and columns on every backend.
+// Applying migration steps: idempotent, recorded, each step all or nothing (in the vendors'
+// databases too), the vendors' tables of an earlier shop kept, a newer schema refused
+// untouched, and the same tables and columns on every backend.
 
 #include <gtest/gtest.h>
 
@@ -15,92 +16,57 @@ namespace sandogh {
 namespace {
 
 using test::column;
+using test::foreignKey;
+using test::index;
+using test::table;
+using T = ColumnType;
 
-ColumnDef withDefault(ColumnDef c, const char* literal) {
-    c.defaultValue = QLatin1String(literal);
-    return c;
-}
+const QString kVendor = QStringLiteral("MizanNet");
 
 ColumnDef identity(const char* name) {
-    return {QLatin1String(name), ColumnType::Int, 0, false, true, {}};
+    return {QLatin1String(name), T::Int, 0, false, true, {}};
 }
 
 // Three steps as a catalogue would write them: tables with identity, defaults and a
-// foreign key, a table of a vendor's database, then added columns, an index, and a
-// foreign key declared after its table was created.
+// foreign key, a table of a vendor's database with its index, then added columns, an
+// index, and a foreign key declared after its table was created.
 QList<MigrationStep> testSteps() {
+    ColumnDef docSum = column("DocSum", T::Money, 0, false);
+    docSum.defaultValue = QStringLiteral("0");
     MigrationStep one;
     one.version = 1;
     one.description = QStringLiteral("site and documents");
     one.tables = {
-        {QStringLiteral("Stations"),
-         {identity("ID"), column("Station_Name", ColumnType::Text, 50, false)},
-         {QStringLiteral("ID")},
-         {}},
-        {QStringLiteral("DocH"),
-         {column("Code", ColumnType::Int, 0, false), column("DocNo", ColumnType::Text, 20),
-          column("StationID", ColumnType::Int),
-          withDefault(column("DocSum", ColumnType::Money, 0, false), "0")},
-         {QStringLiteral("Code")},
-         {}},
-        {QStringLiteral("Plu"),
-         {column("Id", ColumnType::Int, 0, false), column("Name", ColumnType::Text, 100)},
-         {QStringLiteral("Id")},
-         QStringLiteral("MizanNet")},
+        table("Stations", {identity("ID"), column("Station_Name", T::Text, 50, false)}, "ID"),
+        table("DocH",
+              {column("Code", T::Int, 0, false), column("DocNo", T::Text, 20),
+               column("StationID", T::Int), docSum},
+              "Code"),
+        table("Plu", {column("Id", T::Int, 0, false), column("Name", T::Text, 100)}, "Id", kVendor),
     };
-    one.foreignKeys = {{QStringLiteral("FK_DocH_Stations"),
-                        QStringLiteral("DocH"),
-                        {QStringLiteral("StationID")},
-                        QStringLiteral("Stations"),
-                        {QStringLiteral("ID")}}};
-    one.indexes = {{QStringLiteral("UX_Stations_Station_Name"),
-                    QStringLiteral("Stations"),
-                    {QStringLiteral("Station_Name")},
-                    true,
-                    {}}};
+    one.foreignKeys = {foreignKey("DocH", "StationID", "Stations", "ID")};
+    one.indexes = {index("UX_Stations_Station_Name", "Stations", "Station_Name", true),
+                   index("IX_Plu_Name", "Plu", "Name", false, kVendor)};
     one.seedStatements = {QStringLiteral("INSERT INTO Stations (Station_Name) VALUES ('Main')")};
 
     MigrationStep two;
     two.version = 2;
     two.description = QStringLiteral("document dates and lines");
-    two.addColumns = {
-        {QStringLiteral("DocH"), column("DocDate", ColumnType::Text, 10), {}},
-        {QStringLiteral("Plu"), column("Price", ColumnType::Money), QStringLiteral("MizanNet")}};
-    two.tables = {{QStringLiteral("DocD"),
-                   {identity("ID"), column("Code", ColumnType::Int, 0, false),
-                    column("EAN_Code", ColumnType::Text, 50)},
-                   {QStringLiteral("ID")},
-                   {}}};
-    two.foreignKeys = {{QStringLiteral("FK_DocD_DocH"),
-                        QStringLiteral("DocD"),
-                        {QStringLiteral("Code")},
-                        QStringLiteral("DocH"),
-                        {QStringLiteral("Code")}}};
-    two.indexes = {{QStringLiteral("IX_DocH_DocDate"),
-                    QStringLiteral("DocH"),
-                    {QStringLiteral("DocDate")},
-                    false,
-                    {}},
-                   {QStringLiteral("IX_Plu_Name"),
-                    QStringLiteral("Plu"),
-                    {QStringLiteral("Name")},
-                    false,
-                    QStringLiteral("MizanNet")}};
+    two.addColumns = {{QStringLiteral("DocH"), column("DocDate", T::Text, 10), {}},
+                      {QStringLiteral("Plu"), column("Price", T::Money), kVendor}};
+    two.tables = {table(
+        "DocD", {identity("ID"), column("Code", T::Int, 0, false), column("EAN_Code", T::Text, 50)},
+        "ID")};
+    two.foreignKeys = {foreignKey("DocD", "Code", "DocH", "Code")};
+    two.indexes = {index("IX_DocH_DocDate", "DocH", "DocDate")};
 
     MigrationStep three;
     three.version = 3;
     three.description = QStringLiteral("parties");
-    three.tables = {
-        {QStringLiteral("Parties"),
-         {column("Counter", ColumnType::Int, 0, false), column("Name", ColumnType::Text, 100)},
-         {QStringLiteral("Counter")},
-         {}}};
-    three.addColumns = {{QStringLiteral("DocH"), column("CompanyID", ColumnType::Int), {}}};
-    three.foreignKeys = {{QStringLiteral("FK_DocH_Parties"),
-                          QStringLiteral("DocH"),
-                          {QStringLiteral("CompanyID")},
-                          QStringLiteral("Parties"),
-                          {QStringLiteral("Counter")}}};
+    three.tables = {table(
+        "Parties", {column("Counter", T::Int, 0, false), column("Name", T::Text, 100)}, "Counter")};
+    three.addColumns = {{QStringLiteral("DocH"), column("CompanyID", T::Int), {}}};
+    three.foreignKeys = {foreignKey("DocH", "CompanyID", "Parties", "Counter")};
     return {one, two, three};
 }
 
@@ -110,6 +76,12 @@ protected:
         Session s = db().session();
         return s.scalarInt64(sql, {}, -1);
     }
+    // The tables and columns of the shop's database and of the vendor's.
+    QList<QMap<QString, QStringList>> schema() {
+        Session s = db().session();
+        return {SchemaReader::tables(s), SchemaReader::tables(s, kVendor)};
+    }
+    QString plu() { return db().dialect().table(QStringLiteral("Plu"), kVendor); }
 };
 
 TEST_P(MigratorTest, AppliesEveryStepOnceAndRecordsIt) {
@@ -147,18 +119,14 @@ TEST_P(MigratorTest, RowsSurviveALaterForeignKeyWhichIsThenEnforced) {
             s.exec(QStringLiteral("INSERT INTO DocH (Code, DocNo, StationID, DocDate) "
                                   "VALUES (1, '1', 1, '1404/01/05')")));
         ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO DocD (Code, EAN_Code) VALUES (1, '626')")));
-        ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (7, 'x')")
-                       .arg(s.dialect().table(QStringLiteral("Plu"), QStringLiteral("MizanNet")))));
+        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (7, 'x')").arg(plu())));
     }
     ASSERT_TRUE(migrator.apply(testSteps()).ok);
     Session s = db().session();
     EXPECT_EQ(s.scalarText(QStringLiteral("SELECT DocDate FROM DocH WHERE Code = 1")),
               QStringLiteral("1404/01/05"));
     EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM DocD")), 1);
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM ") +
-                           s.dialect().table(QStringLiteral("Plu"), QStringLiteral("MizanNet"))),
-              QStringLiteral("x"));
+    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Name FROM ") + plu()), QStringLiteral("x"));
     const struct {
         const char* what;
         QString sql;
@@ -188,20 +156,42 @@ TEST_P(MigratorTest, RowsSurviveALaterForeignKeyWhichIsThenEnforced) {
         s.scalarInt64(QStringLiteral("SELECT ID FROM Stations WHERE Station_Name = 'Second'")), 1);
 }
 
-TEST_P(MigratorTest, AFailingStepLeavesNothingOfItself) {
+// The vendor's table (and its index) as an earlier shop or the vendor's own program left
+// it, without any record of steps: kept with its rows, and the steps go on around it.
+TEST_P(MigratorTest, TheVendorsTablesOfAnEarlierShopAreKeptAsTheyAre) {
+    MigrationStep earlier;
+    earlier.version = 1;
+    earlier.tables = {testSteps()[0].tables.last()};
+    earlier.indexes = {testSteps()[0].indexes.last()};
+    ASSERT_TRUE(Migrator(db()).apply({earlier}).ok);
+    {
+        Session s = db().session();
+        ASSERT_TRUE(
+            s.exec(QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (7, 'Cheese')").arg(plu())));
+        ASSERT_TRUE(s.exec(QStringLiteral("DROP TABLE SchemaVersion")));
+    }
+    const Migrator::Result result = Migrator(db()).apply(testSteps());
+    ASSERT_TRUE(result.ok) << result.message.toStdString();
+    EXPECT_EQ(result.versionAfter, 3);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM ") + plu()), 1);
+}
+
+// Neither its tables, nor the columns it adds to earlier ones, in the shop's database or
+// the vendor's; mended, it applies.
+TEST_P(MigratorTest, AFailingStepLeavesNothingOfItselfAnywhere) {
     Migrator migrator(db());
     ASSERT_TRUE(migrator.apply(testSteps()).ok);
-    const auto tablesBefore = [&] {
-        Session s = db().session();
-        return SchemaReader::tables(s);
-    }();
-    ASSERT_TRUE(tablesBefore.contains(QStringLiteral("doch")));
+    const auto before = schema();
+    ASSERT_TRUE(before[0].contains(QStringLiteral("doch")));
+    ASSERT_TRUE(before[1].contains(QStringLiteral("plu")));
     QList<MigrationStep> steps = testSteps();
     MigrationStep broken;
     broken.version = 4;
     broken.description = QStringLiteral("broken");
-    broken.tables = {{QStringLiteral("Half"), {column("Id", ColumnType::Int)}, {}, {}}};
-    broken.addColumns = {{QStringLiteral("DocH"), column("Extra", ColumnType::Int), {}}};
+    broken.tables = {table("Half", {column("Id", T::Int)}, nullptr),
+                     table("Scale", {column("Id", T::Int)}, nullptr, kVendor)};
+    broken.addColumns = {{QStringLiteral("DocH"), column("Extra", T::Int), {}},
+                         {QStringLiteral("Plu"), column("Extra", T::Int), kVendor}};
     broken.seedStatements = {QStringLiteral("INSERT INTO NoSuchTable (Id) VALUES (1)")};
     steps << broken;
 
@@ -210,15 +200,27 @@ TEST_P(MigratorTest, AFailingStepLeavesNothingOfItself) {
     EXPECT_TRUE(result.message.contains(QStringLiteral("step 4"))) << result.message.toStdString();
     EXPECT_EQ(result.versionAfter, 3);
     EXPECT_EQ(migrator.currentVersion(), 3);
-    Session s = db().session();
-    EXPECT_EQ(SchemaReader::tables(s), tablesBefore);  // no Half, no DocH.Extra
+    EXPECT_EQ(schema(), before);
+    steps.last().seedStatements.clear();
+    EXPECT_TRUE(migrator.apply(steps).ok);
+    EXPECT_NE(schema(), before);
 }
 
-TEST_P(MigratorTest, TheShopCatalogueApplies) {
-    const Migrator::Result result = Migrator(db()).apply(shopMigrations());
-    ASSERT_TRUE(result.ok) << result.message.toStdString();
-    EXPECT_EQ(result.versionAfter, shopMigrations().last().version);
-    EXPECT_TRUE(Migrator(db()).apply(shopMigrations()).applied.isEmpty());
+TEST_P(MigratorTest, ASchemaNewerThanTheStepsIsRefusedUntouched) {
+    Migrator migrator(db());
+    ASSERT_TRUE(migrator.apply(testSteps().mid(0, 1)).ok);
+    {
+        Session s = db().session();
+        ASSERT_TRUE(s.exec(
+            QStringLiteral("INSERT INTO SchemaVersion (Version, Description) VALUES (9, 'x')")));
+    }
+    const auto before = schema();
+    const Migrator::Result result = migrator.apply(testSteps());
+    EXPECT_FALSE(result.ok);
+    EXPECT_TRUE(result.newerSchema);
+    EXPECT_TRUE(result.message.startsWith(Migrator::newerSchemaMessage()));
+    EXPECT_TRUE(result.applied.isEmpty());
+    EXPECT_EQ(schema(), before);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(MigratorTest);

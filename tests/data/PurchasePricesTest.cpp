@@ -8,9 +8,7 @@
 namespace sandogh {
 namespace {
 
-using procedures::kPurchase;
-using procedures::kPurchaseReturn;
-using procedures::kSale;
+using namespace procedures;
 
 const QString kMilk = QStringLiteral("6261234567890");
 
@@ -18,21 +16,6 @@ class PurchasePricesTest : public test::ShopFixture {
 protected:
     PurchasePrices prices() { return PurchasePrices(db()); }
 };
-
-TEST_P(PurchasePricesTest, AnArticleNeverBoughtHasNoPrices) {
-    addGoods(kMilk, 50000);
-    PurchasePrices p = prices();
-    EXPECT_EQ(p.lastPurchasePrice(kMilk), 0);
-    EXPECT_EQ(p.averagePurchasePrice(kMilk), 0);
-    EXPECT_EQ(p.averageFee(kMilk), 0);
-    EXPECT_EQ(p.lineProfit(kMilk), 0);
-    const PurchasePrices::Terms t = p.lastPurchaseTerms(kMilk);
-    EXPECT_EQ(t.mFee, 0);
-    EXPECT_EQ(t.discount, 0);
-    EXPECT_EQ(t.taxValue, 0);
-    EXPECT_EQ(p.lastPurchasePrice(QStringLiteral("unknown")), 0);
-    EXPECT_EQ(messages().count(), 0);
-}
 
 TEST_P(PurchasePricesTest, PricesComeFromOrdinaryPurchasesOnly) {
     addGoods(kMilk, 50000);
@@ -49,21 +32,28 @@ TEST_P(PurchasePricesTest, PricesComeFromOrdinaryPurchasesOnly) {
     EXPECT_DOUBLE_EQ(p.averageFee(kMilk), 33000);
     Session s = session();
     EXPECT_DOUBLE_EQ(procedures::sp_tblWhs_QTYDocD_GetLastBuyPrice(s, kMilk), 36000);
+    // An article never bought has no prices, and no profit whatever its sale price.
+    const QString never = QStringLiteral("6260000000001");
+    addGoods(never, 50000);
+    EXPECT_EQ(p.lastPurchasePrice(never), 0);
+    EXPECT_EQ(p.averagePurchasePrice(never), 0);
+    EXPECT_EQ(p.averageFee(never), 0);
+    EXPECT_EQ(p.lineProfit(never), 0);
+    const PurchasePrices::Terms t = p.lastPurchaseTerms(never);
+    EXPECT_EQ(t.mFee, 0);
+    EXPECT_EQ(t.discount, 0);
+    EXPECT_EQ(t.taxValue, 0);
+    EXPECT_EQ(messages().count(), 0);
 }
 
-TEST_P(PurchasePricesTest, AZeroTotalQuantityDividesByOne) {
-    addGoods(kMilk);
-    addDocument(kPurchase, QStringLiteral("1"), {{kMilk, 3, 100, 300}});
-    addDocument(kPurchase, QStringLiteral("2"), {{kMilk, -3, 100, 250}});
+// A zero total quantity divides by one; whole amounts are not divided as integers.
+TEST_P(PurchasePricesTest, AveragesDivideAsDecimalsAndNeverByZero) {
+    const QString tea = QStringLiteral("T");
+    addDocument(kPurchase, QStringLiteral("1"), {{kMilk, 3, 100, 300}, {tea, 3, 333, 1000}});
+    addDocument(kPurchase, QStringLiteral("2"), {{kMilk, -3, 100, 250}, {tea, 1, 334, 334}});
     EXPECT_DOUBLE_EQ(prices().averagePurchasePrice(kMilk), 550);
-}
-
-TEST_P(PurchasePricesTest, WholeAmountsAreNotDividedAsIntegers) {
-    addGoods(kMilk);
-    addDocument(kPurchase, QStringLiteral("1"), {{kMilk, 3, 333, 1000}});
-    EXPECT_NEAR(prices().averagePurchasePrice(kMilk), 1000.0 / 3.0, 1e-6);
-    addDocument(kPurchase, QStringLiteral("2"), {{kMilk, 1, 334, 334}});
-    EXPECT_DOUBLE_EQ(prices().averageFee(kMilk), 333.5);
+    EXPECT_DOUBLE_EQ(prices().averagePurchasePrice(tea), 333.5);
+    EXPECT_DOUBLE_EQ(prices().averageFee(tea), 333.5);
 }
 
 TEST_P(PurchasePricesTest, TheNewestDocumentGivesTheLastPrice) {

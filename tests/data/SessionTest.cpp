@@ -1,16 +1,20 @@
-// Statements on a session: bound values, reading rows, the Isnull conventions,
-// failures logged and classified. Runs on every backend.
+// Statements on a session: bound values, reading rows, the Isnull conventions, failures
+// logged, classified and told in their own words once (a refused foreign key, a busy
+// database, a damaged file). Runs on every backend.
 
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QTemporaryDir>
 
 #include "TestTables.h"
 #include "data/ErrorLog.h"
 #include "data/SqlQuery.h"
+#include "data/Transaction.h"
 #include "support/BackendTest.h"
 #include "support/FixedClock.h"
 #include "support/QtPrinters.h"
+#include "support/RecordingMessageService.h"
 
 namespace sandogh {
 namespace {
@@ -148,8 +152,12 @@ TEST_P(SessionTest, KeyAndForeignKeyViolationsAreClassified) {
         EXPECT_EQ(s.lastError().kind, c.kind)
             << c.what << ": " << s.lastError().text().toStdString();
     }
-    // Only the failures that are not key conflicts were logged.
+    // Only the failures that are not key conflicts were told and logged, each once; a
+    // refused foreign key in its own words.
     EXPECT_EQ(messages().count(), 3);
+    EXPECT_EQ(messages().countOf(DbError::messageFor(DbErrorKind::ForeignKey)), 2);
+    EXPECT_EQ(messages().countOf(Database::connectionFailureMessage()), 0);
+    EXPECT_EQ(logText().count(QStringLiteral("ErrNumber : ")), 3);
 }
 
 TEST_P(SessionTest, ABindNamedOnlyOnceServesEveryUseOfThePlaceholder) {
@@ -160,6 +168,52 @@ TEST_P(SessionTest, ABindNamedOnlyOnceServesEveryUseOfThePlaceholder) {
         s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Goods WHERE Code = :c OR Code = :c + 1"),
                       {{QStringLiteral("c"), 1}}),
         2);
+}
+
+TEST_P(SessionTest, ABusyDatabaseIsToldAsBusy) {
+    if (backend() != Backend::SQLite) {
+        GTEST_SKIP() << "a lock wait on PostgreSQL has no time-out here";
+    }
+    Session holder = db().session();
+    Transaction held(holder);
+    ASSERT_TRUE(held.isActive());
+    ASSERT_TRUE(insert(holder, 1, QStringLiteral("held")));
+
+    DatabaseOptions impatient;
+    impatient.sqliteBusyTimeoutMs = 50;
+    test::RecordingMessageService otherMessages;
+    const std::unique_ptr<Database> other = testDatabase().openAnother(&otherMessages, impatient);
+    Session s = other->session();
+    Transaction tx(s);
+    EXPECT_FALSE(tx.isActive());
+    EXPECT_EQ(tx.error().kind, DbErrorKind::Busy);
+    EXPECT_EQ(otherMessages.countOf(DbError::messageFor(DbErrorKind::Busy)), 1);
+    EXPECT_EQ(otherMessages.count(), 1);
+}
+
+TEST_P(SessionTest, ADamagedFileIsRefusedBeforeAnythingIsWritten) {
+    if (backend() != Backend::SQLite) {
+        GTEST_SKIP() << "a file of its own";
+    }
+    QTemporaryDir folder;
+    ConnectionSettings settings = db().settings();
+    settings.sqliteFolder = folder.path();
+    {
+        QFile f(settings.sqliteFile());
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(QByteArray(4096, '\x11'));
+    }
+    test::RecordingMessageService shown;
+    Database damaged(settings, &shown, errorLog.get());
+    Session s = damaged.session();
+    EXPECT_FALSE(s);
+    EXPECT_EQ(s.lastError().kind, DbErrorKind::Damaged);
+    EXPECT_EQ(messages().countOf(DbError::messageFor(DbErrorKind::Damaged)), 1);
+    EXPECT_EQ(messages().countOf(Database::connectionFailureMessage()), 0);
+    EXPECT_FALSE(QFile::exists(settings.sqliteFile() + QStringLiteral("-wal")));
+    QFile f(settings.sqliteFile());
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    EXPECT_EQ(f.readAll(), QByteArray(4096, '\x11'));
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(SessionTest);

@@ -11,11 +11,7 @@
 namespace sandogh {
 namespace {
 
-using procedures::kPurchase;
-using procedures::kPurchaseReturn;
-using procedures::kSale;
-using procedures::kSaleReturn;
-using procedures::StockDocumentWriter;
+using namespace procedures;
 
 class StockFollowsDocumentsTest : public test::ShopFixture {
 protected:
@@ -83,6 +79,21 @@ protected:
         return change(s) && tx.commit();
     }
 
+    // The Stock rows as the writes left them agree with a full sp_StockRepair recompute.
+    void agreesWithTheRecompute(const char* step) {
+        SCOPED_TRACE(step);
+        const Rows followed = stockRows();
+        ASSERT_TRUE(inTransaction([](Session& s) { return procedures::sp_StockRepair(s); }));
+        const Rows recomputed = stockRows();
+        EXPECT_EQ(followed.keys(), recomputed.keys());
+        for (auto it = recomputed.cbegin(); it != recomputed.cend(); ++it) {
+            const Row got = followed.value(it.key());
+            EXPECT_NEAR(got.import, it->import, 1e-9) << it.key().toStdString();
+            EXPECT_NEAR(got.exported, it->exported, 1e-9) << it.key().toStdString();
+            EXPECT_NEAR(got.stock, it->stock, 1e-9) << it.key().toStdString();
+        }
+    }
+
     int m_docNo = 0;
 };
 
@@ -95,87 +106,36 @@ TEST_P(StockFollowsDocumentsTest, EveryStepAgreesWithTheFullRecompute) {
     }
     ASSERT_TRUE(inTransaction([](Session& s) { return procedures::sp_StockRepair(s); }));
 
-    qint64 sale = 0;
-    qint64 purchaseReturn = 0;
-    qint64 internalSent = 0;
-    struct Step {
-        const char* name;
-        std::function<void()> run;
-    };
-    const QList<Step> steps{
-        {"purchase",
-         [&] {
-             write(kPurchase, {{a, 10}, {b, 5}, {a, 2.5}});
-         }},
-        {"sale",
-         [&] {
-             sale = write(kSale, {{a, 3}, {b, 1}, {a, 0.25}});
-         }},
-        {"sale return",
-         [&] {
-             write(kSaleReturn, {{a, 1}});
-         }},
-        {"purchase return",
-         [&] {
-             purchaseReturn = write(kPurchaseReturn, {{b, 2}});
-         }},
-        {"paper with a DocType",
-         [&] {
-             write(kSale, {{a, 50}}, false, 1);
-         }},
-        {"internal receipt",
-         [&] {
-             write(kPurchase, {{a, 7}}, true);
-         }},
-        {"internal dispatch",
-         [&] {
-             internalSent = write(kSale, {{b, 1}, {c, 2}}, true);
-         }},
-        {"edit: lines replaced, a new article",
-         [&] {
-             EXPECT_TRUE(inTransaction([&](Session& s) {
-                 return StockDocumentWriter::replaceLines(s, sale, linesOf({{a, 1}, {c, 4}}));
-             }));
-         }},
-        {"delete",
-         [&] {
-             EXPECT_TRUE(inTransaction([&](Session& s) {
-                 return StockDocumentWriter::deleteDocument(s, purchaseReturn);
-             }));
-         }},
-        {"internal delete",
-         [&] {
-             EXPECT_TRUE(inTransaction([&](Session& s) {
-                 return StockDocumentWriter::deleteInternalDocument(s, internalSent);
-             }));
-         }},
-        {"article that lost its Stock row sold again",
-         [&] {
-             Session s = session();
-             EXPECT_TRUE(s.exec(QStringLiteral("DELETE FROM Stock WHERE Barcode = :b"),
-                                {{QStringLiteral(":b"), a}}));
-             s.release();
-             write(kSale, {{a, 2}, {b, 1}});
-         }},
-        {"article without a Stock row and without Goods",
-         [&] {
-             write(kSale, {{QStringLiteral("ZZ"), 1}});
-         }},
-    };
-    for (const Step& step : steps) {
-        step.run();
-        const Rows followed = stockRows();
-        ASSERT_TRUE(inTransaction([](Session& s) { return procedures::sp_StockRepair(s); }));
-        const Rows recomputed = stockRows();
-        EXPECT_EQ(followed.keys(), recomputed.keys()) << step.name;
-        for (auto it = recomputed.cbegin(); it != recomputed.cend(); ++it) {
-            const Row got = followed.value(it.key());
-            EXPECT_NEAR(got.import, it->import, 1e-9) << step.name << ' ' << it.key().toStdString();
-            EXPECT_NEAR(got.exported, it->exported, 1e-9)
-                << step.name << ' ' << it.key().toStdString();
-            EXPECT_NEAR(got.stock, it->stock, 1e-9) << step.name << ' ' << it.key().toStdString();
-        }
-    }
+    write(kPurchase, {{a, 10}, {b, 5}, {a, 2.5}});
+    agreesWithTheRecompute("purchase");
+    const qint64 sale = write(kSale, {{a, 3}, {b, 1}, {a, 0.25}});
+    agreesWithTheRecompute("sale");
+    write(kSaleReturn, {{a, 1}});
+    agreesWithTheRecompute("sale return");
+    const qint64 purchaseReturn = write(kPurchaseReturn, {{b, 2}});
+    agreesWithTheRecompute("purchase return");
+    write(kSale, {{a, 50}}, false, 1);
+    agreesWithTheRecompute("paper with a DocType");
+    write(kPurchase, {{a, 7}}, true);
+    agreesWithTheRecompute("internal receipt");
+    const qint64 internalSent = write(kSale, {{b, 1}, {c, 2}}, true);
+    agreesWithTheRecompute("internal dispatch");
+    EXPECT_TRUE(inTransaction([&](Session& s) {
+        return StockDocumentWriter::replaceLines(s, sale, linesOf({{a, 1}, {c, 4}}));
+    }));
+    agreesWithTheRecompute("edit: lines replaced, a new article");
+    EXPECT_TRUE(inTransaction(
+        [&](Session& s) { return StockDocumentWriter::deleteDocument(s, purchaseReturn); }));
+    agreesWithTheRecompute("delete");
+    EXPECT_TRUE(inTransaction(
+        [&](Session& s) { return StockDocumentWriter::deleteInternalDocument(s, internalSent); }));
+    agreesWithTheRecompute("internal delete");
+    ASSERT_TRUE(
+        exec(QStringLiteral("DELETE FROM Stock WHERE Barcode = :b"), {{QStringLiteral(":b"), a}}));
+    write(kSale, {{a, 2}, {b, 1}});
+    agreesWithTheRecompute("article that lost its Stock row sold again");
+    write(kSale, {{QStringLiteral("ZZ"), 1}});
+    agreesWithTheRecompute("article without a Stock row and without Goods");
     // Not vacuous: the history moved every article.
     const Rows end = stockRows();
     EXPECT_DOUBLE_EQ(end.value(a).stock, 10 + 2.5 - 1 + 1 + 7 - 2);

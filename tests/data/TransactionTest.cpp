@@ -40,22 +40,6 @@ protected:
     }
 };
 
-TEST_P(TransactionTest, ACommittedUnitIsSeenByOthers) {
-    Session s = db().session();
-    Transaction tx(s);
-    ASSERT_TRUE(tx.isActive());
-    EXPECT_TRUE(s.inTransaction());
-    for (int code = 1; code <= 5; ++code) {
-        ASSERT_TRUE(insert(s, code));
-    }
-    EXPECT_EQ(committedRows(), 0);  // not yet
-    EXPECT_TRUE(tx.commit());
-    EXPECT_FALSE(tx.isActive());
-    EXPECT_FALSE(s.inTransaction());
-    EXPECT_EQ(committedRows(), 5);
-    EXPECT_FALSE(tx.commit());  // nothing left to commit
-}
-
 TEST_P(TransactionTest, AFailureMidwayLeavesNothing) {
     const struct {
         const char* name;
@@ -101,13 +85,16 @@ TEST_P(TransactionTest, AFailureMidwayLeavesNothing) {
 }
 
 // A unit handed on (moved) is the new owner's alone: the one it came from neither commits
-// nor rolls it back when it goes.
+// nor rolls it back when it goes. Others see its rows once it commits, not before.
 TEST_P(TransactionTest, AMovedUnitBelongsToItsNewOwner) {
     Session s = db().session();
     Transaction kept(s);
-    ASSERT_TRUE(kept.commit());  // an ended unit, to take the next one over
+    ASSERT_TRUE(kept.commit());   // an ended unit, to take the next one over
+    EXPECT_FALSE(kept.commit());  // nothing left to commit
     {
         Transaction first(s);
+        ASSERT_TRUE(first.isActive());
+        EXPECT_TRUE(s.inTransaction());
         ASSERT_TRUE(insert(s, 1));
         kept = std::move(first);
         EXPECT_FALSE(first.isActive());
@@ -115,7 +102,10 @@ TEST_P(TransactionTest, AMovedUnitBelongsToItsNewOwner) {
     }
     ASSERT_TRUE(kept.isActive());
     ASSERT_TRUE(insert(s, 2));
+    EXPECT_EQ(committedRows(), 0);  // not yet
     EXPECT_TRUE(kept.commit());
+    EXPECT_FALSE(kept.isActive());
+    EXPECT_FALSE(s.inTransaction());
     EXPECT_EQ(committedRows(), 2);
 }
 

@@ -46,16 +46,6 @@ protected:
     }
 };
 
-TEST_P(TypesRepositoryTest, EmptyTableGivesCounterOneAndPartyCodeOne) {
-    TypesRepository r = repo();
-    EXPECT_EQ(r.newCounter(61), 1);
-    EXPECT_EQ(r.newPartyCode(), 1);
-    EXPECT_TRUE(r.list(61).isEmpty());
-    EXPECT_TRUE(r.picker(501, 7).isEmpty());
-    EXPECT_TRUE(r.units().isEmpty());
-    EXPECT_EQ(messages().count(), 0);
-}
-
 TEST_P(TypesRepositoryTest, ListIsOrderedByCodeAndSearchedBySubstring) {
     add(1011, QStringLiteral("30"), QStringLiteral("نانوا"), {}, QStringLiteral("Baker"));
     add(1011, QStringLiteral("10"), QStringLiteral("معلم"), {}, QStringLiteral("Teacher"),
@@ -134,17 +124,11 @@ TEST_P(TypesRepositoryTest, SaveChecksNameCodeDigitsAndRepeatsInOrder) {
         EXPECT_EQ(r.message, c.message) << c.code;
         EXPECT_EQ(r.title, c.title) << c.code;
     }
-}
-
-TEST_P(TypesRepositoryTest, ARefusedSaveWritesNothing) {
-    addLevel(501, 2);
-    Value v{0, 501, QStringLiteral("1"), QStringLiteral("short code"), {}, {}};
-    const CheckResult r = repo().save(v, {});
-    EXPECT_FALSE(r.ok);
-    EXPECT_EQ(r.message,
-              listmessages::kCodeMustBe + QStringLiteral("2") + listmessages::kDigitsOrLetters);
-    EXPECT_EQ(v.counter, 0);
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types")), 0);
+    // A refused save writes nothing.
+    Value refused{0, 502, QStringLiteral("01"), QStringLiteral("short code"), {}, {}};
+    EXPECT_FALSE(repo().save(refused, {}).ok);
+    EXPECT_EQ(refused.counter, 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types")), 1);
 }
 
 TEST_P(TypesRepositoryTest, EditingAValueKeepsItsCodeAndReplacesItsLinks) {
@@ -233,7 +217,14 @@ TEST_P(TypesRepositoryTest, LevelNineValuesAreNeverDeletedThroughTheList) {
     EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types")), 1);
 }
 
-TEST_P(TypesRepositoryTest, PartyCodesShareOneRunWithDashesRemoved) {
+TEST_P(TypesRepositoryTest, CountersAndPartyCodesStartAtOneAndShareOneRunWithoutDashes) {
+    TypesRepository empty = repo();
+    EXPECT_EQ(empty.newCounter(61), 1);
+    EXPECT_EQ(empty.newPartyCode(), 1);
+    EXPECT_TRUE(empty.list(61).isEmpty());
+    EXPECT_TRUE(empty.picker(501, 7).isEmpty());
+    EXPECT_TRUE(empty.units().isEmpty());
+    EXPECT_EQ(messages().count(), 0);
     Session s = session();
     struct Party {
         int typeNo;

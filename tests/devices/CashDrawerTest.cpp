@@ -11,62 +11,48 @@
 #include "support/RawPrintRecorder.h"
 #include "support/RecordingMessageService.h"
 
-using sandogh::CashDrawer;
-using sandogh::DetachedProgramLauncher;
-using sandogh::DrawerConfig;
-using sandogh::MessageStyle;
-using sandogh::RawPrinter;
-using sandogh::test::LaunchRecorder;
-using sandogh::test::RecordingMessageService;
-using sandogh::test::waitUntil;
-
+namespace sandogh::test {
 namespace {
 
-struct PathCase {
-    const char* usb;
-    bool onPrinter;
+// The drawer opened once with a configuration, against recording stand-ins.
+class CashDrawerTest : public ::testing::Test {
+protected:
+    void open(const DrawerConfig& config) {
+        printer.jobs.clear();
+        launcher.calls.clear();
+        CashDrawer(config, printer, launcher, messages).open();
+    }
+
+    RawPrintRecorder printer;
+    LaunchRecorder launcher;
+    RecordingMessageService messages;
 };
 
-class DrawerPath : public ::testing::TestWithParam<PathCase> {};
-
-TEST_P(DrawerPath, FollowsPrinterPortUsb) {
-    DrawerConfig config;
-    config.printerPortUsb = QString::fromLatin1(GetParam().usb);
-    config.programFolder = QStringLiteral("/opt/shop");
-    sandogh::test::RawPrintRecorder printer;
-    LaunchRecorder launcher;
-    RecordingMessageService messages;
-    CashDrawer drawer(config, printer, launcher, messages);
-    drawer.open();
-    EXPECT_EQ(printer.jobs.size(), GetParam().onPrinter ? 1 : 0) << GetParam().usb;
-    EXPECT_EQ(launcher.calls.size(), GetParam().onPrinter ? 0 : 1) << GetParam().usb;
-    EXPECT_TRUE((messages.count() == 0));
-}
-
-INSTANTIATE_TEST_SUITE_P(Values, DrawerPath,
-                         ::testing::Values(PathCase{"True", true}, PathCase{"true", true},
-                                           PathCase{"TRUE", true}, PathCase{" True ", true},
-                                           PathCase{"False", false}, PathCase{"1", false},
-                                           PathCase{"Truee", false}, PathCase{"", false}));
-
-TEST(CashDrawer, KickIsOneRawJobOfFiveBytes) {
-    sandogh::test::RawPrintRecorder printer;
-    LaunchRecorder launcher;
-    RecordingMessageService messages;
-    CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
-    drawer.OpenCashDrawer();
+TEST_F(CashDrawerTest, PrinterPortUsbChoosesTheKickThroughThePrinterOrTheProgram) {
+    const struct {
+        const char* usb;
+        bool onPrinter;
+    } cases[] = {{"True", true},   {"true", true}, {"TRUE", true},   {" True ", true},
+                 {"False", false}, {"1", false},   {"Truee", false}, {"", false}};
+    for (const auto& c : cases) {
+        DrawerConfig config;
+        config.printerPortUsb = QString::fromLatin1(c.usb);
+        config.programFolder = QStringLiteral("/opt/shop");
+        open(config);
+        EXPECT_EQ(printer.jobs.size(), c.onPrinter ? 1 : 0) << c.usb;
+        EXPECT_EQ(launcher.calls.size(), c.onPrinter ? 0 : 1) << c.usb;
+    }
+    EXPECT_EQ(messages.count(), 0);
+    // The kick: one raw job of five bytes.
+    open(DrawerConfig{});
     ASSERT_EQ(printer.jobs.size(), 1);
     EXPECT_EQ(printer.jobs[0].first, QStringLiteral("OPENCASH"));
     EXPECT_EQ(printer.jobs[0].second.toHex(' ').toUpper(), QByteArray("1B 70 00 19 1E"));
 }
 
-TEST(CashDrawer, UnknownPrinterIsReportedPlainly) {
-    sandogh::test::RawPrintRecorder printer;
+TEST_F(CashDrawerTest, UnknownPrinterIsReportedPlainly) {
     printer.hasPrinter = false;
-    LaunchRecorder launcher;
-    RecordingMessageService messages;
-    CashDrawer drawer(DrawerConfig{}, printer, launcher, messages);
-    drawer.open();
+    open(DrawerConfig{});
     ASSERT_EQ(messages.count(), 1);
     EXPECT_EQ(messages.messages()[0].text,
               QStringLiteral("The Printer Name you typed wasn't recognized."));
@@ -74,42 +60,32 @@ TEST(CashDrawer, UnknownPrinterIsReportedPlainly) {
     EXPECT_TRUE(launcher.calls.isEmpty());
 }
 
-struct ProgramCase {
-    const char* folder;
-    const char* configured;
-    const char* program;
-    const char* workingDir;
-};
-
-class DrawerProgram : public ::testing::TestWithParam<ProgramCase> {};
-
-TEST_P(DrawerProgram, StartsHiddenWithParameterZero) {
-    const ProgramCase& c = GetParam();
-    DrawerConfig config;
-    config.printerPortUsb = QStringLiteral("False");
-    config.programFolder = QString::fromLatin1(c.folder);
-    config.drawerProgram = QString::fromLatin1(c.configured);
-    sandogh::test::RawPrintRecorder printer;
-    LaunchRecorder launcher;
-    RecordingMessageService messages;
-    CashDrawer drawer(config, printer, launcher, messages);
-    drawer.open();
-    ASSERT_EQ(launcher.calls.size(), 1);
-    EXPECT_EQ(launcher.calls[0].program, QString::fromLatin1(c.program));
-    EXPECT_EQ(launcher.calls[0].arguments, QStringList{QStringLiteral("0")});
-    EXPECT_EQ(launcher.calls[0].workingDirectory, QString::fromLatin1(c.workingDir));
-    EXPECT_TRUE(launcher.calls[0].hidden);
-    EXPECT_TRUE(printer.jobs.isEmpty());
+TEST_F(CashDrawerTest, TheDrawerProgramStartsHiddenWithParameterZero) {
+    const struct {
+        const char* folder;
+        const char* configured;
+        const char* program;
+    } cases[] = {
+        {"/opt/shop", "", "/opt/shop/Program/Tamvex.exe"},
+        {"/opt/shop/", "", "/opt/shop/Program/Tamvex.exe"},
+        {"/opt/shop", "bin/drawer", "/opt/shop/bin/drawer"},
+        {"/opt/shop", "/usr/local/bin/kick", "/usr/local/bin/kick"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.program);
+        DrawerConfig config;
+        config.printerPortUsb = QStringLiteral("False");
+        config.programFolder = QString::fromLatin1(c.folder);
+        config.drawerProgram = QString::fromLatin1(c.configured);
+        open(config);
+        ASSERT_EQ(launcher.calls.size(), 1);
+        EXPECT_EQ(launcher.calls[0].program, QString::fromLatin1(c.program));
+        EXPECT_EQ(launcher.calls[0].arguments, QStringList{QStringLiteral("0")});
+        EXPECT_EQ(launcher.calls[0].workingDirectory, QStringLiteral("/opt/shopTamvex.exe"));
+        EXPECT_TRUE(launcher.calls[0].hidden);
+        EXPECT_TRUE(printer.jobs.isEmpty());
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Folders, DrawerProgram,
-    ::testing::Values(
-        ProgramCase{"/opt/shop", "", "/opt/shop/Program/Tamvex.exe", "/opt/shopTamvex.exe"},
-        ProgramCase{"/opt/shop/", "", "/opt/shop/Program/Tamvex.exe", "/opt/shopTamvex.exe"},
-        ProgramCase{"/opt/shop", "bin/drawer", "/opt/shop/bin/drawer", "/opt/shopTamvex.exe"},
-        ProgramCase{"/opt/shop", "/usr/local/bin/kick", "/usr/local/bin/kick",
-                    "/opt/shopTamvex.exe"}));
 
 // The real launcher: the program runs detached and gets its argument.
 TEST(DetachedProgramLauncher, StartsTheProgramWithItsArguments) {
@@ -133,3 +109,4 @@ TEST(DetachedProgramLauncher, StartsTheProgramWithItsArguments) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

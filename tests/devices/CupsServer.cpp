@@ -40,24 +40,7 @@ const char* kPassThroughPpd = R"PPD(*PPD-Adobe: "4.3"
 *ModelName: "Raw file"
 *ShortNickName: "Raw file"
 *NickName: "Raw file"
-*PSVersion: "(3010.000) 0"
-*LanguageLevel: "3"
-*ColorDevice: False
-*DefaultColorSpace: Gray
-*FileSystem: False
-*Throughput: "1"
-*LandscapeOrientation: Plus90
-*TTRasterizer: Type42
 *cupsFilter: "application/vnd.cups-raw 0 gziptoany"
-*OpenUI *PageSize/Page Size: PickOne
-*OrderDependency: 10 AnySetup *PageSize
-*DefaultPageSize: Letter
-*PageSize Letter/Letter: "<</PageSize[612 792]>>setpagedevice"
-*CloseUI: *PageSize
-*DefaultImageableArea: Letter
-*ImageableArea Letter/Letter: "0 0 612 792"
-*DefaultPaperDimension: Letter
-*PaperDimension Letter/Letter: "612 792"
 )PPD";
 
 }  // namespace

@@ -6,10 +6,7 @@
 #include "devices/DeviceConfigs.h"
 #include "settings/QSettingsStore.h"
 
-using sandogh::DeviceConfigs;
-using sandogh::MachineSettings;
-using sandogh::QSettingsStore;
-
+namespace sandogh::test {
 namespace {
 
 // Settings kept in an INI file of a temporary folder, as a cash desk keeps them.
@@ -51,7 +48,7 @@ TEST_F(DeviceConfigsFromSettings, EmptySettingsGiveTheDefaults) {
     EXPECT_FALSE(scales.takin || scales.mizan || scales.sadr);
 }
 
-TEST_F(DeviceConfigsFromSettings, ScaleSwitchesAreFlags) {
+TEST_F(DeviceConfigsFromSettings, ScaleSwitchesAreFlagsAndPortNumbersNeedTheMasterSwitch) {
     set("Scale", "IsActiveTakin", "1");
     set("Scale", "IsActiveMizan", "0");
     set("Scale", "IsActiveSadr", "2");
@@ -59,9 +56,7 @@ TEST_F(DeviceConfigsFromSettings, ScaleSwitchesAreFlags) {
     EXPECT_TRUE(scales.takin);
     EXPECT_FALSE(scales.mizan);
     EXPECT_TRUE(scales.sadr);
-}
 
-TEST_F(DeviceConfigsFromSettings, PortNumbersNeedTheMasterSwitch) {
     set("PortNo", "No", "3");
     set("PortNo", "No2", "4");
     EXPECT_EQ(DeviceConfigs::generalPorts(settings).portNo, 0);
@@ -74,3 +69,4 @@ TEST_F(DeviceConfigsFromSettings, PortNumbersNeedTheMasterSwitch) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

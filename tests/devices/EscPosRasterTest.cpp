@@ -1,19 +1,12 @@
-// Pictures as ESC/POS raster bytes, and such a job through a raw queue of a local CUPS.
+// Pictures as ESC/POS raster bytes.
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QPainter>
 
-#include "CupsServer.h"
-#include "WaitUntil.h"
 #include "devices/EscPosRaster.h"
-#include "devices/SpoolerRawPrinter.h"
 
 using sandogh::EscPosRaster;
-using sandogh::SpoolerRawPrinter;
-using sandogh::test::CupsServer;
-using sandogh::test::waitUntil;
 
 namespace {
 
@@ -87,37 +80,15 @@ TEST(EscPosRaster, DarkPixelsPrintAndANarrowPictureIsCentred) {
     ASSERT_EQ(band.size(), 8 + 4 * 2);
     EXPECT_EQ(band.mid(8).toHex(), QByteArray("0080400000000000"));
     EXPECT_TRUE(EscPosRaster::hasInk(band));
-}
 
-TEST(EscPosRasterOnCups, TheJobArrivesUnchangedThroughARawQueue) {
-    qunsetenv("LPDEST");
-    qunsetenv("PRINTER");
-    CupsServer server;
-    if (!server.start()) {
-        GTEST_SKIP() << "local CUPS scheduler unavailable: " << server.reason().toStdString();
-    }
-    const QString out = server.addFileQueue(QStringLiteral("receipt"), true);
-    ASSERT_FALSE(out.isEmpty());
-
-    QImage image = white(576, 300);
-    {
-        QPainter p(&image);
-        p.fillRect(QRect(100, 50, 300, 120), Qt::black);
-    }
-    const QByteArray job = EscPosRaster::job(image, EscPosRaster::kWideDots);
-    SpoolerRawPrinter printer;
-    ASSERT_TRUE(printer.printRaw(QStringLiteral("Receipt 12"), job));
-    const auto contents = [&] {
-        QFile f(out);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    };
-    ASSERT_TRUE(waitUntil([&] { return contents().size() >= job.size(); }, 20000));
-    EXPECT_EQ(contents(), job);
-    EXPECT_EQ(server.lastJobTitle(QStringLiteral("receipt")), QStringLiteral("Receipt 12"));
-    const QList<Band> bands = bandsOf(contents());
+    // A whole job: the band holding a black box is inked, the one below it is not.
+    QImage boxed = white(576, 300);
+    QPainter(&boxed).fillRect(QRect(100, 50, 300, 120), Qt::black);
+    const QByteArray job = EscPosRaster::job(boxed, EscPosRaster::kWideDots);
+    const QList<Band> bands = bandsOf(job);
     ASSERT_EQ(bands.size(), 2);
-    EXPECT_TRUE(bands[0].inked(contents()));  // the black box, rows 50 to 169
-    EXPECT_FALSE(bands[1].inked(contents()));
+    EXPECT_TRUE(bands[0].inked(job));
+    EXPECT_FALSE(bands[1].inked(job));
 }
 
 }  // namespace

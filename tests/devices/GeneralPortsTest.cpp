@@ -1,85 +1,68 @@
 #include <gtest/gtest.h>
 
 #include "PtyPair.h"
-#include "WaitUntil.h"
 #include "devices/GeneralPorts.h"
 
-using sandogh::GeneralPorts;
-using sandogh::GeneralPortsConfig;
-using sandogh::test::PtyPair;
-using sandogh::test::waitUntil;
-using Branch = sandogh::GeneralPorts::StartupBranch;
-
+namespace sandogh::test {
 namespace {
 
-struct StartupCase {
-    const char* name;
-    bool portsActive;
-    bool callerId;
-    const char* callerModel;
-    const char* readerModel;
-    int displayLine;
-    Branch branch;
-    const char* comm1Settings;
-    int comm1Threshold;
-    const char* comm2Settings;
-};
+using Branch = GeneralPorts::StartupBranch;
 
-class StartupConfiguration : public ::testing::TestWithParam<StartupCase> {};
-
-TEST_P(StartupConfiguration, TakesTheFirstBranchThatApplies) {
-    const StartupCase& c = GetParam();
-    GeneralPortsConfig config;
-    config.portsActive = c.portsActive;
-    config.callerIdActive = c.callerId;
-    config.callerIdModel = QString::fromLatin1(c.callerModel);
-    config.barcodeReaderModel = QString::fromLatin1(c.readerModel);
-    config.displayLine = c.displayLine;
-    GeneralPorts ports(config);
-    EXPECT_EQ(ports.configureAtStartup(), c.branch) << c.name;
-    EXPECT_EQ(ports.MSComm1().settings(), QString::fromLatin1(c.comm1Settings)) << c.name;
-    EXPECT_EQ(ports.MSComm1().rThreshold(), c.comm1Threshold) << c.name;
-    EXPECT_EQ(ports.MSComm2().settings(), QString::fromLatin1(c.comm2Settings)) << c.name;
+TEST(GeneralPorts, StartupTakesTheFirstBranchThatApplies) {
+    const struct {
+        const char* name;
+        bool portsActive;
+        bool callerId;
+        const char* callerModel;
+        const char* readerModel;
+        int displayLine;
+        Branch branch;
+        const char* comm1Settings;
+        int comm1Threshold;
+        const char* comm2Settings;
+    } cases[] = {
+        {"caller id", true, true, "0", "1", 1, Branch::CallerId, "9600,n,8,1", 0, "57600,n,8,1"},
+        {"caller id TK104U", true, true, "TK104U", "1", 0, Branch::CallerId, "9600,n,8,1", 0,
+         "115200,n,8,1"},
+        {"caller id other model", true, true, "TK104", "0", 0, Branch::CallerId, "9600,n,8,1", 0,
+         "57600,n,8,1"},
+        {"barcode reader", true, false, "0", "1", 1, Branch::BarcodeReader, "9600,n,8,1", 3,
+         "9600,n,8,1"},
+        {"line display", true, false, "0", "2", 1, Branch::LineDisplay, "2400,n,8,1", 0,
+         "9600,n,8,1"},
+        {"two-line display", true, false, "0", "2", 2, Branch::None, "9600,n,8,1", 0, "9600,n,8,1"},
+        {"ports off", false, true, "TK104U", "1", 1, Branch::None, "9600,n,8,1", 0, "9600,n,8,1"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        GeneralPortsConfig config;
+        config.portsActive = c.portsActive;
+        config.callerIdActive = c.callerId;
+        config.callerIdModel = QString::fromLatin1(c.callerModel);
+        config.barcodeReaderModel = QString::fromLatin1(c.readerModel);
+        config.displayLine = c.displayLine;
+        GeneralPorts ports(config);
+        EXPECT_EQ(ports.configureAtStartup(), c.branch);
+        EXPECT_EQ(ports.MSComm1().settings(), QString::fromLatin1(c.comm1Settings));
+        EXPECT_EQ(ports.MSComm1().rThreshold(), c.comm1Threshold);
+        EXPECT_EQ(ports.MSComm2().settings(), QString::fromLatin1(c.comm2Settings));
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Branches, StartupConfiguration,
-    ::testing::Values(StartupCase{"caller id", true, true, "0", "1", 1, Branch::CallerId,
-                                  "9600,n,8,1", 0, "57600,n,8,1"},
-                      StartupCase{"caller id TK104U", true, true, "TK104U", "1", 0,
-                                  Branch::CallerId, "9600,n,8,1", 0, "115200,n,8,1"},
-                      StartupCase{"caller id other model", true, true, "TK104", "0", 0,
-                                  Branch::CallerId, "9600,n,8,1", 0, "57600,n,8,1"},
-                      StartupCase{"barcode reader", true, false, "0", "1", 1, Branch::BarcodeReader,
-                                  "9600,n,8,1", 3, "9600,n,8,1"},
-                      StartupCase{"line display", true, false, "0", "2", 1, Branch::LineDisplay,
-                                  "2400,n,8,1", 0, "9600,n,8,1"},
-                      StartupCase{"two-line display", true, false, "0", "2", 2, Branch::None,
-                                  "9600,n,8,1", 0, "9600,n,8,1"},
-                      StartupCase{"ports off", false, true, "TK104U", "1", 1, Branch::None,
-                                  "9600,n,8,1", 0, "9600,n,8,1"}));
-
-struct StatusCase {
-    bool active;
-    int comm2;
-    const char* text;
-};
-
-class StatusBar : public ::testing::TestWithParam<StatusCase> {};
-
-TEST_P(StatusBar, ShowsTheSecondPortNumber) {
-    GeneralPortsConfig config;
-    config.portsActive = GetParam().active;
-    GeneralPorts ports(config);
-    ports.MSComm2().setCommPort(GetParam().comm2);
-    EXPECT_EQ(ports.statusText(), QString::fromLatin1(GetParam().text));
+TEST(GeneralPorts, TheStatusBarShowsTheSecondPortNumber) {
+    const struct {
+        bool active;
+        int comm2;
+        const char* text;
+    } cases[] = {{true, 2, " COM:2"}, {true, 12, " COM:12"}, {true, 0, ""}, {false, 2, ""}};
+    for (const auto& c : cases) {
+        GeneralPortsConfig config;
+        config.portsActive = c.active;
+        GeneralPorts ports(config);
+        ports.MSComm2().setCommPort(c.comm2);
+        EXPECT_EQ(ports.statusText(), QString::fromLatin1(c.text)) << c.comm2;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Numbers, StatusBar,
-                         ::testing::Values(StatusCase{true, 2, " COM:2"},
-                                           StatusCase{true, 1, " COM:1"},
-                                           StatusCase{true, 12, " COM:12"}, StatusCase{true, 0, ""},
-                                           StatusCase{false, 2, ""}));
 
 // Two pseudo-terminals behind the two general ports.
 class GeneralPortsOnPty : public ::testing::Test {
@@ -99,38 +82,30 @@ protected:
     PtyPair second;
 };
 
-struct OpenCase {
-    const char* name;
-    bool active;
-    int no;
-    int no2;
-    bool comm1Open;
-    bool comm2Open;
-};
-
-class OpenPortCases : public GeneralPortsOnPty, public ::testing::WithParamInterface<OpenCase> {};
-
-TEST_P(OpenPortCases, OpensWhatIsConfigured) {
-    const OpenCase& c = GetParam();
-    GeneralPorts ports(config(c.no, c.no2, c.active));
-    ports.OpenPort();
-    EXPECT_EQ(ports.MSComm1().isOpen(), c.comm1Open) << c.name;
-    EXPECT_EQ(ports.MSComm2().isOpen(), c.comm2Open) << c.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Switches, OpenPortCases,
-                         ::testing::Values(OpenCase{"both", true, 1, 2, true, true},
-                                           OpenCase{"first only", true, 1, 0, true, false},
-                                           OpenCase{"second only", true, 0, 2, false, true},
-                                           OpenCase{"none", true, 0, 0, false, false},
-                                           OpenCase{"master switch off", false, 1, 2, false,
-                                                    false}));
-
-TEST_F(GeneralPortsOnPty, OpenPortTakesTheConfiguredNumbers) {
-    GeneralPorts ports(config(5, 7));
-    ports.OpenPort();
-    EXPECT_EQ(ports.MSComm1().commPort(), 5);
-    EXPECT_EQ(ports.MSComm2().commPort(), 7);
+TEST_F(GeneralPortsOnPty, OpenPortOpensWhatIsConfiguredUnderItsNumbers) {
+    const struct {
+        const char* name;
+        bool active;
+        int no;
+        int no2;
+        bool comm1Open;
+        bool comm2Open;
+    } cases[] = {{"both", true, 5, 7, true, true},
+                 {"first only", true, 1, 0, true, false},
+                 {"second only", true, 0, 2, false, true},
+                 {"none", true, 0, 0, false, false},
+                 {"master switch off", false, 1, 2, false, false}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        GeneralPorts ports(config(c.no, c.no2, c.active));
+        ports.OpenPort();
+        EXPECT_EQ(ports.MSComm1().isOpen(), c.comm1Open);
+        EXPECT_EQ(ports.MSComm2().isOpen(), c.comm2Open);
+        if (c.comm1Open && c.comm2Open) {
+            EXPECT_EQ(ports.MSComm1().commPort(), 5);
+            EXPECT_EQ(ports.MSComm2().commPort(), 7);
+        }
+    }
 }
 
 TEST_F(GeneralPortsOnPty, AFailingFirstPortEndsOpenPortSilently) {
@@ -142,7 +117,14 @@ TEST_F(GeneralPortsOnPty, AFailingFirstPortEndsOpenPortSilently) {
     EXPECT_FALSE(ports.MSComm2().isOpen());
 }
 
-TEST_F(GeneralPortsOnPty, ClosePortSendsThreeLineEndsThroughEachPort) {
+TEST_F(GeneralPortsOnPty, ClosePortSendsThreeLineEndsThroughEachPortUnlessSwitchedOff) {
+    GeneralPorts off(config(1, 2, false));
+    ASSERT_TRUE(off.MSComm1().open());  // opened by someone else, say the display
+    off.ClosePort();
+    EXPECT_TRUE(off.MSComm1().isOpen());
+    EXPECT_EQ(first.readAllFor(100), QByteArray());
+    off.MSComm1().close();
+
     GeneralPorts ports(config(1, 2));
     ports.OpenPort();
     ASSERT_TRUE(ports.MSComm1().isOpen() && ports.MSComm2().isOpen());
@@ -154,12 +136,5 @@ TEST_F(GeneralPortsOnPty, ClosePortSendsThreeLineEndsThroughEachPort) {
     EXPECT_EQ(second.readAllFor(200), feed);
 }
 
-TEST_F(GeneralPortsOnPty, ClosePortWithTheSwitchOffLeavesPortsAlone) {
-    GeneralPorts off(config(1, 2, false));
-    ASSERT_TRUE(off.MSComm1().open());  // opened by someone else, say the display
-    off.ClosePort();
-    EXPECT_TRUE(off.MSComm1().isOpen());
-    EXPECT_EQ(first.readAllFor(100), QByteArray());
-}
-
 }  // namespace
+}  // namespace sandogh::test

@@ -4,78 +4,65 @@
 #include "WaitUntil.h"
 #include "devices/SerialLine.h"
 
-using sandogh::SerialLine;
-using sandogh::SerialPortConfig;
-using sandogh::test::PtyPair;
-using sandogh::test::waitUntil;
-
+namespace sandogh::test {
 namespace {
 
-struct ComCase {
-    int number;
-    const char* device;
-};
-
-class ComNumberMapping : public ::testing::TestWithParam<ComCase> {};
-
-TEST_P(ComNumberMapping, FollowsThePlatformNaming) {
-    EXPECT_EQ(SerialLine::deviceForComPort(GetParam().number),
-              QString::fromLatin1(GetParam().device));
-}
-
-INSTANTIATE_TEST_SUITE_P(Numbers, ComNumberMapping,
-                         ::testing::Values(ComCase{1, "/dev/ttyS0"}, ComCase{2, "/dev/ttyS1"},
-                                           ComCase{3, "/dev/ttyS2"}, ComCase{16, "/dev/ttyS15"},
-                                           ComCase{0, ""}, ComCase{-1, ""}));
-
-struct DefaultCase {
-    const char* name;
-    SerialPortConfig config;
-    int commPort;
-    const char* settings;
-};
-
-class PortDefaults : public ::testing::TestWithParam<DefaultCase> {};
-
-TEST_P(PortDefaults, AreTheBuiltInOnes) {
-    const DefaultCase& c = GetParam();
-    SerialLine line(c.config);
-    EXPECT_EQ(line.commPort(), c.commPort) << c.name;
-    EXPECT_EQ(line.settings(), QString::fromLatin1(c.settings)) << c.name;
-    EXPECT_EQ(line.inBufferSize(), 1024) << c.name;
-    EXPECT_EQ(line.outBufferSize(), 512) << c.name;
-    EXPECT_EQ(line.inputLen(), 0) << c.name;
-    EXPECT_EQ(line.rThreshold(), 0) << c.name;
-    EXPECT_FALSE(line.rtsEnable()) << c.name;
-    EXPECT_FALSE(line.isOpen()) << c.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    FourPorts, PortDefaults,
-    ::testing::Values(DefaultCase{"MSComm1", SerialPortConfig::MSComm1(), 1, "9600,n,8,1"},
-                      DefaultCase{"MSComm2", SerialPortConfig::MSComm2(), 2, "9600,n,8,1"},
-                      DefaultCase{"MSCommCustomerDisplay", SerialPortConfig::port(), 3,
-                                  "2400,n,8,1"},
-                      DefaultCase{"MSCommPec", SerialPortConfig::MSCommPec(), 1, "9600,n,8,1"}));
-
-SerialPortConfig onPty(const PtyPair& pty) {
-    SerialPortConfig c = SerialPortConfig::MSComm1();
-    c.devicePath = pty.slavePath();
-    return c;
-}
-
-TEST(SerialLine, DevicePathReplacesTheComNumber) {
-    SerialPortConfig c = SerialPortConfig::MSComm1();
-    SerialLine line(c);
+TEST(SerialLine, ComNumbersFollowThePlatformNamingUnlessAPathIsGiven) {
+    const struct {
+        int number;
+        const char* device;
+    } cases[] = {{1, "/dev/ttyS0"}, {2, "/dev/ttyS1"}, {16, "/dev/ttyS15"}, {0, ""}, {-1, ""}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(SerialLine::deviceForComPort(c.number), QString::fromLatin1(c.device))
+            << c.number;
+    }
+    SerialLine line(SerialPortConfig::MSComm1());
     EXPECT_EQ(line.deviceName(), QStringLiteral("/dev/ttyS0"));
     line.setDevicePath(QStringLiteral("/dev/ttyUSB0"));
     EXPECT_EQ(line.deviceName(), QStringLiteral("/dev/ttyUSB0"));
 }
 
-TEST(SerialLine, WritesReachTheFarEndUnchanged) {
+TEST(SerialLine, EachPortHasItsBuiltInDefaults) {
+    const struct {
+        const char* name;
+        SerialPortConfig config;
+        int commPort;
+        const char* settings;
+    } cases[] = {
+        {"MSComm1", SerialPortConfig::MSComm1(), 1, "9600,n,8,1"},
+        {"MSComm2", SerialPortConfig::MSComm2(), 2, "9600,n,8,1"},
+        {"MSCommCustomerDisplay", SerialPortConfig::port(), 3, "2400,n,8,1"},
+        {"MSCommPec", SerialPortConfig::MSCommPec(), 1, "9600,n,8,1"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        SerialLine line(c.config);
+        EXPECT_EQ(line.commPort(), c.commPort);
+        EXPECT_EQ(line.settings(), QString::fromLatin1(c.settings));
+        EXPECT_EQ(line.inBufferSize(), 1024);
+        EXPECT_EQ(line.outBufferSize(), 512);
+        EXPECT_EQ(line.inputLen(), 0);
+        EXPECT_EQ(line.rThreshold(), 0);
+        EXPECT_FALSE(line.rtsEnable());
+        EXPECT_FALSE(line.isOpen());
+    }
+}
+
+// MSComm1 on a pseudo-terminal, not yet opened.
+class SerialLineOnPty : public ::testing::Test {
+protected:
+    SerialPortConfig config() const {
+        SerialPortConfig c = SerialPortConfig::MSComm1();
+        c.devicePath = pty.slavePath();
+        return c;
+    }
+    void SetUp() override { ASSERT_TRUE(pty.ok()); }
+
     PtyPair pty;
-    ASSERT_TRUE(pty.ok());
-    SerialLine line(onPty(pty));
+    SerialLine line{config()};
+};
+
+TEST_F(SerialLineOnPty, WritesReachTheFarEndUnchanged) {
     ASSERT_TRUE(line.open()) << line.errorString().toStdString();
     // Bytes a terminal would translate: CR, LF, NUL, ESC and high bytes.
     const QByteArray bytes("\x1b\x51\x41\r\n\x00\x0c\xdd\xff", 9);
@@ -83,24 +70,8 @@ TEST(SerialLine, WritesReachTheFarEndUnchanged) {
     EXPECT_EQ(pty.readMaster(bytes.size()), bytes);
 }
 
-TEST(SerialLine, InputLenLimitsARead) {
-    PtyPair pty;
-    ASSERT_TRUE(pty.ok());
-    SerialLine line(onPty(pty));
-    ASSERT_TRUE(line.open());
-    pty.writeMaster("12345");
-    ASSERT_TRUE(waitUntil([&] { return line.bytesAvailable() == 5; }));
-    line.setInputLen(2);
-    EXPECT_EQ(line.read(), QByteArray("12"));
-    line.setInputLen(0);
-    EXPECT_EQ(line.read(), QByteArray("345"));
-    EXPECT_EQ(line.read(), QByteArray());
-}
-
-TEST(SerialLine, ReceiveEventWaitsForTheThreshold) {
-    PtyPair pty;
-    ASSERT_TRUE(pty.ok());
-    SerialLine line(onPty(pty));
+// The receive event waits for the threshold; InputLen limits what one read takes.
+TEST_F(SerialLineOnPty, ReceivedBytesAreAnnouncedAtTheThresholdAndReadUpToInputLen) {
     line.setRThreshold(3);
     ASSERT_TRUE(line.open());
     int received = 0;
@@ -108,9 +79,13 @@ TEST(SerialLine, ReceiveEventWaitsForTheThreshold) {
     pty.writeMaster("ab");
     ASSERT_TRUE(waitUntil([&] { return line.bytesAvailable() == 2; }));
     EXPECT_EQ(received, 0);
-    pty.writeMaster("c");
-    ASSERT_TRUE(waitUntil([&] { return received > 0; }));
-    EXPECT_EQ(line.read(), QByteArray("abc"));
+    pty.writeMaster("cde");
+    ASSERT_TRUE(waitUntil([&] { return received > 0 && line.bytesAvailable() == 5; }));
+    line.setInputLen(2);
+    EXPECT_EQ(line.read(), QByteArray("ab"));
+    line.setInputLen(0);
+    EXPECT_EQ(line.read(), QByteArray("cde"));
+    EXPECT_EQ(line.read(), QByteArray());
 }
 
 TEST(SerialLine, MissingDeviceStaysClosed) {
@@ -126,3 +101,4 @@ TEST(SerialLine, MissingDeviceStaysClosed) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

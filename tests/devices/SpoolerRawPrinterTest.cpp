@@ -12,14 +12,7 @@
 #include "support/LaunchRecorder.h"
 #include "support/RecordingMessageService.h"
 
-using sandogh::CashDrawer;
-using sandogh::DrawerConfig;
-using sandogh::SpoolerRawPrinter;
-using sandogh::test::CupsServer;
-using sandogh::test::LaunchRecorder;
-using sandogh::test::RecordingMessageService;
-using sandogh::test::waitUntil;
-
+namespace sandogh::test {
 namespace {
 
 QByteArray contents(const QString& path) {
@@ -59,6 +52,19 @@ TEST_F(SpoolerOnLocalCups, DrawerKickArrivesAtTheDefaultPrinter) {
     EXPECT_TRUE(launcher.calls.isEmpty());
 }
 
+TEST_F(SpoolerOnLocalCups, ALongBinaryJobArrivesUnchangedUnderItsTitle) {
+    const QString out = server.addFileQueue(QStringLiteral("receipt"), true);
+    ASSERT_FALSE(out.isEmpty());
+    QByteArray job;
+    for (int i = 0; i < 40000; ++i) {
+        job.append(static_cast<char>(i * 7 % 256));
+    }
+    ASSERT_TRUE(SpoolerRawPrinter().printRaw(QStringLiteral("Receipt 12"), job));
+    ASSERT_TRUE(waitUntil([&] { return contents(out).size() >= job.size(); }, 20000));
+    EXPECT_EQ(contents(out), job);
+    EXPECT_EQ(server.lastJobTitle(QStringLiteral("receipt")), QStringLiteral("Receipt 12"));
+}
+
 TEST_F(SpoolerOnLocalCups, NoDefaultPrinterShowsTheMessage) {
     const QString out = server.addFileQueue(QStringLiteral("labels"), false);
     ASSERT_FALSE(out.isEmpty());
@@ -74,3 +80,4 @@ TEST_F(SpoolerOnLocalCups, NoDefaultPrinterShowsTheMessage) {
 }
 
 }  // namespace
+}  // namespace sandogh::test

@@ -1,95 +1,55 @@
 #include <gtest/gtest.h>
 
-#include "PtyPair.h"
-#include "WaitUntil.h"
+#include <QDir>
+
 #include "data/Database.h"
-#include "data/SqlQuery.h"
-#include "data/schema/Migrator.h"
-#include "data/schema/ShopSchema.h"
-#include "devices/PecTerminal.h"
+#include "data/ShopFixture.h"
 #include "devices/SqlPosPaymentRecorder.h"
-#include "support/BackendTest.h"
-#include "support/FixedClock.h"
 
-using sandogh::ConnectionSettings;
-using sandogh::Database;
-using sandogh::Migrator;
-using sandogh::PecConfig;
-using sandogh::PecTerminal;
-using sandogh::PosPayment;
-using sandogh::PosPaymentRecorder;
-using sandogh::Session;
-using sandogh::SqlPosPaymentRecorder;
-using sandogh::SqlQuery;
-using sandogh::test::FixedClock;
-using sandogh::test::PtyPair;
-using sandogh::test::waitUntil;
-
+namespace sandogh::test {
 namespace {
 
-class PosRecording : public sandogh::test::BackendTest {
-protected:
-    void SetUp() override {
-        BackendTest::SetUp();
-        if (IsSkipped() || HasFatalFailure())
-            return;
-        const Migrator::Result r = Migrator(db()).apply(sandogh::shopMigrations());
-        ASSERT_TRUE(r.ok) << r.message.toStdString();
-    }
+class PosRecording : public ShopFixture {};
 
-    qint64 posRows() {
-        Session s = db().session();
-        return s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM tblPOS"));
-    }
-
-    static PosPayment payment(qint64 docNo, double amount) {
-        PosPayment p;
-        p.docNo = docNo;
-        p.dateTime = QStringLiteral("1404/01/01 - 14:05");
-        p.paymentAmount = amount;
-        return p;
-    }
-};
-
-TEST_P(PosRecording, ApprovedPaymentBecomesOneRow) {
+// Every field lands in its own column (the values all differ, so that a column written in
+// the place of its neighbour shows); texts are cut to the procedure's widths.
+TEST_P(PosRecording, AnApprovedPaymentBecomesOneRowAsGiven) {
+    PosPayment p;
+    p.merchantId = 11;
+    p.terminalId = 12;
+    p.docNo = 3000000123LL;  // beyond 32 bits
+    p.dateTime = QString(30, QLatin1Char('9'));
+    p.tranType = 3;
+    p.paymentAmount = 1250000.75;
+    p.prn = 14;
+    p.stan = 15;
+    p.errorCode = 16;
+    p.errorDescription = PosPayment::saleFormDescription() + QString(50, QLatin1Char('x'));
+    p.posId = 17;
     SqlPosPaymentRecorder recorder(db());
-    ASSERT_EQ(recorder.record(payment(57, 1250000.75)), PosPaymentRecorder::Result::Recorded);
-    Session s = db().session();
+    ASSERT_EQ(recorder.record(p), PosPaymentRecorder::Result::Recorded);
+    Session s = session();
     SqlQuery q(s, QStringLiteral("SELECT MerchantId, TerminalId, DocNo, DateTime, TranType, "
                                  "PaymentAmount, PRN, Stan, ErrorCode, ErrorDiscription, PosId "
                                  "FROM tblPOS"));
     ASSERT_TRUE(q.exec() && q.next());
-    EXPECT_EQ(q.int64(0), 0);
-    EXPECT_EQ(q.int64(1), 0);
-    EXPECT_EQ(q.int64(2), 57);
-    EXPECT_EQ(q.text(3), QStringLiteral("1404/01/01 - 14:05"));
-    EXPECT_EQ(q.integer(4), 2);
+    EXPECT_EQ(q.int64(0), 11);
+    EXPECT_EQ(q.int64(1), 12);
+    EXPECT_EQ(q.int64(2), 3000000123LL);
+    EXPECT_EQ(q.text(3), QString(20, QLatin1Char('9')));
+    EXPECT_EQ(q.integer(4), 3);
     EXPECT_DOUBLE_EQ(q.number(5), 1250000.75);
-    EXPECT_EQ(q.int64(6), 0);
-    EXPECT_EQ(q.int64(7), 0);
-    EXPECT_EQ(q.integer(8), 0);
-    EXPECT_EQ(q.text(9), PosPayment::saleFormDescription());
-    EXPECT_EQ(q.integer(10), 0);
+    EXPECT_EQ(q.int64(6), 14);
+    EXPECT_EQ(q.int64(7), 15);
+    EXPECT_EQ(q.integer(8), 16);
+    EXPECT_EQ(q.text(9), p.errorDescription.left(50));
+    EXPECT_EQ(q.integer(10), 17);
     EXPECT_FALSE(q.next());
 }
 
-TEST_P(PosRecording, LongTextsAreCutToTheirWidths) {
-    PosPayment p = payment(3, 1);
-    p.dateTime = QString(30, QLatin1Char('9'));
-    SqlPosPaymentRecorder recorder(db());
-    ASSERT_EQ(recorder.record(p), PosPaymentRecorder::Result::Recorded);
-    Session s = db().session();
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT DateTime FROM tblPOS")),
-              QString(20, QLatin1Char('9')));
-}
-
 TEST_P(PosRecording, MissingTableIsAFailureNotABrokenConnection) {
-    {
-        Session s = db().session();
-        ASSERT_TRUE(s.exec(QStringLiteral("DROP TABLE tblPOS")));
-    }
-    SqlPosPaymentRecorder recorder(db());
-    EXPECT_EQ(recorder.record(payment(4, 1)), PosPaymentRecorder::Result::Failed);
+    ASSERT_TRUE(exec(QStringLiteral("DROP TABLE tblPOS")));
+    EXPECT_EQ(SqlPosPaymentRecorder(db()).record(PosPayment{}), PosPaymentRecorder::Result::Failed);
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(PosRecording);
@@ -100,13 +60,12 @@ TEST(PosRecordingOffline, BrokenConnectionShowsTheConnectionMessage) {
         QStringLiteral("Provider=PostgreSQL;Data Source=127.0.0.1,1;Initial Catalog=shop;"
                        "User ID=nobody;Password=;Persist Security Info=True;"),
         QDir::tempPath(), settings, nullptr));
-    sandogh::test::RecordingMessageService messages;
+    RecordingMessageService messages;
     Database database(settings, &messages);
-    SqlPosPaymentRecorder recorder(database);
-    PosPayment p;
-    p.docNo = 1;
-    EXPECT_EQ(recorder.record(p), PosPaymentRecorder::Result::ConnectionBroken);
+    EXPECT_EQ(SqlPosPaymentRecorder(database).record(PosPayment{}),
+              PosPaymentRecorder::Result::ConnectionBroken);
     EXPECT_EQ(messages.countOf(Database::connectionFailureMessage()), 1);
 }
 
 }  // namespace
+}  // namespace sandogh::test

@@ -23,25 +23,13 @@ protected:
     }
     // Sale number docNo with two lines sold by the user "ali".
     void savedSale(qint64 code, const QString& docNo, double teaFee, const QString& date) {
-        Session s = db().session();
-        const qint64 user = s.scalarInt64(QStringLiteral("SELECT ID FROM Users"));
-        exec(QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, Discount, "
-                            "Base, Note, CompanyID) VALUES (:c, :n, 2, :d, 1500, 'B-7', 'note', "
-                            "NULL)"),
-             {{QStringLiteral(":c"), code},
-              {QStringLiteral(":n"), docNo},
-              {QStringLiteral(":d"), date}});
-        exec(
-            QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Discount, Fee, "
-                           "Price, TaxValue, UserID) VALUES (:c, '1111', 2, :f, 5, :f2, 0, 9, :u)"),
-            {{QStringLiteral(":c"), code},
-             {QStringLiteral(":f"), teaFee},
-             {QStringLiteral(":f2"), teaFee},
-             {QStringLiteral(":u"), user}});
-        exec(QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Discount, Fee, "
-                            "Price, TaxValue, UserID) VALUES (:c, 'GONE', 1, 700, 0, 700, 700, 0, "
-                            ":u)"),
-             {{QStringLiteral(":c"), code}, {QStringLiteral(":u"), user}});
+        const qint64 user = count(QStringLiteral("SELECT ID FROM Users"));
+        insert("Whs_QTYDocH (Code, DocNo, TransType, DocDate, Discount, Base, Note)",
+               {code, docNo, 2, date, 1500, "B-7", "note"});
+        const QString line = QStringLiteral(
+            "Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Discount, Fee, Price, TaxValue, UserID)");
+        insert(line, {code, "1111", 2, teaFee, 5, teaFee, 0, 9, user});
+        insert(line, {code, "GONE", 1, 700, 0, 700, 700, 0, user});
     }
 };
 

@@ -18,16 +18,9 @@ namespace {
 class PaymentAccountsTest : public SaleShopTest {
 protected:
     int account(int code, int parentCode, const QString& name, bool open = true) {
-        exec(QStringLiteral("INSERT INTO tblAccountingGroup (Code, ParentCode, Name, IsOpen) "
-                            "VALUES (:code, :parent, :name, :open)"),
-             {{QStringLiteral(":code"), code},
-              {QStringLiteral(":parent"), parentCode},
-              {QStringLiteral(":name"), name},
-              {QStringLiteral(":open"), open ? 1 : 0}});
-        Session s = db().session();
-        return int(s.scalarInt64(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = "
-                                                ":code"),
-                                 {{QStringLiteral(":code"), code}}));
+        insert("tblAccountingGroup (Code, ParentCode, Name, IsOpen)",
+               {code, parentCode, name, open ? 1 : 0});
+        return ShopFixture::account(code);
     }
 };
 

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "SaleDoubles.h"
 #include "SaleShopTest.h"
 #include "sales/SaleChecks.h"
 #include "sales/SaleTexts.h"

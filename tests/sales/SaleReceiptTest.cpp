@@ -39,19 +39,12 @@ protected:
             return;
         }
         ASSERT_TRUE(m_folder.isValid());
-        exec(QStringLiteral("INSERT INTO Company (Company_Name, Company_Tel, Company_Address) "
-                            "VALUES (:name, :tel, :address)"),
-             {{QStringLiteral(":name"), kShop},
-              {QStringLiteral(":tel"), QStringLiteral("021-1234")},
-              {QStringLiteral(":address"), QStringLiteral("تهران، میدان آزادی")}});
-        exec(QStringLiteral("INSERT INTO Sentences (Description, Author) VALUES (:d, :a)"),
-             {{QStringLiteral(":d"), QStringLiteral("دانایی توانایی است")},
-              {QStringLiteral(":a"), QStringLiteral("فردوسی")}});
-        exec(QStringLiteral("INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES "
-                            "(2, :gift, 1)"),
-             {{QStringLiteral(":gift"), QStringLiteral("هدیه، باشگاه")}});
-        exec(QStringLiteral("INSERT INTO Overhead (Id, Name) VALUES (1, :name)"),
-             {{QStringLiteral(":name"), QStringLiteral("کرایه حمل")}});
+        insert("Company (Company_Name, Company_Tel, Company_Address)",
+               {kShop, "021-1234", QStringLiteral("تهران، میدان آزادی")});
+        insert("Sentences (Description, Author)",
+               {QStringLiteral("دانایی توانایی است"), QStringLiteral("فردوسی")});
+        insert("DiscountType (Id, Name, IsImpactGift)", {2, QStringLiteral("هدیه، باشگاه"), 1});
+        insert("Overhead (Id, Name)", {1, QStringLiteral("کرایه حمل")});
         addGoods({QStringLiteral("111"), 10000, 0, QStringLiteral("شیر پرچرب")});
         addGoods({QStringLiteral("222"), 2500, 0, QStringLiteral("نان")});
         setOption("Programs", "Companion", m_folder.filePath(QStringLiteral("Companion.exe")));
@@ -59,11 +52,7 @@ protected:
 
     // A customer of the parameter table.
     void addCustomer(int counter, const QString& name, const QString& family) {
-        exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Name, Value1) "
-                            "VALUES (:c, 10, :n, :f)"),
-             {{QStringLiteral(":c"), counter},
-              {QStringLiteral(":n"), name},
-              {QStringLiteral(":f"), family}});
+        insert("Types (Counter, TypeNo, Name, Value1)", {counter, 10, name, family});
     }
 
     // A sale saved the way saving writes it: header and lines in one transaction.

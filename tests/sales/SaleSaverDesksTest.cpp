@@ -3,34 +3,22 @@
 
 #include <gtest/gtest.h>
 
-#include "SaleShopTest.h"
+#include "SavedSalesTest.h"
 #include "data/RoundTrips.h"
-#include "sales/SaleSaveTexts.h"
-#include "sales/SaleSaver.h"
-#include "sales/SaleSettlement.h"
 
 namespace sandogh::test {
 namespace {
 
-class SaleSaverDesksTest : public SaleShopTest {
+class SaleSaverDesksTest : public SavedSalesTest {
 protected:
     void SetUp() override {
-        SaleShopTest::SetUp();
+        SavedSalesTest::SetUp();
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        addStation(2);
         for (int i = 0; i < 20; ++i) {
             addGoods({QStringLiteral("50%1").arg(i), 1000, 0, QStringLiteral("Article")});
         }
-        saver = std::make_unique<SaleSaver>(db(), settings(), messages(), clock());
-        otherDesk = std::make_unique<SaleSaver>(db(), settings(), messages(), clock());
-        sale().setStation(1);
-    }
-    void TearDown() override {
-        saver.reset();
-        otherDesk.reset();
-        SaleShopTest::TearDown();
     }
     SaleSettlement settlement(const QString& docNo = {}) {
         SaleSettlement s;
@@ -44,9 +32,6 @@ protected:
             ASSERT_TRUE(sale().addGoods(QStringLiteral("50%1").arg(i)));
         }
     }
-
-    std::unique_ptr<SaleSaver> saver;
-    std::unique_ptr<SaleSaver> otherDesk;
 };
 
 TEST_P(SaleSaverDesksTest, TheNumberWrittenIsTakenAtTheSaveNotFromTheScreen) {
@@ -55,7 +40,7 @@ TEST_P(SaleSaverDesksTest, TheNumberWrittenIsTakenAtTheSaveNotFromTheScreen) {
     ASSERT_EQ(proposal, QStringLiteral("1"));
     // Another desk saves first with the same proposal on its screen.
     SaleSettlement first = settlement(proposal);
-    ASSERT_TRUE(otherDesk->save(sale(), first).saved);
+    ASSERT_TRUE(SaleSaver(db(), settings(), messages(), clock()).save(sale(), first).saved);
     EXPECT_EQ(first.docNo, QStringLiteral("1"));
 
     SaleSettlement mine = settlement(proposal);

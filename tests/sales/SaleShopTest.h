@@ -47,6 +47,10 @@ protected:
     }
 
     QString table(const char* name, const char* database = nullptr);
+    // A row with every value bound: insert("Goods (EAN_Code, Cost)", {barcode, 10}).
+    void insert(const QString& tableAndColumns, const QVariantList& values);
+    // The central database `name` with its GiftCard, GiftCardItem and CenterTypes tables.
+    void addCentralDatabase(const QString& name);
 
     void addGoods(const TestGoods& goods);
     // A price-change document with one article.

@@ -42,14 +42,13 @@ protected:
               {QStringLiteral(":income"), SaleSaveTexts::salesIncomeAccount()},
               {QStringLiteral(":back"), SaleSaveTexts::salesReturnAccount()}});
         // Stored with the Arabic letter forms, as older data has them.
-        exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, NameKey, "
-                            "Active, AccountingGroupID, DiscountTakenTotal) SELECT 501, 10, 'C-1', "
-                            ":name, :family, :key, 1, ID, 0 FROM tblAccountingGroup WHERE Code = "
-                            "1201"),
-             {{QStringLiteral(":name"), QStringLiteral("علي")},
-              {QStringLiteral(":family"), QStringLiteral("كريمي")},
-              {QStringLiteral(":key"),
-               SearchKeys::party(QStringLiteral("علي"), QStringLiteral("كريمي"))}});
+        const QString name = QStringLiteral("علي");
+        const QString family = QStringLiteral("كريمي");
+        insert(
+            "Types (Counter, TypeNo, Code, Name, Value1, NameKey, Active, AccountingGroupID, "
+            "DiscountTakenTotal)",
+            {kCustomer, 10, "C-1", name, family, SearchKeys::party(name, family), 1, account(1201),
+             0});
         saver = std::make_unique<SaleSaver>(db(), settings(), messages(), clock());
     }
     void TearDown() override {

@@ -16,11 +16,9 @@ protected:
     // Shifts 1..3 with the given ones active.
     void addShifts(const QList<int>& activeCodes) {
         for (int code = 1; code <= 3; ++code) {
-            exec(QStringLiteral("INSERT INTO tblShift (Code, Name, LastActiveShift) VALUES (:c, "
-                                ":n, :a)"),
-                 {{QStringLiteral(":c"), code},
-                  {QStringLiteral(":n"), QStringLiteral("Shift %1").arg(code)},
-                  {QStringLiteral(":a"), activeCodes.contains(code) ? 1 : 0}});
+            insert(
+                "tblShift (Code, Name, LastActiveShift)",
+                {code, QStringLiteral("Shift %1").arg(code), activeCodes.contains(code) ? 1 : 0});
         }
     }
     QList<int> activeCodes() {

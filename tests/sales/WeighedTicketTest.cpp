@@ -26,24 +26,16 @@ protected:
         addGoods(eggs);
     }
     void mizanLine(const QString& key, qint64 plu, double weight, double qty) {
-        exec(QStringLiteral("INSERT INTO ") + table("MizanNetDetail", kMizanNetDatabase) +
-                 QStringLiteral(" (TotalBarcode, PluNo, Weight, Qty) VALUES (:k, :p, :w, :q)"),
-             {{QStringLiteral(":k"), key},
-              {QStringLiteral(":p"), plu},
-              {QStringLiteral(":w"), weight},
-              {QStringLiteral(":q"), qty}});
+        insert(table("MizanNetDetail", kMizanNetDatabase) +
+                   QStringLiteral(" (TotalBarcode, PluNo, Weight, Qty)"),
+               {key, plu, weight, qty});
     }
     void onlineLine(const QString& date, int receipt, int scale, qint64 item, double amount) {
-        Session s = db().session();
-        exec(
-            QStringLiteral("INSERT INTO ") + table("Sales", kOnlineSalesDatabase) +
-                QStringLiteral(" (") + s.dialect().quote(QStringLiteral("Date")) +
-                QStringLiteral(", Receipt, ScaleNo, ItemCode, Amount) VALUES (:d, :r, :s, :i, :a)"),
-            {{QStringLiteral(":d"), date},
-             {QStringLiteral(":r"), receipt},
-             {QStringLiteral(":s"), scale},
-             {QStringLiteral(":i"), item},
-             {QStringLiteral(":a"), amount}});
+        const QString dateColumn = db().dialect().quote(QStringLiteral("Date"));
+        insert(table("Sales", kOnlineSalesDatabase) + QStringLiteral(" (%1, Receipt, ScaleNo, "
+                                                                     "ItemCode, Amount)")
+                                                          .arg(dateColumn),
+               {date, receipt, scale, item, amount});
     }
     const SaleLine* lineOf(const QString& barcode) {
         const int row = sale().linesModel().findBarcode(barcode);

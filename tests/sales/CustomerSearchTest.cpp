@@ -18,9 +18,7 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        exec(
-            QStringLiteral("INSERT INTO tblCustomerGroup (Code, Name, Color, DiscountPercent) "
-                           "VALUES (1, 'Gold', 255, 5)"));
+        insert("tblCustomerGroup (Code, Name, Color, DiscountPercent)", {1, "Gold", 255, 5});
         customer(101, 10, "C-1", "Reza", "Karimi", "021-4455", "", "0912111", 1);
         customer(102, 11, "C-2", "Sara", "Ahmadi", "", "031-4455", "0935222", 0);
         customer(103, 10, "C-3", "Reza", "Moradi", "", "", "0912333", 0);

@@ -64,14 +64,9 @@ TEST_P(DocumentLoaderTest, ASavedDocumentBringsItsPricesTaxDiscountsBaseAndNote)
 }
 
 TEST_P(DocumentLoaderTest, APreInvoiceBringsItsLinesWithNamesAndKinds) {
-    exec(
-        QStringLiteral("INSERT INTO tblPreFactorH (Code, DocSum, Discount, Note, CompanyID) "
-                       "VALUES (77, 0, 200, 'pre', NULL)"));
-    Session s = db().session();
-    const qint64 id = s.scalarInt64(QStringLiteral("SELECT ID FROM tblPreFactorH WHERE Code = 77"));
-    exec(QStringLiteral("INSERT INTO tblPreFactorD (PreFactorHID, EAN_Code, Qty, Price) "
-                        "VALUES (:id, '1111', 3, 9900)"),
-         {{QStringLiteral(":id"), id}});
+    insert("tblPreFactorH (Code, DocSum, Discount, Note)", {77, 0, 200, "pre"});
+    const qint64 id = count(QStringLiteral("SELECT ID FROM tblPreFactorH WHERE Code = 77"));
+    insert("tblPreFactorD (PreFactorHID, EAN_Code, Qty, Price)", {id, "1111", 3, 9900});
     const auto doc = DocumentLoader(db()).loadPreInvoice(77);
     ASSERT_TRUE(doc.has_value());
     EXPECT_EQ(doc->preInvoiceCode, 77);

@@ -45,22 +45,13 @@ protected:
                        const QString& date = QStringLiteral("1404/01/01"), int branch = 0,
                        int station = 1) {
         const qint64 code = ++m_lastCode;
-        exec(QStringLiteral("INSERT INTO Whs_QTYDocHInternal (Code, DocNo, TransType, CompanyID, "
-                            "DocDate, StationID, DocSum) VALUES (:c, :n, :t, :b, :d, :s, :sum)"),
-             {{QStringLiteral(":c"), code},
-              {QStringLiteral(":n"), docNo},
-              {QStringLiteral(":t"), transType},
-              {QStringLiteral(":b"), branch == 0 ? m_branch : branch},
-              {QStringLiteral(":d"), date},
-              {QStringLiteral(":s"), station},
-              {QStringLiteral(":sum"), 1000.0 * code}});
+        insert(
+            "Whs_QTYDocHInternal (Code, DocNo, TransType, CompanyID, DocDate, StationID, DocSum)",
+            {code, docNo, transType, branch == 0 ? m_branch : branch, date, station,
+             1000.0 * code});
         for (const auto& [barcode, qty] : lines) {
-            exec(QStringLiteral("INSERT INTO Whs_QTYDocDInternal (Code, EAN_Code, Qty, Fee, Price) "
-                                "VALUES (:c, :b, :q, 100, :p)"),
-                 {{QStringLiteral(":c"), code},
-                  {QStringLiteral(":b"), barcode},
-                  {QStringLiteral(":q"), qty},
-                  {QStringLiteral(":p"), 100 * qty}});
+            insert("Whs_QTYDocDInternal (Code, EAN_Code, Qty, Fee, Price)",
+                   {code, barcode, qty, 100, 100 * qty});
         }
         return code;
     }

@@ -37,20 +37,10 @@ protected:
     }
     // An internal document with one line of the tea.
     void addInternal(qint64 code, int transType, const QString& date, double qty, double fee) {
-        exec(QStringLiteral("INSERT INTO Whs_QTYDocHInternal (Code, DocNo, TransType, CompanyID, "
-                            "DocDate) VALUES (:c, :c2, :t, :b, :d)"),
-             {{QStringLiteral(":c"), code},
-              {QStringLiteral(":c2"), QString::number(code)},
-              {QStringLiteral(":t"), transType},
-              {QStringLiteral(":b"), branch},
-              {QStringLiteral(":d"), date}});
-        exec(QStringLiteral("INSERT INTO Whs_QTYDocDInternal (Code, EAN_Code, Qty, Fee, Price) "
-                            "VALUES (:c, :b, :q, :f, :p)"),
-             {{QStringLiteral(":c"), code},
-              {QStringLiteral(":b"), kTea},
-              {QStringLiteral(":q"), qty},
-              {QStringLiteral(":f"), fee},
-              {QStringLiteral(":p"), qty * fee}});
+        insert("Whs_QTYDocHInternal (Code, DocNo, TransType, CompanyID, DocDate)",
+               {code, QString::number(code), transType, branch, date});
+        insert("Whs_QTYDocDInternal (Code, EAN_Code, Qty, Fee, Price)",
+               {code, kTea, qty, fee, qty * fee});
     }
     double stock() { return ShopFixture::stock(kTea); }
     InternalSaleResult sell(double qty, SaleMode mode = SaleMode::Sale,

@@ -31,11 +31,8 @@ TEST_P(PaymentAccountsTest, OpenBankLedgersAndTheCashBoxWithTheirTerminals) {
     account(101, 10, QStringLiteral("Customers"));
     account(13, 1, QStringLiteral("Petty"));
     const int saman = account(903, 9, QStringLiteral("Saman"));
-    exec(QStringLiteral("INSERT INTO tblBanks (AccountingGroupId, PosId) VALUES (:a, :pos), (:b, "
-                        "NULL)"),
-         {{QStringLiteral(":a"), mellat},
-          {QStringLiteral(":pos"), qint64(31005566)},
-          {QStringLiteral(":b"), saman}});
+    insert("tblBanks (AccountingGroupId, PosId)", {mellat, qint64(31005566)});
+    insert("tblBanks (AccountingGroupId, PosId)", {saman, QVariant()});
 
     PaymentAccounts accounts(db());
     QList<int> ids;

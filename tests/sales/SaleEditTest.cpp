@@ -113,15 +113,7 @@ TEST_P(SaleEditTest, TheChecksRefuseWithTheirMessagesAndWriteNothing) {
 // A sale paid part in cash, part by card terminal and the rest owed: an edit of its lines
 // moves only the owing and income rows; a changed received amount cannot follow the split.
 TEST_P(SaleEditTest, TheSplitPaymentStaysAndItsReceivedAmountCannotChange) {
-    exec(
-        QStringLiteral("INSERT INTO tblAccountingGroup (Code, ParentCode, Name) VALUES "
-                       "(1101, 11, 'Bank')"));
-    const auto account = [this](int code) {
-        Session s = db().session();
-        return static_cast<int>(
-            s.scalarInt64(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = :c"),
-                          {{QStringLiteral(":c"), code}}));
-    };
+    insert("tblAccountingGroup (Code, ParentCode, Name)", {1101, 11, "Bank"});
     SaleSettlement st;
     st.received = 150000;
     st.payments = {{SalePayment::Cash, account(101), {}, 50000},

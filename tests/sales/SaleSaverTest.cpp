@@ -135,10 +135,8 @@ TEST_P(SaleSaverTest, AShortPaymentIsSavedOwingOnlyWhenConfirmed) {
 }
 
 TEST_P(SaleSaverTest, AFailureHalfwayLeavesNothingAndTheSameSaleSavesAfterwards) {
-    exec(
-        QStringLiteral("INSERT INTO tblGiftCard (CardID, Amount, CustomerID) VALUES (777, 50000, "
-                       "501)"));
-    exec(QStringLiteral("INSERT INTO Serial (SerialNo, Ean_Code, Code) VALUES ('S-1', '2222', 1)"));
+    insert("tblGiftCard (CardID, Amount, CustomerID)", {777, 50000, 501});
+    insert("Serial (SerialNo, Ean_Code, Code)", {"S-1", "2222", 1});
     ASSERT_TRUE(sale().selectCustomer(501));
     settlement.giftCardId = 777;
     settlement.giftCardAmount = 30000;
@@ -225,9 +223,8 @@ TEST_P(SaleSaverTest, ALoyaltyGiftCountsGiftsAndTheReceiptAndSmsFollowTheCommit)
 }
 
 TEST_P(SaleSaverTest, AClosedPreInvoiceAndTheActiveShiftAreStamped) {
-    exec(
-        QStringLiteral("INSERT INTO tblShift (Code, Name, LastActiveShift) VALUES (1, 'Morning', "
-                       "0), (2, 'Evening', 1)"));
+    insert("tblShift (Code, Name, LastActiveShift)", {1, "Morning", 0});
+    insert("tblShift (Code, Name, LastActiveShift)", {2, "Evening", 1});
     exec(QStringLiteral("INSERT INTO tblPreFactorH (Code, IsTrenchant) VALUES (12, 0)"));
     settlement.preInvoiceCode = 12;
     const SaleSaveResult r = saver->save(sale(), settlement);

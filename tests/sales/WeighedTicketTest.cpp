@@ -84,13 +84,6 @@ TEST_P(WeighedTicket, AnOnlineSalesTicketReadsTodaysReceiptOfItsScale) {
     EXPECT_DOUBLE_EQ(lineOf(QStringLiteral("502"))->quantity, 6);
 }
 
-TEST_P(WeighedTicket, TicketsAreBarcodesWhileTheirScaleSystemsAreOff) {
-    addGoods({QStringLiteral("23001237"), 100, 0});
-    sale().enterText(QStringLiteral("23001237"));
-    ASSERT_EQ(sale().lines().size(), 1);
-    EXPECT_EQ(sale().lines().at(0).barcode, QStringLiteral("23001237"));
-}
-
 SANDOGH_INSTANTIATE_BACKENDS(WeighedTicket);
 
 }  // namespace

@@ -11,8 +11,6 @@
 
 #include "SaleShopTest.h"
 #include "data/Database.h"
-#include "data/Transaction.h"
-#include "data/procedures/StockDocumentWriter.h"
 #include "devices/EscPosRaster.h"
 #include "sales/ReceiptCommand.h"
 #include "sales/ReceiptData.h"
@@ -26,8 +24,6 @@ namespace sandogh::test {
 namespace {
 
 using procedures::StockDocumentHeader;
-using procedures::StockDocumentLine;
-using procedures::StockDocumentWriter;
 
 const QString kShop = QStringLiteral("فروشگاه آزمایشی");
 
@@ -55,11 +51,9 @@ protected:
         insert("Types (Counter, TypeNo, Name, Value1)", {counter, 10, name, family});
     }
 
-    // A sale saved the way saving writes it: header and lines in one transaction.
+    // A sale of milk and bread saved the way saving writes it.
     qint64 saveSale(double docSum, std::optional<int> customer = {},
                     std::optional<int> discountType = {}, std::optional<int> overhead = {}) {
-        Session s = db().session();
-        Transaction tx(s);
         StockDocumentHeader h;
         h.docNo = QStringLiteral("7");
         h.transType = procedures::kSale;
@@ -74,14 +68,7 @@ protected:
         h.payType = 1;
         h.discountTypeId = discountType;
         h.overheadId = overhead;
-        const qint64 code = StockDocumentWriter::insertHeader(s, h);
-        EXPECT_GT(code, 0);
-        StockDocumentLine milk{0, code, QStringLiteral("111"), 2, 0, 0, 10000, 20000, 0, 1};
-        StockDocumentLine bread{0, code, QStringLiteral("222"), 2, 0, 0, 2500, 5000, 0, 1};
-        EXPECT_GT(StockDocumentWriter::insertLine(s, code, milk), 0);
-        EXPECT_GT(StockDocumentWriter::insertLine(s, code, bread), 0);
-        EXPECT_TRUE(tx.commit());
-        return code;
+        return writeDocument(h, {{"111", 2, 10000, 20000}, {"222", 2, 2500, 5000}}, false);
     }
 
     void companionPresent() {

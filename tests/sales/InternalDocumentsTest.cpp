@@ -1,7 +1,7 @@
 // The internal documents' list, delete and reprint on both backends: the list with the
 // branch as the party, the delete by kind and number with the stock that
 // follows and a failure that leaves everything as it was, and a number on two dates that
-// asks for the date.
+// asks for the date (the ordinary reprint differs only in the documents it reads).
 
 #include <gtest/gtest.h>
 
@@ -180,6 +180,11 @@ TEST_P(InternalDocumentsTest, ReprintAsksTheDateOfANumberOnTwoDatesAndPrintsTheB
     ASSERT_EQ(found.status, SaleReprint::Lookup::Status::Found);
     EXPECT_EQ(found.code, second);
     EXPECT_EQ(reprint.find(3, QStringLiteral("8")).status, SaleReprint::Lookup::Status::NotFound);
+    EXPECT_EQ(reprint.find(2, QStringLiteral("8"), QStringLiteral("1404/01/03")).status,
+              SaleReprint::Lookup::Status::NotFound);
+    EXPECT_EQ(messages().countOf(ReceiptReader::notFoundText()), 2);
+    // The ordinary documents' reprint reads the ordinary sales only.
+    EXPECT_EQ(SaleReprint(db(), messages()).find(2, QStringLiteral("8")).code, 900);
 
     QTemporaryDir folder;
     QFile program(folder.filePath(QStringLiteral("Companion.exe")));

@@ -1,5 +1,6 @@
 // Saving beside other cash desks: the number on the screen is a proposal and the save
-// writes the next free one; a save sends the same few statements whatever its length.
+// writes the next free one (from 1 each day when the numbers are daily); a save sends
+// the same few statements whatever its length.
 
 #include <gtest/gtest.h>
 
@@ -61,6 +62,12 @@ TEST_P(SaleSaverDesksTest, TheNumberWrittenIsTakenAtTheSaveNotFromTheScreen) {
     EXPECT_EQ(messages().countOf(SaleSaveTexts::docNoTaken()), 1);
     typed.docNo = QStringLiteral("40");
     EXPECT_EQ(saver->save(sale(), typed).docNo, QStringLiteral("40"));
+
+    // With daily numbers the next day starts again at 1.
+    setFlag("Tools", "IsResetFactorNo", true);
+    clock().set(QDateTime(QDate(2025, 3, 22), QTime(10, 0)));
+    SaleSettlement nextDay = settlement();
+    EXPECT_EQ(saver->save(sale(), nextDay).docNo, QStringLiteral("1"));
 }
 
 TEST_P(SaleSaverDesksTest, ASaveSendsAsManyStatementsForTwentyLinesAsForOne) {

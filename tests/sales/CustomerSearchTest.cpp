@@ -13,11 +13,7 @@ namespace {
 
 class CustomerSearchTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         insert("tblCustomerGroup (Code, Name, Color, DiscountPercent)", {1, "Gold", 255, 5});
         customer(101, 10, "C-1", "Reza", "Karimi", "021-4455", "", "0912111", 1);
         customer(102, 11, "C-2", "Sara", "Ahmadi", "", "031-4455", "0935222", 0);

@@ -11,11 +11,7 @@ namespace {
 
 class DocumentLoaderTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         addGoods(
             {QStringLiteral("1111"), 10000, 9, QStringLiteral("Tea"), 0, {}, true, false, 0, 3});
         addGoods({QStringLiteral("2222"), 5000, 0, QStringLiteral("Rice")});

@@ -18,11 +18,7 @@ const QString kTea = QStringLiteral("5555");
 
 class InternalSaleTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         addStation(1);
         addGoods({kTea, 5000, 0, QStringLiteral("Tea")});
         Session s = db().session();

@@ -32,11 +32,7 @@ const QString kNote = QStringLiteral("يادداشت, با ويرگول\nو سط
 
 class InternalTransferTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         bool skip = false;
         m_branchShop = createOrReport(backend(), &skip);
         ASSERT_NE(m_branchShop, nullptr);

@@ -14,11 +14,7 @@ constexpr int kPlainKind = 1;
 
 class LoyaltyGiftTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         insert("DiscountType (Id, Name, IsImpactGift)", {kPlainKind, "plain", 0});
         insert("DiscountType (Id, Name, IsImpactGift)", {kGiftKind, "gift", 1});
         setOption("Loyalty", "BuyFactor", QStringLiteral("1000000"));

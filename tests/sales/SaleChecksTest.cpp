@@ -14,11 +14,7 @@ const QString kRice = QStringLiteral("2222");
 
 class SaleChecksTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         addGoods({kTea, 10000, 0, QStringLiteral("Tea")});
         addGoods({kRice, 5000, 0, QStringLiteral("Rice")});
         addDocument(1, 1, QStringLiteral("1"), kTea, 5, 8000, QStringLiteral("1403/12/01"), 0, 0, 0,

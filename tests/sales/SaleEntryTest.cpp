@@ -13,11 +13,7 @@ namespace {
 
 class SaleEntry : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         addGoods({QStringLiteral("6261234567890"), 10000, 9, QStringLiteral("Tea")});
         addGoods({QStringLiteral("1001"), 2500, 0, QStringLiteral("Bread")});
         sale().setActions(&actions);

@@ -29,11 +29,7 @@ const QString kShop = QStringLiteral("فروشگاه آزمایشی");
 
 class SaleReceiptTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (HasFatalFailure() || IsSkipped()) {
-            return;
-        }
+    void SetUpShop() override {
         ASSERT_TRUE(m_folder.isValid());
         insert("Company (Company_Name, Company_Tel, Company_Address)",
                {kShop, "021-1234", QStringLiteral("تهران، میدان آزادی")});

@@ -17,11 +17,7 @@ namespace {
 
 class SaleSaveChecksTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         addGoods({QStringLiteral("2222"), 10000, 0, QStringLiteral("Rice")});
         exec(QStringLiteral(
             "INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (1, 'Off', 0), "

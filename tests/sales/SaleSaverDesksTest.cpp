@@ -12,11 +12,8 @@ namespace {
 
 class SaleSaverDesksTest : public SavedSalesTest {
 protected:
-    void SetUp() override {
-        SavedSalesTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
+        SavedSalesTest::SetUpShop();
         for (int i = 0; i < 20; ++i) {
             addGoods({QStringLiteral("50%1").arg(i), 1000, 0, QStringLiteral("Article")});
         }

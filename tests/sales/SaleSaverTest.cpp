@@ -19,11 +19,8 @@ namespace {
 // A sale of one rice ready to save.
 class SaleSaverTest : public SavedSalesTest {
 protected:
-    void SetUp() override {
-        SavedSalesTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
+        SavedSalesTest::SetUpShop();
         ASSERT_TRUE(sale().addGoods(QStringLiteral("2222")));
         settlement.payType = 1;
     }

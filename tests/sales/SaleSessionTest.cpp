@@ -14,11 +14,7 @@ namespace {
 
 class SaleSessionTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         addGoods({QStringLiteral("1111"), 10000, 9, QStringLiteral("Tea")});
         addGoods({QStringLiteral("2222"), 5000, 0, QStringLiteral("Rice")});
         sale().setActions(&actions);

@@ -27,6 +27,7 @@ void SaleShopTest::SetUp() {
     exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (1, :name)"),
          {{QStringLiteral(":name"), kCashPaymentName}});
     m_sale->setStation(1);
+    SetUpShop();
 }
 
 void SaleShopTest::TearDown() {

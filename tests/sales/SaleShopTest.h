@@ -34,8 +34,10 @@ protected:
     // The name of payment kind 1, which every shop of the fixture has, as is station 1.
     static const QString kCashPaymentName;
 
+    // The shop, then the suite's own rows (SetUpShop) once the shop is there.
     void SetUp() override;
     void TearDown() override;
+    virtual void SetUpShop() {}
 
     SaleSession& sale() { return *m_sale; }
     MachineSettings& settings() { return *m_settings; }

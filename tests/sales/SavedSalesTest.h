@@ -23,11 +23,7 @@ class SavedSalesTest : public SaleShopTest {
 protected:
     static constexpr int kCustomer = 501;
 
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         addGoods({QStringLiteral("2222"), 100000, 0, QStringLiteral("Rice")});
         addGoods({QStringLiteral("3333"), 2000, 0, QStringLiteral("Tea")});
         addDocument(1, 1, QStringLiteral("1"), QStringLiteral("2222"), 50, 90000);

@@ -14,11 +14,7 @@ namespace {
 
 class WeighedTicket : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         setOption("ScaleTicket", "Prefix", QStringLiteral("2"));
         TestGoods cheese{QStringLiteral("501"), 400000, 9, QStringLiteral("Cheese")};
         cheese.type = 1;  // weighed: the scale sends grams

@@ -32,7 +32,7 @@ protected:
     }
 };
 
-TEST_P(SaleChecksTest, TheStockCheckStopsALineAboveTheWarehouseQuantity) {
+TEST_P(SaleChecksTest, TheStockCheckStopsALineAboveTheChosenWarehousesQuantity) {
     setFlag("IsExistQty", "Enable", true);
     ring(kTea, 5);
     ring(kRice, 7);  // 6 on hand
@@ -43,15 +43,13 @@ TEST_P(SaleChecksTest, TheStockCheckStopsALineAboveTheWarehouseQuantity) {
     sale().changeQuantity(1, 6);
     EXPECT_TRUE(sale().checkStock());
     EXPECT_EQ(sale().lastFailedRow(), -1);
-}
-
-TEST_P(SaleChecksTest, TheStockCheckCountsTheChosenWarehouseOnly) {
-    setFlag("IsExistQty", "Enable", true);
-    ring(kRice, 2);
-    sale().setWarehouse(QStringLiteral("1"));  // the rice is in warehouse 2
+    // Only the chosen warehouse counts: the tea is in warehouse 1, the rice in 2.
+    sale().setWarehouse(QStringLiteral("1"));
     EXPECT_FALSE(sale().checkStock());
+    EXPECT_EQ(sale().lastFailedRow(), 1);
     sale().setWarehouse(QStringLiteral("2"));
-    EXPECT_TRUE(sale().checkStock());
+    EXPECT_FALSE(sale().checkStock());
+    EXPECT_EQ(sale().lastFailedRow(), 0);
 }
 
 TEST_P(SaleChecksTest, TheStockCheckSkipsFlaggedLinesReturnsAndAnOptionOff) {

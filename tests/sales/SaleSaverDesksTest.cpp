@@ -47,9 +47,8 @@ TEST_P(SaleSaverDesksTest, TheNumberWrittenIsTakenAtTheSaveNotFromTheScreen) {
     EXPECT_EQ(r.docNo, QStringLiteral("2"));
     EXPECT_EQ(mine.docNo, QStringLiteral("2"));
     EXPECT_EQ(saver->previousInvoice(1).docNo, QStringLiteral("2"));
-    Session s = db().session();
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Serial FROM tblDocumentH WHERE ID = :id"),
-                           {{QStringLiteral(":id"), r.voucherId}}),
+    EXPECT_EQ(text(QStringLiteral("SELECT Serial FROM tblDocumentH WHERE ID = :id"),
+                   {{QStringLiteral(":id"), r.voucherId}}),
               QStringLiteral("2"));
 
     // A typed number is written as typed, and refused once the day has it.

@@ -99,9 +99,8 @@ TEST_P(SaleSaverTest, AReturnIsWrittenAsTypeThreeWithTheReturnVoucher) {
     EXPECT_EQ(count("Whs_QTYDocH", QStringLiteral("TransType = 3 AND CompanyID = 501 AND "
                                                   "ReturnCauseId = 2")),
               1);
-    Session s = db().session();
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT Note FROM tblDocumentH WHERE ID = :id"),
-                           {{QStringLiteral(":id"), r.voucherId}}),
+    EXPECT_EQ(text(QStringLiteral("SELECT Note FROM tblDocumentH WHERE ID = :id"),
+                   {{QStringLiteral(":id"), r.voucherId}}),
               SaleSaveTexts::returnVoucherNote() + QStringLiteral("1") +
                   SaleSaveTexts::voucherNoteDate() + QStringLiteral("1404/01/01"));
     EXPECT_EQ(posted(r.voucherId, 602), std::make_pair(100000.0, 0.0));
@@ -210,12 +209,9 @@ TEST_P(SaleSaverTest, ALoyaltyGiftCountsGiftsAndTheReceiptAndSmsFollowTheCommit)
     settlement.discountTypeId = 1;
     ASSERT_TRUE(saver->save(sale(), settlement).saved);
     EXPECT_EQ(receipts, 1);
-    Session s = db().session();
-    EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT DiscountTakenTotal FROM Types WHERE Counter = "
-                                           "501")),
+    EXPECT_EQ(number(QStringLiteral("SELECT DiscountTakenTotal FROM Types WHERE Counter = 501")),
               2);
-    EXPECT_EQ(s.scalarText(QStringLiteral("SELECT LastDiscountTakenDate FROM Types WHERE "
-                                          "Counter = 501")),
+    EXPECT_EQ(text(QStringLiteral("SELECT LastDiscountTakenDate FROM Types WHERE Counter = 501")),
               QStringLiteral("1404/01/01"));
 }
 

@@ -49,10 +49,6 @@ protected:
         GiftCardService cards(db(), messages());
         return cards.lookUp(card, total, kToday);
     }
-    QString lastMessage() {
-        const auto shown = messages().messages();
-        return shown.isEmpty() ? QString() : shown.last().text;
-    }
 };
 
 TEST_P(GiftCardServiceTest, ChecksRefuseInTheirOrderWithTheirMessages) {

@@ -49,6 +49,11 @@ protected:
     }
 
     QString table(const char* name, const char* database = nullptr);
+    // The text of the last message shown, "" when none.
+    QString lastMessage() {
+        const auto shown = messages().messages();
+        return shown.isEmpty() ? QString() : shown.last().text;
+    }
     // A row with every value bound: insert("Goods (EAN_Code, Cost)", {barcode, 10}).
     void insert(const QString& tableAndColumns, const QVariantList& values);
     // The central database `name` with its GiftCard, GiftCardItem and CenterTypes tables.

@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "SaleShopTest.h"
-#include "data/Transaction.h"
 #include "data/procedures/StockDocumentWriter.h"
 #include "data/repositories/CenterBranchesRepository.h"
 #include "data/schema/Migrator.h"
@@ -61,26 +60,19 @@ protected:
 
     // An internal sale of the centre to the branch, its stock taken out.
     qint64 sellInternally(const QString& docNo, const QList<std::pair<QString, double>>& lines) {
-        Session s = db().session();
-        Transaction tx(s);
         StockDocumentHeader h;
         h.docNo = docNo;
         h.transType = kSale;
         h.companyId = m_branch;
         h.docDate = QStringLiteral("1404/01/01");
         h.note = kNote;
-        const qint64 code = StockDocumentWriter::insertInternalHeader(s, h);
-        EXPECT_GT(code, 0);
+        QList<Line> rows;
         for (const auto& [barcode, qty] : lines) {
-            StockDocumentLine l;
-            l.eanCode = barcode;
-            l.qty = qty;
-            l.fee = 5000;
-            l.price = 5000 * qty;
-            EXPECT_GT(StockDocumentWriter::insertInternalLine(s, code, l), 0);
+            rows.append({barcode, qty, 5000, 5000 * qty});
         }
+        const qint64 code = writeDocument(h, rows, true);
+        Session s = db().session();
         EXPECT_TRUE(StockDocumentWriter::addInternalToStock(s, code));
-        EXPECT_TRUE(tx.commit());
         return code;
     }
 

@@ -13,14 +13,8 @@ namespace {
 
 class CustomerSearchTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
-        exec(
-            QStringLiteral("INSERT INTO tblCustomerGroup (Code, Name, Color, DiscountPercent) "
-                           "VALUES (1, 'Gold', 255, 5)"));
+    void SetUpShop() override {
+        insert("tblCustomerGroup (Code, Name, Color, DiscountPercent)", {1, "Gold", 255, 5});
         customer(101, 10, "C-1", "Reza", "Karimi", "021-4455", "", "0912111", 1);
         customer(102, 11, "C-2", "Sara", "Ahmadi", "", "031-4455", "0935222", 0);
         customer(103, 10, "C-3", "Reza", "Moradi", "", "", "0912333", 0);
@@ -28,19 +22,11 @@ protected:
     }
     void customer(int counter, int typeNo, const char* code, const char* name, const char* family,
                   const char* tel, const char* tel3, const char* mobile, int group) {
-        exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Code, Name, Value1, Value2, "
-                            "Value3, Value5, CstGrpCode, Account) VALUES (:c, :t, :code, :n, :f, "
-                            ":tel, :tel3, :m, :g, :a)"),
-             {{QStringLiteral(":c"), counter},
-              {QStringLiteral(":t"), typeNo},
-              {QStringLiteral(":code"), QString::fromLatin1(code)},
-              {QStringLiteral(":n"), QString::fromLatin1(name)},
-              {QStringLiteral(":f"), QString::fromLatin1(family)},
-              {QStringLiteral(":tel"), QString::fromLatin1(tel)},
-              {QStringLiteral(":tel3"), QString::fromLatin1(tel3)},
-              {QStringLiteral(":m"), QString::fromLatin1(mobile)},
-              {QStringLiteral(":g"), group == 0 ? QVariant() : QVariant(group)},
-              {QStringLiteral(":a"), 9000 + counter}});
+        insert(
+            "Types (Counter, TypeNo, Code, Name, Value1, Value2, Value3, Value5, CstGrpCode, "
+            "Account)",
+            {counter, typeNo, code, name, family, tel, tel3, mobile,
+             group == 0 ? QVariant() : QVariant(group), 9000 + counter});
     }
     QList<int> found(CustomerSearch::Mode mode, const char* text) {
         CustomerSearch search(db());

@@ -11,11 +11,7 @@ namespace {
 
 class DocumentLoaderTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         addGoods(
             {QStringLiteral("1111"), 10000, 9, QStringLiteral("Tea"), 0, {}, true, false, 0, 3});
         addGoods({QStringLiteral("2222"), 5000, 0, QStringLiteral("Rice")});
@@ -23,25 +19,13 @@ protected:
     }
     // Sale number docNo with two lines sold by the user "ali".
     void savedSale(qint64 code, const QString& docNo, double teaFee, const QString& date) {
-        Session s = db().session();
-        const qint64 user = s.scalarInt64(QStringLiteral("SELECT ID FROM Users"));
-        exec(QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, Discount, "
-                            "Base, Note, CompanyID) VALUES (:c, :n, 2, :d, 1500, 'B-7', 'note', "
-                            "NULL)"),
-             {{QStringLiteral(":c"), code},
-              {QStringLiteral(":n"), docNo},
-              {QStringLiteral(":d"), date}});
-        exec(
-            QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Discount, Fee, "
-                           "Price, TaxValue, UserID) VALUES (:c, '1111', 2, :f, 5, :f2, 0, 9, :u)"),
-            {{QStringLiteral(":c"), code},
-             {QStringLiteral(":f"), teaFee},
-             {QStringLiteral(":f2"), teaFee},
-             {QStringLiteral(":u"), user}});
-        exec(QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Discount, Fee, "
-                            "Price, TaxValue, UserID) VALUES (:c, 'GONE', 1, 700, 0, 700, 700, 0, "
-                            ":u)"),
-             {{QStringLiteral(":c"), code}, {QStringLiteral(":u"), user}});
+        const qint64 user = count(QStringLiteral("SELECT ID FROM Users"));
+        insert("Whs_QTYDocH (Code, DocNo, TransType, DocDate, Discount, Base, Note)",
+               {code, docNo, 2, date, 1500, "B-7", "note"});
+        const QString line = QStringLiteral(
+            "Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Discount, Fee, Price, TaxValue, UserID)");
+        insert(line, {code, "1111", 2, teaFee, 5, teaFee, 0, 9, user});
+        insert(line, {code, "GONE", 1, 700, 0, 700, 700, 0, user});
     }
 };
 
@@ -76,14 +60,9 @@ TEST_P(DocumentLoaderTest, ASavedDocumentBringsItsPricesTaxDiscountsBaseAndNote)
 }
 
 TEST_P(DocumentLoaderTest, APreInvoiceBringsItsLinesWithNamesAndKinds) {
-    exec(
-        QStringLiteral("INSERT INTO tblPreFactorH (Code, DocSum, Discount, Note, CompanyID) "
-                       "VALUES (77, 0, 200, 'pre', NULL)"));
-    Session s = db().session();
-    const qint64 id = s.scalarInt64(QStringLiteral("SELECT ID FROM tblPreFactorH WHERE Code = 77"));
-    exec(QStringLiteral("INSERT INTO tblPreFactorD (PreFactorHID, EAN_Code, Qty, Price) "
-                        "VALUES (:id, '1111', 3, 9900)"),
-         {{QStringLiteral(":id"), id}});
+    insert("tblPreFactorH (Code, DocSum, Discount, Note)", {77, 0, 200, "pre"});
+    const qint64 id = count(QStringLiteral("SELECT ID FROM tblPreFactorH WHERE Code = 77"));
+    insert("tblPreFactorD (PreFactorHID, EAN_Code, Qty, Price)", {id, "1111", 3, 9900});
     const auto doc = DocumentLoader(db()).loadPreInvoice(77);
     ASSERT_TRUE(doc.has_value());
     EXPECT_EQ(doc->preInvoiceCode, 77);

@@ -14,48 +14,23 @@ constexpr int kPlainKind = 1;
 
 class LoyaltyGiftTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
-        exec(QStringLiteral("INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (:plain, "
-                            ":plainName, :no), (:gift, :giftName, :yes)"),
-             {{QStringLiteral(":plain"), kPlainKind},
-              {QStringLiteral(":plainName"), QStringLiteral("plain")},
-              {QStringLiteral(":no"), 0},
-              {QStringLiteral(":gift"), kGiftKind},
-              {QStringLiteral(":giftName"), QStringLiteral("gift")},
-              {QStringLiteral(":yes"), 1}});
+    void SetUpShop() override {
+        insert("DiscountType (Id, Name, IsImpactGift)", {kPlainKind, "plain", 0});
+        insert("DiscountType (Id, Name, IsImpactGift)", {kGiftKind, "gift", 1});
         setOption("Loyalty", "BuyFactor", QStringLiteral("1000000"));
         setOption("Loyalty", "AmountRebate", QStringLiteral("50000"));
     }
     void customer(int counter, double taken, const QString& lastDate, bool active = true,
                   int typeNo = 10) {
-        exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Name, Active, "
-                            "DiscountTakenTotal, LastDiscountTakenDate) VALUES (:counter, "
-                            ":typeNo, :name, :active, :taken, :last)"),
-             {{QStringLiteral(":counter"), counter},
-              {QStringLiteral(":typeNo"), typeNo},
-              {QStringLiteral(":name"), QStringLiteral("Reza")},
-              {QStringLiteral(":active"), active ? 1 : 0},
-              {QStringLiteral(":taken"), taken},
-              {QStringLiteral(":last"), lastDate}});
+        insert("Types (Counter, TypeNo, Name, Active, DiscountTakenTotal, LastDiscountTakenDate)",
+               {counter, typeNo, "Reza", active ? 1 : 0, taken, lastDate});
     }
+    // A document of the customer's; one of another origin (a DocType) does not count.
     void document(qint64 code, int transType, double docSum, int company = kCustomer,
                   bool otherOrigin = false) {
-        exec(QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, CompanyID, DocDate, "
-                            "DocSum) VALUES (:code, :no, :type, :company, :date, :sum)"),
-             {{QStringLiteral(":code"), code},
-              {QStringLiteral(":no"), QString::number(code)},
-              {QStringLiteral(":type"), transType},
-              {QStringLiteral(":company"), company},
-              {QStringLiteral(":date"), QStringLiteral("1403/05/05")},
-              {QStringLiteral(":sum"), docSum}});
-        if (otherOrigin) {
-            exec(QStringLiteral("UPDATE Whs_QTYDocH SET DocType = :t WHERE Code = :code"),
-                 {{QStringLiteral(":t"), 1}, {QStringLiteral(":code"), code}});
-        }
+        insert("Whs_QTYDocH (Code, DocNo, TransType, CompanyID, DocDate, DocSum, DocType)",
+               {code, QString::number(code), transType, company, "1403/05/05", docSum,
+                otherOrigin ? QVariant(1) : QVariant()});
     }
     LoyaltyGift gift() { return LoyaltyGift(db(), settings(), messages()); }
 };
@@ -140,9 +115,7 @@ TEST_P(LoyaltyGiftTest, GiftsTakenAreReadOnlyForActiveParties) {
     EXPECT_TRUE(g.countsAsGift(kGiftKind));
     EXPECT_FALSE(g.countsAsGift(kPlainKind));
     // NULL counts as 1; a kind that does not exist counts as none.
-    exec(QStringLiteral("INSERT INTO DiscountType (Id, Name) VALUES (:unset, :name)"),
-         {{QStringLiteral(":unset"), kGiftKind + 10},
-          {QStringLiteral(":name"), QStringLiteral("unset")}});
+    insert("DiscountType (Id, Name)", {kGiftKind + 10, "unset"});
     EXPECT_TRUE(g.countsAsGift(kGiftKind + 10));
     EXPECT_FALSE(g.countsAsGift(kGiftKind + 11));
 }
@@ -167,11 +140,7 @@ TEST(LoyaltyGiftCount, WholeGiftsOnly) {
 TEST_P(LoyaltyGiftTest, CustomerCardSummaryCountsCardsAndGifts) {
     customer(kCustomer, 2, QStringLiteral("1403/02/02"));
     for (double amount : {200000.0, 300000.0}) {
-        exec(QStringLiteral("INSERT INTO tblGiftCard (CardID, CustomerID, Amount) VALUES (:card, "
-                            ":customer, :amount)"),
-             {{QStringLiteral(":card"), qint64(9000)},
-              {QStringLiteral(":customer"), kCustomer},
-              {QStringLiteral(":amount"), amount}});
+        insert("tblGiftCard (CardID, CustomerID, Amount)", {qint64(9000), kCustomer, amount});
     }
     CustomerCardSummary summary(db());
     const CustomerCardSummary::Figures f = summary.figures(kCustomer);

@@ -18,16 +18,9 @@ namespace {
 class PaymentAccountsTest : public SaleShopTest {
 protected:
     int account(int code, int parentCode, const QString& name, bool open = true) {
-        exec(QStringLiteral("INSERT INTO tblAccountingGroup (Code, ParentCode, Name, IsOpen) "
-                            "VALUES (:code, :parent, :name, :open)"),
-             {{QStringLiteral(":code"), code},
-              {QStringLiteral(":parent"), parentCode},
-              {QStringLiteral(":name"), name},
-              {QStringLiteral(":open"), open ? 1 : 0}});
-        Session s = db().session();
-        return int(s.scalarInt64(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = "
-                                                ":code"),
-                                 {{QStringLiteral(":code"), code}}));
+        insert("tblAccountingGroup (Code, ParentCode, Name, IsOpen)",
+               {code, parentCode, name, open ? 1 : 0});
+        return ShopFixture::account(code);
     }
 };
 
@@ -38,11 +31,8 @@ TEST_P(PaymentAccountsTest, OpenBankLedgersAndTheCashBoxWithTheirTerminals) {
     account(101, 10, QStringLiteral("Customers"));
     account(13, 1, QStringLiteral("Petty"));
     const int saman = account(903, 9, QStringLiteral("Saman"));
-    exec(QStringLiteral("INSERT INTO tblBanks (AccountingGroupId, PosId) VALUES (:a, :pos), (:b, "
-                        "NULL)"),
-         {{QStringLiteral(":a"), mellat},
-          {QStringLiteral(":pos"), qint64(31005566)},
-          {QStringLiteral(":b"), saman}});
+    insert("tblBanks (AccountingGroupId, PosId)", {mellat, qint64(31005566)});
+    insert("tblBanks (AccountingGroupId, PosId)", {saman, QVariant()});
 
     PaymentAccounts accounts(db());
     QList<int> ids;

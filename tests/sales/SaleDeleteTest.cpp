@@ -35,15 +35,12 @@ protected:
 TEST_P(SaleDeleteTest, APaymentOnTheSaleOrOnItsVoucherKeepsItUntilThePaymentIsRemoved) {
     const SaleSaveResult r = sell({{QStringLiteral("2222"), 2}});
     const qint64 rows = rowsOf(r);
-    exec(QStringLiteral("INSERT INTO OtherPayment (Code, CompanyID, TransType, ReceivedPrice) "
-                        "VALUES (:c, 501, 2, 1000)"),
-         {{QStringLiteral(":c"), r.code}});
+    insert("OtherPayment (Code, CompanyID, TransType, ReceivedPrice)", {r.code, 501, 2, 1000});
     EXPECT_EQ(deleteSale(r), SaleDelete::Outcome::HasMovements);
     EXPECT_EQ(messages().countOf(SaleDelete::movementsText()), 1);
     exec(QStringLiteral("DELETE FROM OtherPayment"));
-    exec(QStringLiteral("INSERT INTO tblSourcePayment (Code, TypesCounter, PaymentKind, Amount, "
-                        "DocumentHID) VALUES (1, 501, 0, 1000, :v)"),
-         {{QStringLiteral(":v"), r.voucherId}});
+    insert("tblSourcePayment (Code, TypesCounter, PaymentKind, Amount, DocumentHID)",
+           {1, 501, 0, 1000, r.voucherId});
     EXPECT_EQ(deleteSale(r), SaleDelete::Outcome::HasMovements);
     EXPECT_EQ(messages().countOf(SaleDelete::movementsText()), 2);
     EXPECT_EQ(rowsOf(r), rows);
@@ -61,18 +58,15 @@ TEST_P(SaleDeleteTest, ASaleThatTookThreeGiftsGivesOneBack) {
     st.discountTypeId = 5;
     st.loyaltyGift = true;
     const SaleSaveResult r = sell({{QStringLiteral("2222"), 1}}, st, kCustomer);
-    Session s = db().session();
     const QString taken =
         QStringLiteral("SELECT DiscountTakenTotal FROM Types WHERE Counter = 501");
-    ASSERT_EQ(s.scalarInt64(taken), 3);
+    ASSERT_EQ(number(taken), 3);
     ASSERT_EQ(deleteSale(r), SaleDelete::Outcome::Deleted);
-    EXPECT_EQ(s.scalarInt64(taken), 2);
+    EXPECT_EQ(number(taken), 2);
 }
 
 TEST_P(SaleDeleteTest, AFailurePartWayLeavesTheDocumentItsVoucherCardAndStockWhole) {
-    exec(
-        QStringLiteral("INSERT INTO tblGiftCard (CardID, Amount, CustomerID) VALUES (777, 50000, "
-                       "501)"));
+    insert("tblGiftCard (CardID, Amount, CustomerID)", {777, 50000, 501});
     SaleSettlement st;
     st.giftCardId = 777;
     st.giftCardAmount = 30000;
@@ -140,9 +134,7 @@ TEST_P(SaleDeleteTest, AGroupDeletesEachTickedDocumentAndStopsAtOneWithMovements
     const SaleSaveResult a = sell({{QStringLiteral("2222"), 1}});
     const SaleSaveResult b = sell({{QStringLiteral("3333"), 1}});
     const SaleSaveResult c = sell({{QStringLiteral("3333"), 2}});
-    exec(QStringLiteral("INSERT INTO OtherPayment (Code, CompanyID, TransType, ReceivedPrice) "
-                        "VALUES (:c, 501, 2, 1000)"),
-         {{QStringLiteral(":c"), b.code}});
+    insert("OtherPayment (Code, CompanyID, TransType, ReceivedPrice)", {b.code, 501, 2, 1000});
     Session s = db().session();
     const QList<SaleDeleteRepository::ListRow> list =
         SaleDeleteRepository::list(s, QStringLiteral("1404/01/01"));

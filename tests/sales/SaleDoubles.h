@@ -1,16 +1,12 @@
 #pragma once
 
 // Test doubles for the parts a sale hands over to the screen: they record what they
-// were asked and answer from a script.
+// were asked and answer as told.
 
 #include <QList>
 #include <QStringList>
-#include <optional>
 
-#include "sales/PriceChooser.h"
-#include "sales/QuantityAsker.h"
 #include "sales/SaleActions.h"
-#include "sales/SellerChooser.h"
 #include "sales/TotalDisplay.h"
 
 namespace sandogh::test {
@@ -50,36 +46,6 @@ class RecordingDisplay final : public TotalDisplay {
 public:
     void showTotal(const QString& amountText) override { shown << amountText; }
     QStringList shown;
-};
-
-class ScriptedPriceChooser final : public PriceChooser {
-public:
-    std::optional<double> choosePrice(const PriceChoice& choice) override {
-        asked << choice;
-        return answer;
-    }
-    std::optional<double> answer;
-    QList<PriceChoice> asked;
-};
-
-class ScriptedSellerChooser final : public SellerChooser {
-public:
-    std::optional<Seller> chooseSeller() override {
-        ++asked;
-        return answer;
-    }
-    std::optional<Seller> answer;
-    int asked = 0;
-};
-
-class ScriptedQuantityAsker final : public QuantityAsker {
-public:
-    std::optional<double> askQuantity(const QString& barcode, const QString&) override {
-        asked << barcode;
-        return answer;
-    }
-    std::optional<double> answer;
-    QStringList asked;
 };
 
 }  // namespace sandogh::test

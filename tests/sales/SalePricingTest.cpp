@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "SaleDoubles.h"
 #include "SaleShopTest.h"
 #include "sales/SaleChecks.h"
 #include "sales/SaleTexts.h"
@@ -16,13 +15,7 @@ const QString kTea = QStringLiteral("6261234567890");
 
 class SalePricing : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
-        addGoods({kTea, 10000, 9, QStringLiteral(" Tea "), 12000});
-    }
+    void SetUpShop() override { addGoods({kTea, 10000, 9, QStringLiteral(" Tea "), 12000}); }
     double priceOfTea() {
         sale().newSale();
         sale().enterText(kTea);

@@ -11,8 +11,6 @@
 
 #include "SaleShopTest.h"
 #include "data/Database.h"
-#include "data/Transaction.h"
-#include "data/procedures/StockDocumentWriter.h"
 #include "devices/EscPosRaster.h"
 #include "sales/ReceiptCommand.h"
 #include "sales/ReceiptData.h"
@@ -26,32 +24,19 @@ namespace sandogh::test {
 namespace {
 
 using procedures::StockDocumentHeader;
-using procedures::StockDocumentLine;
-using procedures::StockDocumentWriter;
 
 const QString kShop = QStringLiteral("فروشگاه آزمایشی");
 
 class SaleReceiptTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (HasFatalFailure() || IsSkipped()) {
-            return;
-        }
+    void SetUpShop() override {
         ASSERT_TRUE(m_folder.isValid());
-        exec(QStringLiteral("INSERT INTO Company (Company_Name, Company_Tel, Company_Address) "
-                            "VALUES (:name, :tel, :address)"),
-             {{QStringLiteral(":name"), kShop},
-              {QStringLiteral(":tel"), QStringLiteral("021-1234")},
-              {QStringLiteral(":address"), QStringLiteral("تهران، میدان آزادی")}});
-        exec(QStringLiteral("INSERT INTO Sentences (Description, Author) VALUES (:d, :a)"),
-             {{QStringLiteral(":d"), QStringLiteral("دانایی توانایی است")},
-              {QStringLiteral(":a"), QStringLiteral("فردوسی")}});
-        exec(QStringLiteral("INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES "
-                            "(2, :gift, 1)"),
-             {{QStringLiteral(":gift"), QStringLiteral("هدیه، باشگاه")}});
-        exec(QStringLiteral("INSERT INTO Overhead (Id, Name) VALUES (1, :name)"),
-             {{QStringLiteral(":name"), QStringLiteral("کرایه حمل")}});
+        insert("Company (Company_Name, Company_Tel, Company_Address)",
+               {kShop, "021-1234", QStringLiteral("تهران، میدان آزادی")});
+        insert("Sentences (Description, Author)",
+               {QStringLiteral("دانایی توانایی است"), QStringLiteral("فردوسی")});
+        insert("DiscountType (Id, Name, IsImpactGift)", {2, QStringLiteral("هدیه، باشگاه"), 1});
+        insert("Overhead (Id, Name)", {1, QStringLiteral("کرایه حمل")});
         addGoods({QStringLiteral("111"), 10000, 0, QStringLiteral("شیر پرچرب")});
         addGoods({QStringLiteral("222"), 2500, 0, QStringLiteral("نان")});
         setOption("Programs", "Companion", m_folder.filePath(QStringLiteral("Companion.exe")));
@@ -59,18 +44,12 @@ protected:
 
     // A customer of the parameter table.
     void addCustomer(int counter, const QString& name, const QString& family) {
-        exec(QStringLiteral("INSERT INTO Types (Counter, TypeNo, Name, Value1) "
-                            "VALUES (:c, 10, :n, :f)"),
-             {{QStringLiteral(":c"), counter},
-              {QStringLiteral(":n"), name},
-              {QStringLiteral(":f"), family}});
+        insert("Types (Counter, TypeNo, Name, Value1)", {counter, 10, name, family});
     }
 
-    // A sale saved the way saving writes it: header and lines in one transaction.
+    // A sale of milk and bread saved the way saving writes it.
     qint64 saveSale(double docSum, std::optional<int> customer = {},
                     std::optional<int> discountType = {}, std::optional<int> overhead = {}) {
-        Session s = db().session();
-        Transaction tx(s);
         StockDocumentHeader h;
         h.docNo = QStringLiteral("7");
         h.transType = procedures::kSale;
@@ -85,14 +64,7 @@ protected:
         h.payType = 1;
         h.discountTypeId = discountType;
         h.overheadId = overhead;
-        const qint64 code = StockDocumentWriter::insertHeader(s, h);
-        EXPECT_GT(code, 0);
-        StockDocumentLine milk{0, code, QStringLiteral("111"), 2, 0, 0, 10000, 20000, 0, 1};
-        StockDocumentLine bread{0, code, QStringLiteral("222"), 2, 0, 0, 2500, 5000, 0, 1};
-        EXPECT_GT(StockDocumentWriter::insertLine(s, code, milk), 0);
-        EXPECT_GT(StockDocumentWriter::insertLine(s, code, bread), 0);
-        EXPECT_TRUE(tx.commit());
-        return code;
+        return writeDocument(h, {{"111", 2, 10000, 20000}, {"222", 2, 2500, 5000}}, false);
     }
 
     void companionPresent() {

@@ -1,30 +1,13 @@
 #include <gtest/gtest.h>
 
-#include "data/Database.h"
-#include "data/schema/Migrator.h"
-#include "data/schema/ShopSchema.h"
+#include "data/ShopFixture.h"
 #include "sales/SaleScreenLists.h"
-#include "support/BackendTest.h"
 
 namespace sandogh::test {
 namespace {
 
-class SaleScreenListsTest : public BackendTest {
+class SaleScreenListsTest : public ShopFixture {
 protected:
-    void SetUp() override {
-        BackendTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
-        const Migrator::Result r = Migrator(db()).apply(shopMigrations());
-        ASSERT_TRUE(r.ok) << r.message.toStdString();
-    }
-
-    void exec(const QString& sql) {
-        Session s = db().session();
-        ASSERT_TRUE(s.exec(sql)) << sql.toStdString();
-    }
-
     static QStringList names(const QList<SaleScreenLists::Item>& items) {
         QStringList list;
         for (const SaleScreenLists::Item& item : items) {
@@ -37,18 +20,16 @@ protected:
 TEST_P(SaleScreenListsTest, EachListHoldsItsRows) {
     exec(QStringLiteral("INSERT INTO DiscountType (Id, Name, IsImpactGift) VALUES (4, 'Gift', 1)"));
     exec(QStringLiteral("INSERT INTO Overhead (Id, Name) VALUES (2, 'Delivery')"));
-    exec(QStringLiteral("INSERT INTO tblWarehouse (Code, Name, ISActive) VALUES (1, 'Main', 1)"));
-    exec(QStringLiteral("INSERT INTO tblWarehouse (Code, Name, ISActive) VALUES (2, 'Closed', 0)"));
-    exec(QStringLiteral("INSERT INTO tblWarehouse (Code, Name, ISActive) VALUES (3, NULL, 1)"));
-    exec(QStringLiteral("INSERT INTO ReturnCause (Id, Name) VALUES (7, 'Broken')"));
-    exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (3, 'Cheque')"));
-    exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')"));
-    exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (2, NULL)"));
-    exec(QStringLiteral(
-        "INSERT INTO Users (ID, Name, UserName, Active) VALUES (5, 'S', 'sara', 1)"));
     exec(
-        QStringLiteral("INSERT INTO Users (ID, Name, UserName, Active) VALUES (6, 'O', 'old', 0)"));
-    exec(QStringLiteral("INSERT INTO Users (ID, Name, UserName, Active) VALUES (8, 'N', NULL, 1)"));
+        QStringLiteral("INSERT INTO tblWarehouse (Code, Name, ISActive) VALUES (1, 'Main', 1), "
+                       "(2, 'Closed', 0), (3, NULL, 1)"));
+    exec(QStringLiteral("INSERT INTO ReturnCause (Id, Name) VALUES (7, 'Broken')"));
+    exec(
+        QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (3, 'Cheque'), (1, 'Cash'), "
+                       "(2, NULL)"));
+    exec(
+        QStringLiteral("INSERT INTO Users (ID, Name, UserName, Active) VALUES (5, 'S', 'sara', 1), "
+                       "(6, 'O', 'old', 0), (8, 'N', NULL, 1)"));
 
     SaleScreenLists lookups(db());
     const SaleScreenLists::Lists lists = lookups.readAll();

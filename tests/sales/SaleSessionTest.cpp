@@ -1,5 +1,5 @@
-// The sale's kind of document, the keys it carries out itself or hands to SaleActions,
-// a new sale, and leaving with an unsaved sale.
+// The sale's kind of document, the keys it carries out itself or hands to SaleActions (and
+// the keys that are none of the sale's), a new sale, and leaving with an unsaved sale.
 
 #include <gtest/gtest.h>
 
@@ -15,11 +15,7 @@ namespace {
 
 class SaleSessionTest : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         addGoods({QStringLiteral("1111"), 10000, 9, QStringLiteral("Tea")});
         addGoods({QStringLiteral("2222"), 5000, 0, QStringLiteral("Rice")});
         sale().setActions(&actions);
@@ -121,6 +117,13 @@ TEST_P(SaleSessionTest, TheSaleDateIsTodayFromTheClockUnlessSet) {
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(SaleSessionTest);
+
+TEST(SaleKeyMap, OtherModifiersAndPlainLettersAreNotTheSalesKeys) {
+    EXPECT_FALSE(SaleKeyMap::lookup(Qt::Key_D, Qt::NoModifier));
+    EXPECT_FALSE(SaleKeyMap::lookup(Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier));
+    EXPECT_FALSE(SaleKeyMap::lookup(Qt::Key_F6, Qt::AltModifier));
+    EXPECT_FALSE(SaleKeyMap::lookup(Qt::Key_Return, Qt::NoModifier));
+}
 
 }  // namespace
 }  // namespace sandogh::test

@@ -4,6 +4,7 @@
 #include "data/Dialect.h"
 #include "data/schema/Migrator.h"
 #include "data/schema/ShopSchema.h"
+#include "data/schema/ShopSchemaBuild.h"
 
 namespace sandogh::test {
 
@@ -26,6 +27,7 @@ void SaleShopTest::SetUp() {
     exec(QStringLiteral("INSERT INTO tblPaymentType (Code, Name) VALUES (1, :name)"),
          {{QStringLiteral(":name"), kCashPaymentName}});
     m_sale->setStation(1);
+    SetUpShop();
 }
 
 void SaleShopTest::TearDown() {
@@ -43,80 +45,82 @@ QString SaleShopTest::table(const char* name, const char* database) {
                              database ? QString::fromLatin1(database) : QString());
 }
 
+void SaleShopTest::insert(const QString& tableAndColumns, const QVariantList& values) {
+    QStringList names;
+    SqlBinds binds;
+    for (const QVariant& value : values) {
+        names << QStringLiteral(":v%1").arg(names.size());
+        binds.append({names.last(), value});
+    }
+    exec(QStringLiteral("INSERT INTO %1 VALUES (%2)")
+             .arg(tableAndColumns, names.join(QStringLiteral(", "))),
+         binds);
+}
+
+void SaleShopTest::addCentralDatabase(const QString& name) {
+    if (backend() == Backend::SQLite) {
+        db().addOtherDatabase(name);
+    }
+    Session s = db().session();
+    const Dialect& d = s.dialect();
+    if (!d.otherDatabaseExistsSql().isEmpty()) {
+        ASSERT_TRUE(s.exec(d.createOtherDatabase(name)));
+    }
+    // The shop's own card tables, without their prefix, and the owners' table.
+    QList<TableDef> tables = shopschema::giftCardsStep().tables;
+    tables << shopschema::table(QStringLiteral("CenterTypes"),
+                                {shopschema::integer(QStringLiteral("Counter")),
+                                 shopschema::nameText(QStringLiteral("Name")),
+                                 shopschema::nameText(QStringLiteral("Value1"))},
+                                {QStringLiteral("Counter")});
+    for (TableDef& t : tables) {
+        t.name.remove(QStringLiteral("tbl"));
+        t.database = name;
+        for (const QString& sql : d.createTable(t, {})) {
+            ASSERT_TRUE(s.exec(sql)) << sql.toStdString();
+        }
+    }
+}
+
 void SaleShopTest::addGoods(const TestGoods& g) {
-    exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Spec_Code, Name, Cost, Cost2, TaxValue, "
-                        "ISActive, AQIS, Type, GType) VALUES (:b, :specCode, :name, :cost, :cost2, "
-                        ":tax, :active, :aqis, :type, :gtype)"),
-         {{QStringLiteral(":b"), g.barcode},
-          {QStringLiteral(":specCode"), g.specCode},
-          {QStringLiteral(":name"), g.name},
-          {QStringLiteral(":cost"), g.cost},
-          {QStringLiteral(":cost2"), g.cost2},
-          {QStringLiteral(":tax"), g.tax},
-          {QStringLiteral(":active"), g.active ? 1 : 0},
-          {QStringLiteral(":aqis"), g.asksQuantity ? 1 : 0},
-          {QStringLiteral(":type"), g.type},
-          {QStringLiteral(":gtype"), g.gType}});
+    insert("Goods (EAN_Code, Spec_Code, Name, Cost, Cost2, TaxValue, ISActive, AQIS, Type, GType)",
+           {g.barcode, g.specCode, g.name, g.cost, g.cost2, g.tax, g.active ? 1 : 0,
+            g.asksQuantity ? 1 : 0, g.type, g.gType});
 }
 
 void SaleShopTest::addPriceChange(int code, const QString& from, const QString& to,
                                   const QString& barcode, double newCost) {
-    exec(QStringLiteral("INSERT INTO DiscountH (Code, FDate, SDate) VALUES (:c, :f, :s)"),
-         {{QStringLiteral(":c"), code}, {QStringLiteral(":f"), from}, {QStringLiteral(":s"), to}});
-    exec(QStringLiteral("INSERT INTO DiscountD (Code, Ean_Code, NewCost) VALUES (:c, :b, :n)"),
-         {{QStringLiteral(":c"), code},
-          {QStringLiteral(":b"), barcode},
-          {QStringLiteral(":n"), newCost}});
+    insert("DiscountH (Code, FDate, SDate)", {code, from, to});
+    insert("DiscountD (Code, Ean_Code, NewCost)", {code, barcode, newCost});
 }
 
 void SaleShopTest::addStation(int id) {
-    Session s = db().session();
-    if (s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Stations WHERE ID = :id"),
-                      {{QStringLiteral(":id"), id}}) > 0) {
-        return;
+    if (count(QStringLiteral("SELECT COUNT(*) FROM Stations WHERE ID = :id"),
+              {{QStringLiteral(":id"), id}}) == 0) {
+        // The station's identity is given explicitly; PostgreSQL's sequence is not used again.
+        insert("Stations (ID, Station_Name)", {id, QStringLiteral("Desk %1").arg(id)});
     }
-    // The station's identity is given explicitly; PostgreSQL's sequence is not used again.
-    exec(QStringLiteral("INSERT INTO Stations (ID, Station_Name) VALUES (:id, :name)"),
-         {{QStringLiteral(":id"), id},
-          {QStringLiteral(":name"), QStringLiteral("Desk %1").arg(id)}});
 }
 
 void SaleShopTest::addDocument(qint64 code, int transType, const QString& docNo,
                                const QString& barcode, double qty, double fee, const QString& date,
                                int station, double docSum, double received, int warehouse) {
-    QVariant stationValue;
     if (station != 0) {
         addStation(station);
-        stationValue = station;
     }
-    exec(QStringLiteral("INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, StationID, "
-                        "DocSum, ReceivedPrice, WarehouseCode) VALUES (:code, :no, :t, :d, :s, "
-                        ":sum, :rec, :w)"),
-         {{QStringLiteral(":code"), code},
-          {QStringLiteral(":no"), docNo},
-          {QStringLiteral(":t"), transType},
-          {QStringLiteral(":d"), date},
-          {QStringLiteral(":s"), stationValue},
-          {QStringLiteral(":sum"), docSum},
-          {QStringLiteral(":rec"), received},
-          {QStringLiteral(":w"), warehouse}});
+    insert(
+        "Whs_QTYDocH (Code, DocNo, TransType, DocDate, StationID, DocSum, ReceivedPrice, "
+        "WarehouseCode)",
+        {code, docNo, transType, date, station != 0 ? QVariant(station) : QVariant(), docSum,
+         received, warehouse});
     if (!barcode.isEmpty()) {
-        exec(QStringLiteral("INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Fee, Price, "
-                            "TaxValue, Discount) VALUES (:code, :b, :q, :f, :f2, :p, 0, 0)"),
-             {{QStringLiteral(":code"), code},
-              {QStringLiteral(":b"), barcode},
-              {QStringLiteral(":q"), qty},
-              {QStringLiteral(":f"), fee},
-              {QStringLiteral(":f2"), fee},
-              {QStringLiteral(":p"), fee * qty}});
+        insert("Whs_QTYDocD (Code, EAN_Code, Qty, MFee, Fee, Price, TaxValue, Discount)",
+               {code, barcode, qty, fee, fee, fee * qty, 0, 0});
     }
 }
 
 void SaleShopTest::addLock(const QString& barcode, double qty, bool locked) {
-    exec(QStringLiteral("INSERT INTO ItemLock (Ean_Code, Qty, IsLock) VALUES (:b, :q, :l)"),
-         {{QStringLiteral(":b"), barcode},
-          {QStringLiteral(":q"), qty},
-          {QStringLiteral(":l"), locked ? 1 : 0}});
+    insert("ItemLock (Ean_Code, Qty, IsLock)", {barcode, qty, locked ? 1 : 0});
 }
 
 }  // namespace sandogh::test

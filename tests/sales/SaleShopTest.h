@@ -34,8 +34,10 @@ protected:
     // The name of payment kind 1, which every shop of the fixture has, as is station 1.
     static const QString kCashPaymentName;
 
+    // The shop, then the suite's own rows (SetUpShop) once the shop is there.
     void SetUp() override;
     void TearDown() override;
+    virtual void SetUpShop() {}
 
     SaleSession& sale() { return *m_sale; }
     MachineSettings& settings() { return *m_settings; }
@@ -47,6 +49,15 @@ protected:
     }
 
     QString table(const char* name, const char* database = nullptr);
+    // The text of the last message shown, "" when none.
+    QString lastMessage() {
+        const auto shown = messages().messages();
+        return shown.isEmpty() ? QString() : shown.last().text;
+    }
+    // A row with every value bound: insert("Goods (EAN_Code, Cost)", {barcode, 10}).
+    void insert(const QString& tableAndColumns, const QVariantList& values);
+    // The central database `name` with its GiftCard, GiftCardItem and CenterTypes tables.
+    void addCentralDatabase(const QString& name);
 
     void addGoods(const TestGoods& goods);
     // A price-change document with one article.

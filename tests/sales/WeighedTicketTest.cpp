@@ -1,21 +1,20 @@
 // Weighed tickets read from the scale vendors' tables: MizanNet by the ticket key of
-// today's date, OnlineSales by today's short Jalali date, receipt and scale.
+// today's date, OnlineSales by today's short Jalali date, receipt and scale; and the keys
+// under which the scales keep their tickets.
 
 #include <gtest/gtest.h>
 
 #include "SaleShopTest.h"
 #include "data/schema/ShopSchema.h"
+#include "sales/ScaleTicket.h"
+#include "support/QtPrinters.h"
 
 namespace sandogh::test {
 namespace {
 
 class WeighedTicket : public SaleShopTest {
 protected:
-    void SetUp() override {
-        SaleShopTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void SetUpShop() override {
         setOption("ScaleTicket", "Prefix", QStringLiteral("2"));
         TestGoods cheese{QStringLiteral("501"), 400000, 9, QStringLiteral("Cheese")};
         cheese.type = 1;  // weighed: the scale sends grams
@@ -26,24 +25,16 @@ protected:
         addGoods(eggs);
     }
     void mizanLine(const QString& key, qint64 plu, double weight, double qty) {
-        exec(QStringLiteral("INSERT INTO ") + table("MizanNetDetail", kMizanNetDatabase) +
-                 QStringLiteral(" (TotalBarcode, PluNo, Weight, Qty) VALUES (:k, :p, :w, :q)"),
-             {{QStringLiteral(":k"), key},
-              {QStringLiteral(":p"), plu},
-              {QStringLiteral(":w"), weight},
-              {QStringLiteral(":q"), qty}});
+        insert(table("MizanNetDetail", kMizanNetDatabase) +
+                   QStringLiteral(" (TotalBarcode, PluNo, Weight, Qty)"),
+               {key, plu, weight, qty});
     }
     void onlineLine(const QString& date, int receipt, int scale, qint64 item, double amount) {
-        Session s = db().session();
-        exec(
-            QStringLiteral("INSERT INTO ") + table("Sales", kOnlineSalesDatabase) +
-                QStringLiteral(" (") + s.dialect().quote(QStringLiteral("Date")) +
-                QStringLiteral(", Receipt, ScaleNo, ItemCode, Amount) VALUES (:d, :r, :s, :i, :a)"),
-            {{QStringLiteral(":d"), date},
-             {QStringLiteral(":r"), receipt},
-             {QStringLiteral(":s"), scale},
-             {QStringLiteral(":i"), item},
-             {QStringLiteral(":a"), amount}});
+        const QString dateColumn = db().dialect().quote(QStringLiteral("Date"));
+        insert(table("Sales", kOnlineSalesDatabase) + QStringLiteral(" (%1, Receipt, ScaleNo, "
+                                                                     "ItemCode, Amount)")
+                                                          .arg(dateColumn),
+               {date, receipt, scale, item, amount});
     }
     const SaleLine* lineOf(const QString& barcode) {
         const int row = sale().linesModel().findBarcode(barcode);
@@ -92,14 +83,47 @@ TEST_P(WeighedTicket, AnOnlineSalesTicketReadsTodaysReceiptOfItsScale) {
     EXPECT_DOUBLE_EQ(lineOf(QStringLiteral("502"))->quantity, 6);
 }
 
-TEST_P(WeighedTicket, TicketsAreBarcodesWhileTheirScaleSystemsAreOff) {
-    addGoods({QStringLiteral("23001237"), 100, 0});
-    sale().enterText(QStringLiteral("23001237"));
-    ASSERT_EQ(sale().lines().size(), 1);
-    EXPECT_EQ(sale().lines().at(0).barcode, QStringLiteral("23001237"));
+SANDOGH_INSTANTIATE_BACKENDS(WeighedTicket);
+
+struct MizanCase {
+    const char* text;
+    QDate today;
+    const char* key;
+};
+
+class MizanKey : public ::testing::TestWithParam<MizanCase> {};
+
+TEST_P(MizanKey, IsBuiltFromScaleTicketAndTodaysGregorianDate) {
+    const MizanCase c = GetParam();
+    EXPECT_EQ(ScaleTicket::mizanKey(QString::fromLatin1(c.text), c.today),
+              QString::fromLatin1(c.key));
 }
 
-SANDOGH_INSTANTIATE_BACKENDS(WeighedTicket);
+INSTANTIATE_TEST_SUITE_P(Dates, MizanKey,
+                         ::testing::Values(MizanCase{"23001237", QDate(2025, 3, 21),
+                                                     "000003000000012321032"
+                                                     "50"},
+                                           MizanCase{"29123459", QDate(2024, 1, 5),
+                                                     "000009000001234505012"
+                                                     "40"},
+                                           MizanCase{"21000010", QDate(2000, 12, 31),
+                                                     "00000100000000013112000"}));
+
+TEST(ScaleTicket, AMizanTicketStartsWithThePrefixAndHasEightCharacters) {
+    EXPECT_TRUE(ScaleTicket::isMizanTicket(QStringLiteral("23001237"), QStringLiteral("2")));
+    EXPECT_FALSE(ScaleTicket::isMizanTicket(QStringLiteral("33001237"), QStringLiteral("2")));
+    EXPECT_FALSE(ScaleTicket::isMizanTicket(QStringLiteral("2300123"), QStringLiteral("2")));
+    EXPECT_FALSE(ScaleTicket::isMizanTicket(QStringLiteral("23001237"), QString()));
+}
+
+TEST(ScaleTicket, OnlineSalesReadsReceiptScaleAndTheShortDate) {
+    //                                123456789012345678
+    const QString text = QStringLiteral("PP01ABCDEFG0042007");
+    EXPECT_EQ(ScaleTicket::onlineSalesReceipt(text), 42);
+    EXPECT_EQ(ScaleTicket::onlineSalesScale(text), 7);
+    EXPECT_EQ(ScaleTicket::onlineSalesDate(QStringLiteral("1404/01/05")),
+              QStringLiteral("04/01/05"));
+}
 
 }  // namespace
 }  // namespace sandogh::test

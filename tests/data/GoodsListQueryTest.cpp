@@ -49,9 +49,6 @@ protected:
         ASSERT_TRUE(
             s.exec(QStringLiteral("INSERT INTO Goods (EAN_Code, Spec_Code, Name, NameKey) VALUES "
                                   "('99a1', 'XY1', '100 juice', '100 juice')")));
-        ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO Stock (Barcode, Import, Export, Stock, "
-                                  "Branch) VALUES ('6260004', 9, 2, 7, 1)")));
         ASSERT_TRUE(tx.commit());
     }
 

@@ -164,7 +164,7 @@ TEST_P(TypesRepositoryTest, EditingAValueKeepsItsCodeAndReplacesItsLinks) {
     EXPECT_EQ(repo().save(edited, {}).message, listmessages::kRepeatedCode);
 }
 
-TEST_P(TypesRepositoryTest, DeleteIsRefusedWhileGoodsOrAccountsUseTheValue) {
+TEST_P(TypesRepositoryTest, DeleteIsRefusedWhileGoodsOrAccountsUseTheValueAndForLevelNine) {
     using namespace listmessages;
     const int used = add(503, QStringLiteral("1"), QStringLiteral("used"));
     const int unused = add(503, QStringLiteral("2"), QStringLiteral("unused"));
@@ -203,18 +203,15 @@ TEST_P(TypesRepositoryTest, DeleteIsRefusedWhileGoodsOrAccountsUseTheValue) {
                     {{QStringLiteral(":c"), child}}),
               1);
     EXPECT_EQ(messages().count(), 0);
-}
 
-TEST_P(TypesRepositoryTest, LevelNineValuesAreNeverDeletedThroughTheList) {
-    const int value = add(509, QStringLiteral("1"), QStringLiteral("unused level 9 value"));
-    const CheckResult r = repo().canDelete(509, value);
-    EXPECT_FALSE(r.ok);
-    EXPECT_EQ(r.message,
-              listmessages::kCannotDelete + QLatin1Char('\n') + listmessages::kTiedToGoods);
-    // The person sees the connection message first, as before.
+    // A level-9 value is never deleted through the list, used or not; the person sees the
+    // connection message first, as before.
+    const int level9 = add(509, QStringLiteral("1"), QStringLiteral("unused level 9 value"));
+    const CheckResult level9Refused = r.canDelete(509, level9);
+    EXPECT_FALSE(level9Refused.ok);
+    EXPECT_EQ(level9Refused.message, refused.message);
     ASSERT_EQ(messages().count(), 1);
     EXPECT_EQ(messages().messages().first().text, Database::connectionFailureMessage());
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Types")), 1);
 }
 
 TEST_P(TypesRepositoryTest, CountersAndPartyCodesStartAtOneAndShareOneRunWithoutDashes) {

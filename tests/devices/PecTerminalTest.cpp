@@ -102,24 +102,21 @@ TEST_F(PecTerminalOnPty, ARefusalShowsItsMessageIfItHasOneAndRecordsNothing) {
     }
 }
 
-TEST_F(PecTerminalOnPty, SecondRequestAbandonsTheFirst) {
+// Without an answer the request stays waiting on its open port; a second request
+// abandons it.
+TEST_F(PecTerminalOnPty, ASecondRequestAbandonsAnUnansweredFirst) {
     ASSERT_TRUE(pty.ok());
     request(QStringLiteral("1,250,000"), QStringLiteral("57"));
+    pty.readAllFor(100);
+    EXPECT_TRUE(terminal.waiting());
+    EXPECT_TRUE(terminal.MSCommPec().isOpen());
+    EXPECT_EQ(answersRead, 0);
     const QByteArray second = request(QStringLiteral("2,000"), QStringLiteral("58"));
     EXPECT_TRUE(second.contains("AM0042000"));
     answer("RS00200");
     ASSERT_EQ(recorder.payments.size(), 1);
     EXPECT_EQ(recorder.payments[0].docNo, 58);
     EXPECT_DOUBLE_EQ(recorder.payments[0].paymentAmount, 2000.0);
-}
-
-TEST_F(PecTerminalOnPty, NoAnswerLeavesTheRequestWaiting) {
-    ASSERT_TRUE(pty.ok());
-    request(QStringLiteral("1,000"), QStringLiteral("3"));
-    pty.readAllFor(100);
-    EXPECT_TRUE(terminal.waiting());
-    EXPECT_TRUE(terminal.MSCommPec().isOpen());
-    EXPECT_EQ(answersRead, 0);
 }
 
 }  // namespace

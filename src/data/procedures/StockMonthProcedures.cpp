@@ -117,7 +117,7 @@ QString upsert(Backend backend, const QString& rows) {
         added << QStringLiteral("%1 = StockMonth.%1 + excluded.%1").arg(f);
     }
     return QStringLiteral(
-               "INSERT INTO StockMonth (%1) %2 ON CONFLICT (YearMonth, Barcode) DO "
+               "INSERT INTO StockMonth (%1) %2 ON CONFLICT (Barcode, YearMonth) DO "
                "UPDATE SET %3")
         .arg(columns(), rows, added.join(QStringLiteral(", ")));
 }

@@ -34,6 +34,10 @@ struct TableDef {
     QList<ColumnDef> columns;
     QStringList primaryKey;
     QString database;
+    // Rows stored in primary key order, so that a range of the key is read in one sweep
+    // (SQLite's WITHOUT ROWID; PostgreSQL keeps no order, SQL Server's key is clustered
+    // anyway). Only for a table without an identity column.
+    bool clustered{};
 };
 
 struct IndexDef {

@@ -55,6 +55,10 @@ struct IndexDef {
     // A partial (filtered) index: only rows meeting this portable condition are indexed
     // ("DocType IS NULL"); a statement uses it when its WHERE implies the condition.
     QString where{};
+    // Made on PostgreSQL and SQL Server only, whose planners weigh a range by its statistics:
+    // SQLite's would read a range of nearly every row through the index too, slower than the
+    // table.
+    bool serversOnly{};
 };
 
 struct ForeignKeyDef {

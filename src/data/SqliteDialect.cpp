@@ -54,7 +54,11 @@ QStringList SqliteDialect::createTable(const TableDef& t,
         }
     }
     if (identityName.isEmpty()) {
-        return Dialect::createTable(t, foreignKeys);
+        QStringList statements = Dialect::createTable(t, foreignKeys);
+        if (t.clustered && !t.primaryKey.isEmpty()) {
+            statements.first() += QStringLiteral(" WITHOUT ROWID");
+        }
+        return statements;
     }
     // The identity column is the rowid primary key, so a declared primary key of other
     // columns is kept as a unique constraint (same rule, same read-back of columns).

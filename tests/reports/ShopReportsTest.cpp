@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "ReportShop.h"
 #include "reports/ShopReports.h"
 
@@ -138,6 +140,43 @@ TEST_P(ShopReportsTest, StockOnADayIsTheSameReadFromEitherEnd) {
         ASSERT_EQ(lines->size(), 2);
         EXPECT_DOUBLE_EQ(lines->at(0).quantity, 8) << today;
         EXPECT_DOUBLE_EQ(lines->at(1).quantity, 3) << today;
+    }
+}
+
+TEST_P(ShopReportsTest, WholeMonthsReadFromTheirSumsAgreeWithTheLines) {
+    // A purchase and a sale in 1403/12: the ranges below hold it and 1404/01 whole.
+    document(1, QStringLiteral("1403/12/10"), {Line{QStringLiteral("A"), 2, 0, 0, 50, 0, 0}}, 100,
+             0);
+    document(2, QStringLiteral("1403/12/20"), {Line{QStringLiteral("A"), 1, 150, 150}}, 150, 150);
+    Session s = session();
+    ASSERT_TRUE(procedures::sp_StockRepair(s, {}));
+    for (const char* from : {"1403/12/01", "1403/12/15"}) {
+        ReportFilter f = range(from, "1404/01/31");
+        const auto months = ShopReports(s).articles(f);
+        f.userId = 0;  // a user is no part of the months' sums: every line is read
+        const auto lines = ShopReports(s).articles(f);
+        ASSERT_TRUE(months && lines);
+        ASSERT_EQ(months->size(), lines->size());
+        for (const Article& l : *lines) {
+            const Article* m = find(*months, l.barcode.toLatin1().constData());
+            ASSERT_NE(m, nullptr);
+            EXPECT_DOUBLE_EQ(m->quantity, l.quantity) << from;
+            EXPECT_DOUBLE_EQ(m->amount, l.amount) << from;
+            EXPECT_NEAR(m->unitCost, l.unitCost, 1e-9) << from;
+        }
+    }
+    const auto both = ShopReports(s).articles(range("1403/12/01", "1404/01/31"));
+    ASSERT_TRUE(both);
+    EXPECT_DOUBLE_EQ(find(*both, "A")->quantity, 1 + 3 - 1);
+    EXPECT_NEAR(find(*both, "A")->unitCost, (2 * 50 + 10 * 98.1 + 5 * 200) / 17.0, 1e-9);
+    // At the end of 1403/12 (back from now) and on 1404/01/04 (up from the months before).
+    for (const auto& [asOf, a, b] :
+         {std::tuple{"1403/12/30", 1.0, 0.0}, {"1404/01/04", 9.0, 3.0}}) {
+        const auto stock =
+            ShopReports(s).stock(QString::fromLatin1(asOf), QStringLiteral("1404/02/10"), {});
+        ASSERT_TRUE(stock);
+        EXPECT_DOUBLE_EQ(stock->at(0).quantity, a) << asOf;
+        EXPECT_DOUBLE_EQ(stock->at(1).quantity, b) << asOf;
     }
 }
 

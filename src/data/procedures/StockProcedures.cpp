@@ -4,6 +4,7 @@
 
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
+#include "data/procedures/StockMonthProcedures.h"
 
 namespace sandogh::procedures {
 
@@ -98,7 +99,8 @@ bool repair(Session& session, const QStringList& barcodes) {
     const Scope stock = scopeOf(QStringLiteral("WHERE"), QStringLiteral("Barcode"), barcodes);
     return session.exec(kAddMissingRows + goods.condition, goods.binds) &&
            session.exec(kRecomputeMovements + stock.condition, stock.binds) &&
-           session.exec(kRecomputeStock + stock.condition, stock.binds);
+           session.exec(kRecomputeStock + stock.condition, stock.binds) &&
+           stockMonthRebuild(session, barcodes);
 }
 
 }  // namespace
@@ -137,13 +139,15 @@ bool sp_StockRepair(Session& session, const QStringList& barcodes) {
 bool stockApplyDocument(Session& session, qint64 code, int sign) {
     return session.exec(kApplyDocument.arg(QStringLiteral("Whs_QTYDocD"),
                                            QStringLiteral("Whs_QTYDocH"), kOrdinaryOnly),
-                        {{QStringLiteral(":sign"), sign}, {QStringLiteral(":code"), code}});
+                        {{QStringLiteral(":sign"), sign}, {QStringLiteral(":code"), code}}) &&
+           stockMonthApply(session, code, sign, false);
 }
 
 bool stockApplyInternalDocument(Session& session, qint64 code, int sign) {
     return session.exec(kApplyDocument.arg(QStringLiteral("Whs_QTYDocDInternal"),
                                            QStringLiteral("Whs_QTYDocHInternal"), QString()),
-                        {{QStringLiteral(":sign"), sign}, {QStringLiteral(":code"), code}});
+                        {{QStringLiteral(":sign"), sign}, {QStringLiteral(":code"), code}}) &&
+           stockMonthApply(session, code, sign, true);
 }
 
 qint64 stockRowCount(Session& session, const QString& barcode) {

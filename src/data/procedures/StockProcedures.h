@@ -19,8 +19,9 @@ namespace sandogh::procedures {
 //
 // With barcodes (the lines of the document just written) only those articles are
 // recomputed; without, every Stock row is. Articles of Goods without a Stock row get one
-// (Branch 1) first. Runs in the caller's transaction, or in one of its own. False when a
-// statement failed (it has been reported).
+// (Branch 1) first. The same articles' rows of StockMonth are made again from the lines.
+// Runs in the caller's transaction, or in one of its own. False when a statement failed
+// (it has been reported).
 bool sp_StockRepair(Session& session, const QStringList& barcodes = {});
 
 // Stock following one document instead of its whole history: the quantities of the lines

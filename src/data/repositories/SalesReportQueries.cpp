@@ -2,6 +2,7 @@
 
 #include "data/SqlQuery.h"
 #include "data/repositories/ReportConditions.h"
+#include "data/repositories/ReportMonths.h"
 
 namespace sandogh {
 
@@ -50,21 +51,57 @@ std::optional<QList<DayKind>> SalesReportQueries::days(Session& session,
 std::optional<QList<ArticleSales>> SalesReportQueries::articles(Session& session,
                                                                 const ReportFilter& filter) {
     SqlBinds binds;
+    const QString lineSums =
+        QStringLiteral("SELECT D.EAN_Code AS EAN_Code, SUM(") + signedBy(QStringLiteral("D.Qty")) +
+        QStringLiteral(") AS Qty, SUM(") + signedBy(QStringLiteral("D.Price")) +
+        QStringLiteral(
+            ") AS Amount FROM Whs_QTYDocH H INNER JOIN Whs_QTYDocD D ON D.Code = "
+            "H.Code") +
+        kSaleKinds;
+    const QString perArticle = QStringLiteral(" GROUP BY D.EAN_Code");
+    QStringList parts;
+    if (filter.stationId || filter.shiftCode || filter.userId) {
+        // The months know no desk, shift or user: every line of the range is read.
+        parts << lineSums + ReportConditions::headers(filter, binds) + perArticle;
+    } else {
+        // Whole months from their sums per article, the days around them from the lines.
+        const ReportMonths::Range range = ReportMonths::split(filter.from, filter.to);
+        const auto days = [&](const ReportMonths::Days& d, const QString& name) {
+            binds.append({QStringLiteral(":%1From").arg(name), d.from});
+            binds.append({QStringLiteral(":%1To").arg(name), d.to});
+            return lineSums +
+                   QStringLiteral(" AND H.DocDate >= :%1From AND H.DocDate <= :%1To").arg(name) +
+                   perArticle;
+        };
+        if (range.head) {
+            parts << days(*range.head, QStringLiteral("head"));
+        }
+        if (range.hasMonths()) {
+            parts << QStringLiteral(
+                "SELECT Barcode AS EAN_Code, SUM(SaleQty - ReturnQty) AS Qty, "
+                "SUM(SaleAmount - ReturnAmount) AS Amount FROM StockMonth WHERE YearMonth >= "
+                ":firstMonth AND YearMonth <= :lastMonth AND SaleLines <> 0 GROUP BY Barcode");
+            binds.append({QStringLiteral(":firstMonth"), range.firstMonth});
+            binds.append({QStringLiteral(":lastMonth"), range.lastMonth});
+        }
+        if (range.tail) {
+            parts << days(*range.tail, QStringLiteral("tail"));
+        }
+    }
+    const QString sums =
+        parts.size() == 1
+            ? parts.first()
+            : QStringLiteral(
+                  "SELECT U.EAN_Code, SUM(U.Qty) AS Qty, SUM(U.Amount) AS Amount FROM (") +
+                  parts.join(QStringLiteral(" UNION ALL ")) +
+                  QStringLiteral(") U GROUP BY U.EAN_Code");
     // The lines are summed per article first and the names joined to the sums, so each
     // article's name is looked up once rather than once per line. In barcode order, so that
     // articles of equal figures keep one order in the sorted reports.
-    SqlQuery q(session,
-               QStringLiteral("SELECT A.EAN_Code, G.Name, A.Qty, A.Amount FROM (SELECT "
-                              "D.EAN_Code, SUM(") +
-                   signedBy(QStringLiteral("D.Qty")) + QStringLiteral(") AS Qty, SUM(") +
-                   signedBy(QStringLiteral("D.Price")) +
-                   QStringLiteral(") AS Amount FROM Whs_QTYDocH H INNER JOIN Whs_QTYDocD D ON "
-                                  "D.Code = H.Code") +
-                   kSaleKinds + ReportConditions::headers(filter, binds) +
-                   QStringLiteral(" GROUP BY D.EAN_Code) A LEFT JOIN Goods G ON G.EAN_Code = "
-                                  "A.EAN_Code") +
-                   ReportConditions::goodsGroupWhere(filter, binds) +
-                   QStringLiteral(" ORDER BY A.EAN_Code"));
+    SqlQuery q(session, QStringLiteral("SELECT A.EAN_Code, G.Name, A.Qty, A.Amount FROM (") + sums +
+                            QStringLiteral(") A LEFT JOIN Goods G ON G.EAN_Code = A.EAN_Code") +
+                            ReportConditions::goodsGroupWhere(filter, binds) +
+                            QStringLiteral(" ORDER BY A.EAN_Code"));
     if (!run(q, binds)) {
         return std::nullopt;
     }

@@ -19,7 +19,8 @@ public:
     // Count, DocSum and ReceivedPrice per date and kind; dates without documents are absent.
     static std::optional<QList<reportrows::DayKind>> days(Session& session,
                                                           const ReportFilter& filter);
-    // Quantity and amount per article, sales less returns.
+    // Quantity and amount per article, sales less returns: the whole months of the range
+    // from StockMonth when no desk, shift or user is asked for, the other days from the lines.
     static std::optional<QList<reportrows::ArticleSales>> articles(Session& session,
                                                                    const ReportFilter& filter);
     // Count, DocSum and ReceivedPrice per cash desk, shift and kind, with their names.

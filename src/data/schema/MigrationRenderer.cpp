@@ -92,6 +92,9 @@ MigrationRenderer::Rendered MigrationRenderer::render(const MigrationStep& step)
         out.rebuildsTables = true;
     }
     for (const IndexDef& i : step.indexes) {
+        if (i.serversOnly && m_dialect.backend() == Backend::SQLite) {
+            continue;
+        }
         out.statements << m_dialect.createIndex(i);
         m_indexes[key(i.database, i.table)] << i;
     }

@@ -34,6 +34,10 @@ struct TableDef {
     QList<ColumnDef> columns;
     QStringList primaryKey;
     QString database;
+    // Rows stored in primary key order, so that a range of the key is read in one sweep
+    // (SQLite's WITHOUT ROWID; PostgreSQL keeps no order, SQL Server's key is clustered
+    // anyway). Only for a table without an identity column.
+    bool clustered{};
 };
 
 struct IndexDef {
@@ -51,6 +55,10 @@ struct IndexDef {
     // A partial (filtered) index: only rows meeting this portable condition are indexed
     // ("DocType IS NULL"); a statement uses it when its WHERE implies the condition.
     QString where{};
+    // Made on PostgreSQL and SQL Server only, whose planners weigh a range by its statistics:
+    // SQLite's would read a range of nearly every row through the index too, slower than the
+    // table.
+    bool serversOnly{};
 };
 
 struct ForeignKeyDef {

@@ -12,7 +12,7 @@ const QList<MigrationStep>& shopMigrations() {
         shopschema::scaleVendorsStep(),   shopschema::lookupsStep(),
         shopschema::goodsSearchStep(),    shopschema::saleAuditStep(),
         shopschema::userRightsStep(),     shopschema::reportsStep(),
-        shopschema::saleListSearchStep(),
+        shopschema::saleListSearchStep(), shopschema::stockMonthsStep(),
     };
     return steps;
 }

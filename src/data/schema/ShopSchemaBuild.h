@@ -128,5 +128,6 @@ MigrationStep saleAuditStep();       // 10
 MigrationStep userRightsStep();      // 11
 MigrationStep reportsStep();         // 12
 MigrationStep saleListSearchStep();  // 13
+MigrationStep stockMonthsStep();     // 14
 
 }  // namespace sandogh::shopschema

@@ -24,7 +24,9 @@ TEST_P(AdminAmountTest, AmountsThatAreNoFiniteNumbersAreRefusedAndNothingIsSaved
         {"INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES ('1001', "
          "'Bread', 2500, 0, 0)"});
     for (const char* option : {"--received", "--discount"}) {
-        for (const char* amount : {"nan", "inf", "-inf", "1e20", "9223372036854775808", "12x"}) {
+        // What reads as an amount is AmountText's (tested under common); below zero is refused
+        // here.
+        for (const char* amount : {"1e20", "12x", "-5"}) {
             const AdminProcess::Result r = runCommand(
                 QStringLiteral("sell"),
                 {QString::fromLatin1(option), QString::fromLatin1(amount), QStringLiteral("1001")});

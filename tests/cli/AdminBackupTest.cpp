@@ -61,7 +61,7 @@ protected:
     QString archive() { return QDir(dir()).filePath(QStringLiteral("shop-backup.tar")); }
 
     AdminProcess::Result backUp() {
-        return runCommand(QStringLiteral("backup"), {QStringLiteral("--out"), archive()});
+        return runCommand(QStringLiteral("backup"), words("--out") << archive());
     }
 
     QString previous;
@@ -69,10 +69,9 @@ protected:
 
 TEST_P(AdminBackupTest, ABackupTakenWhileSellingRestoresWholeSales) {
     QProcess seller;
-    seller.start(AdminProcess::binaryPath(),
-                 {QStringLiteral("sell"), QStringLiteral("--dir"), dir(), QStringLiteral("--user"),
-                  QStringLiteral("cashier"), QStringLiteral("--station"), QStringLiteral("1"),
-                  QStringLiteral("--repeat"), QStringLiteral("100"), QStringLiteral("1001")});
+    seller.start(
+        AdminProcess::binaryPath(),
+        (words("sell --dir") << dir()) + words("--user cashier --station 1 --repeat 100 1001"));
     ASSERT_TRUE(seller.waitForStarted());
     // The backup starts once the first sale is in.
     while (!seller.canReadLine() && seller.state() == QProcess::Running) {
@@ -105,17 +104,10 @@ TEST_P(AdminBackupTest, ABackupTakenWhileSellingRestoresWholeSales) {
 }
 
 TEST_P(AdminBackupTest, AChangedArchiveIsRefusedAndTheShopUntouched) {
-    ASSERT_EQ(runCommand(QStringLiteral("sell"),
-                         {QStringLiteral("--user"), QStringLiteral("cashier"),
-                          QStringLiteral("--station"), QStringLiteral("1"), QStringLiteral("1001")})
-                  .exitCode,
-              0);
+    const QStringList sale = words("--user cashier --station 1 1001");
+    ASSERT_EQ(runCommand(QStringLiteral("sell"), sale).exitCode, 0);
     ASSERT_EQ(backUp().exitCode, 0);
-    ASSERT_EQ(runCommand(QStringLiteral("sell"),
-                         {QStringLiteral("--user"), QStringLiteral("cashier"),
-                          QStringLiteral("--station"), QStringLiteral("1"), QStringLiteral("1001")})
-                  .exitCode,
-              0);
+    ASSERT_EQ(runCommand(QStringLiteral("sell"), sale).exitCode, 0);
     // One byte of the database copy (past the manifest, the first members) changes.
     QFile file(archive());
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));

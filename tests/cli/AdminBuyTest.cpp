@@ -28,28 +28,25 @@ protected:
         group = QString::number(
             count(QStringLiteral("SELECT ID FROM tblAccountingGroup WHERE Code = 301")));
     }
-    AdminProcess::Result buy(const QStringList& rest, const char* supplier = "601") {
-        return runCommand(QStringLiteral("buy"),
-                          QStringList{QStringLiteral("--user"), QStringLiteral("clerk"),
-                                      QStringLiteral("--supplier"), QString::fromLatin1(supplier),
-                                      QStringLiteral("--group"), group} +
-                              rest);
+    AdminProcess::Result buy(const char* rest, const char* supplier = "601") {
+        return runCommand(QStringLiteral("buy"), words("--user clerk --supplier")
+                                                     << QString::fromLatin1(supplier)
+                                                     << QStringLiteral("--group") << group
+                                                     << words(rest));
     }
     QString group;
 };
 
 TEST_P(AdminBuyTest, SavesLinesWithTheirTermsOrTheLastOnesAndPrintsTheDocument) {
-    AdminProcess::Result r =
-        buy({QStringLiteral("--date"), QStringLiteral("1404/2/3"), QStringLiteral("--discount"),
-             QStringLiteral("100"), QStringLiteral("1001:4:1000:10%:9"), QStringLiteral("3003")});
+    AdminProcess::Result r = buy("--date 1404/2/3 --discount 100 1001:4:1000:10%:9 3003");
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("Code=1 DocNo=1 DocSum=3924\n"));
 
-    r = buy({QStringLiteral("--return"), QStringLiteral("1001:2")});
+    r = buy("--return 1001:2");
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("Code=2 DocNo=1 DocSum=1962\n"));
 
-    r = buy({QStringLiteral("--number"), QStringLiteral("880"), QStringLiteral("3003::250")});
+    r = buy("--number 880 3003::250");
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("Code=3 DocNo=880 DocSum=250\n"));
 
@@ -60,21 +57,21 @@ TEST_P(AdminBuyTest, SavesLinesWithTheirTermsOrTheLastOnesAndPrintsTheDocument) 
 
 TEST_P(AdminBuyTest, RefusalsPrintTheirMessageAndBadWordsTheUsage) {
     struct Case {
-        QStringList rest;
+        const char* rest;
         const char* supplier;
         int exit;
         QString err;
     };
     const QList<Case> cases = {
-        {{QStringLiteral("1001")}, "602", 1, PurchaseTexts::supplierWithoutAccount()},
-        {{QStringLiteral("1001:x")}, "601", 2, QStringLiteral("bad term")},
-        {{QStringLiteral("1001:1:2:3:4:5")}, "601", 2, QStringLiteral("bad LINE")},
-        {{}, "601", 2, QStringLiteral("no LINE")},
-        {{QStringLiteral("1001")}, "x", 2, QStringLiteral("--supplier")},
+        {"1001", "602", 1, PurchaseTexts::supplierWithoutAccount()},
+        {"1001:x", "601", 2, QStringLiteral("bad term")},
+        {"1001:1:2:3:4:5", "601", 2, QStringLiteral("bad LINE")},
+        {"", "601", 2, QStringLiteral("no LINE")},
+        {"1001", "x", 2, QStringLiteral("--supplier")},
     };
     for (const Case& c : cases) {
         const AdminProcess::Result r = buy(c.rest, c.supplier);
-        EXPECT_EQ(r.exitCode, c.exit) << c.rest.join(u' ').toStdString();
+        EXPECT_EQ(r.exitCode, c.exit) << c.rest;
         EXPECT_TRUE(QString::fromUtf8(r.err).contains(c.err)) << r.err.toStdString();
         EXPECT_TRUE(r.outText().isEmpty());
     }

@@ -41,10 +41,9 @@ protected:
         });
     }
     QStringList saleWords(int repeat) {
-        return {QStringLiteral("sell"),   QStringLiteral("--dir"),    dir(),
-                QStringLiteral("--user"), QStringLiteral("cashier"),  QStringLiteral("--station"),
-                QStringLiteral("1"),      QStringLiteral("--repeat"), QString::number(repeat),
-                QStringLiteral("1001"),   QStringLiteral("3003"),     QStringLiteral("1001")};
+        return ((words("sell --dir") << dir()) + words("--user cashier --station 1 --repeat")
+                << QString::number(repeat)) +
+               words("1001 3003 1001");
     }
 };
 

@@ -61,24 +61,15 @@ protected:
     void runDesks() {
         std::vector<std::unique_ptr<QProcess>> desks;
         for (int desk = 1; desk <= kDesks; ++desk) {
-            QStringList words{
-                QStringLiteral("sell"),
-                QStringLiteral("--dir"),
-                dir(),
-                QStringLiteral("--user"),
-                QStringLiteral("cashier"),
-                QStringLiteral("--station"),
-                QString::number(desk),
-                QStringLiteral("--date"),
-                desk % 2 != 0 ? QStringLiteral("1404/01/05") : QStringLiteral("1404/01/06"),
-                QStringLiteral("--repeat"),
-                QString::number(kSales)};
+            QStringList line = (words("sell --dir") << dir()) + words("--user cashier --station");
+            line << QString::number(desk) << QStringLiteral("--date")
+                 << (desk % 2 != 0 ? QStringLiteral("1404/01/05") : QStringLiteral("1404/01/06"))
+                 << QStringLiteral("--repeat") << QString::number(kSales);
             if (desk % 4 == 0) {
-                words << QStringLiteral("--return");
+                line << QStringLiteral("--return");
             }
-            words << QStringLiteral("1001") << QStringLiteral("3003") << QStringLiteral("1001");
             desks.push_back(std::make_unique<QProcess>());
-            desks.back()->start(AdminProcess::binaryPath(), words);
+            desks.back()->start(AdminProcess::binaryPath(), line + words("1001 3003 1001"));
         }
         for (const auto& p : desks) {
             ASSERT_TRUE(p->waitForFinished(600000));

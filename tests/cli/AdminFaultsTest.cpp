@@ -24,7 +24,9 @@ TEST_P(AdminAmountTest, AmountsThatAreNoFiniteNumbersAreRefusedAndNothingIsSaved
         {"INSERT INTO Goods (EAN_Code, Name, Cost, Cost2, TaxValue) VALUES ('1001', "
          "'Bread', 2500, 0, 0)"});
     for (const char* option : {"--received", "--discount"}) {
-        for (const char* amount : {"nan", "inf", "-inf", "1e20", "9223372036854775808", "12x"}) {
+        // What reads as an amount is AmountText's (tested under common); below zero is refused
+        // here.
+        for (const char* amount : {"1e20", "12x", "-5"}) {
             const AdminProcess::Result r = runCommand(
                 QStringLiteral("sell"),
                 {QString::fromLatin1(option), QString::fromLatin1(amount), QStringLiteral("1001")});
@@ -44,32 +46,25 @@ TEST_P(AdminAmountTest, CodesThatDoNotExistAreRefusedAndNothingIsSaved) {
         "INSERT INTO tblPaymentType (Code, Name) VALUES (1, 'Cash')",
         "INSERT INTO Users (Name, UserName, Active) VALUES ('Cashier', 'cashier', 1)",
     });
-    struct Case {
-        QStringList words;
-        QString message;
+    const struct {
+        const char* words;
+        const char* message;
+    } cases[] = {
+        {"--pay-type 7 1001", "نوع پرداخت انتخاب شده وجود ندارد"},
+        {"--discount 100 --discount-type 9 1001", "نوع تخفيف انتخاب شده وجود ندارد"},
+        {"--station 5 1001", "صندوق انتخاب شده وجود ندارد"},
     };
-    const QList<Case> cases{
-        {{QStringLiteral("--pay-type"), QStringLiteral("7")},
-         QStringLiteral("نوع پرداخت انتخاب شده وجود ندارد")},
-        {{QStringLiteral("--discount"), QStringLiteral("100"), QStringLiteral("--discount-type"),
-          QStringLiteral("9")},
-         QStringLiteral("نوع تخفيف انتخاب شده وجود ندارد")},
-        {{QStringLiteral("--station"), QStringLiteral("5")},
-         QStringLiteral("صندوق انتخاب شده وجود ندارد")},
-    };
-    for (const Case& c : cases) {
-        const AdminProcess::Result r =
-            runCommand(QStringLiteral("sell"), c.words + QStringList{QStringLiteral("1001")});
-        EXPECT_EQ(r.exitCode, 1) << c.message.toStdString();
-        EXPECT_EQ(QString::fromUtf8(r.err).count(c.message), 1) << r.err.toStdString();
+    for (const auto& c : cases) {
+        const AdminProcess::Result r = runCommand(QStringLiteral("sell"), words(c.words));
+        EXPECT_EQ(r.exitCode, 1) << c.words;
+        EXPECT_EQ(QString::fromUtf8(r.err).count(QString::fromUtf8(c.message)), 1)
+            << r.err.toStdString();
     }
     EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 0);
     // The same sale with codes that exist is saved.
-    const AdminProcess::Result saved = runCommand(
-        QStringLiteral("sell"),
-        {QStringLiteral("--user"), QStringLiteral("cashier"), QStringLiteral("--station"),
-         QStringLiteral("1"), QStringLiteral("--discount"), QStringLiteral("100"),
-         QStringLiteral("--discount-type"), QStringLiteral("1"), QStringLiteral("1001")});
+    const AdminProcess::Result saved =
+        runCommand(QStringLiteral("sell"),
+                   words("--user cashier --station 1 --discount 100 --discount-type 1 1001"));
     EXPECT_EQ(saved.exitCode, 0) << saved.err.toStdString();
 }
 
@@ -80,15 +75,14 @@ TEST_P(AdminAmountTest, AnAmountReadBackThatIsNoNumberShowsAsUnreadable) {
     execAll(
         {"INSERT INTO Whs_QTYDocH (Code, DocNo, TransType, DocDate, DocSum, ReceivedPrice) "
          "VALUES (1, '1', 2, '1404/01/05', 'NaN', 'NaN')"});
-    const AdminProcess::Result report = runCommand(
-        QStringLiteral("report"), {QStringLiteral("daily"), QStringLiteral("1404/01/05")});
+    const AdminProcess::Result report =
+        runCommand(QStringLiteral("report"), words("daily 1404/01/05"));
     EXPECT_EQ(report.exitCode, 0) << report.err.toStdString();
     EXPECT_TRUE(report.outText().contains(QString::fromStdString(AmountText::unreadable())))
         << report.outText().toStdString();
     QTemporaryDir out;
     const AdminProcess::Result receipt = runCommand(
-        QStringLiteral("receipt"),
-        {QStringLiteral("1"), QStringLiteral("--pdf"), out.filePath(QStringLiteral("r.pdf"))});
+        QStringLiteral("receipt"), words("1 --pdf") << out.filePath(QStringLiteral("r.pdf")));
     EXPECT_EQ(receipt.exitCode, 0) << receipt.err.toStdString();
 }
 
@@ -128,12 +122,9 @@ TEST_F(AdminSqliteFileTest, ADamagedShopFileIsRefusedAndLeftAsItWas) {
             shop.close();
         }
         const QByteArray before = digest(QStringLiteral("Data/Shop.sqlite"));
-        for (const QStringList& words :
-             {QStringList{QStringLiteral("init-db")},
-              QStringList{QStringLiteral("sell"), QStringLiteral("--dry-run"),
-                          QStringLiteral("1001")}}) {
-            const AdminProcess::Result r = run(words.first(), words.mid(1));
-            EXPECT_EQ(r.exitCode, 1) << words.join(' ').toStdString();
+        for (const QStringList& command : {words("init-db"), words("sell --dry-run 1001")}) {
+            const AdminProcess::Result r = run(command.first(), command.mid(1));
+            EXPECT_EQ(r.exitCode, 1) << command.join(' ').toStdString();
             EXPECT_TRUE(QString::fromUtf8(r.err).contains(kDamaged)) << r.err.toStdString();
             EXPECT_FALSE(QString::fromUtf8(r.err).contains(kUnreachable)) << r.err.toStdString();
         }
@@ -148,8 +139,7 @@ TEST_F(AdminSqliteFileTest, ADamagedShopFileIsRefusedAndLeftAsItWas) {
 TEST_F(AdminSqliteFileTest, AnUnreachableDatabaseEndsADryRunWithTheConnectionMessage) {
     // No init-db: the shop file does not exist.
     const AdminProcess::Result r =
-        run(QStringLiteral("sell"), {QStringLiteral("--dry-run"), QStringLiteral("--user"),
-                                     QStringLiteral("cashier"), QStringLiteral("1001")});
+        run(QStringLiteral("sell"), words("--dry-run --user cashier 1001"));
     EXPECT_EQ(r.exitCode, 1);
     const QString err = QString::fromUtf8(r.err);
     EXPECT_EQ(err.count(kUnreachable), 1) << r.err.toStdString();

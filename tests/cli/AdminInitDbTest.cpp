@@ -44,10 +44,6 @@ TEST_F(AdminInitDbTest, CreatesTheSqliteFileThenFindsItUpToDateAndBuildsTheNextY
     EXPECT_EQ(year.exitCode, 0) << year.err.toStdString();
     EXPECT_TRUE(year.outText().contains(QStringLiteral("schema version 0 -> ") + lastVersion()))
         << year.outText().toStdString();
-    // And so does the demo, in a folder whose shop file was removed.
-    chooseFiscalYear(QStringLiteral("Shop"));
-    ASSERT_TRUE(QFile::remove(path(QStringLiteral("Data/Shop.sqlite"))));
-    EXPECT_EQ(run(QStringLiteral("demo")).exitCode, 0);
 }
 
 TEST_F(AdminInitDbTest, AMissingOrShortConnectionFileEndsWithTheStartUpMessage) {

@@ -34,33 +34,29 @@ protected:
 };
 
 TEST_P(AdminInternalTest, WrongWordsAndOptionsAreUsageErrors) {
-    const QString b = QStringLiteral("--branch");
-    const QString send = QStringLiteral("send");
-    const QString all = QStringLiteral("--all-unsent");
     const QList<QStringList> wrong = {
         {},
-        {QStringLiteral("bogus")},
-        {QStringLiteral("sell")},
-        {QStringLiteral("sell"), QStringLiteral("1001")},
-        {QStringLiteral("sell"), b, QStringLiteral("x"), QStringLiteral("1001")},
+        words("bogus"),
+        words("sell"),
+        words("sell 1001"),
+        words("sell --branch x 1001"),
         sell({}),
-        sell({QStringLiteral("--return"), QStringLiteral("1001")}),
-        sell({QStringLiteral("--of"), QStringLiteral("1"), QStringLiteral("1001")}),
-        sell({QStringLiteral("--return"), QStringLiteral("--of"), QStringLiteral("x"),
-              QStringLiteral("1001")}),
-        sell({QStringLiteral("--unknown"), QStringLiteral("1001")}),
-        {send},
-        {send, b, QStringLiteral("x"), all},
-        {send, b, QStringLiteral("1")},
-        {send, b, QStringLiteral("1"), all, QStringLiteral("7")},
-        {send, b, QStringLiteral("1"), all, QStringLiteral("--out")},
-        {QStringLiteral("receive")},
-        {QStringLiteral("receive"), QStringLiteral("a"), QStringLiteral("b")},
-        {QStringLiteral("receive"), QStringLiteral("--force"), QStringLiteral("a")},
+        sell(words("--return 1001")),
+        sell(words("--of 1 1001")),
+        sell(words("--return --of x 1001")),
+        sell(words("--unknown 1001")),
+        words("send"),
+        words("send --branch x --all-unsent"),
+        words("send --branch 1"),
+        words("send --branch 1 --all-unsent 7"),
+        words("send --branch 1 --all-unsent --out"),
+        words("receive"),
+        words("receive a b"),
+        words("receive --force a"),
     };
-    for (const QStringList& words : wrong) {
-        SCOPED_TRACE(words.join(u' ').toStdString());
-        const AdminProcess::Result r = internal(words);
+    for (const QStringList& wrongWords : wrong) {
+        SCOPED_TRACE(wrongWords.join(u' ').toStdString());
+        const AdminProcess::Result r = internal(wrongWords);
         EXPECT_EQ(r.exitCode, 2);
         EXPECT_TRUE(r.err.contains("usage: sandogh-admin internal"));
         EXPECT_TRUE(r.out.isEmpty());
@@ -68,12 +64,11 @@ TEST_P(AdminInternalTest, WrongWordsAndOptionsAreUsageErrors) {
 }
 
 TEST_P(AdminInternalTest, ASaleAndItsReturnsPrintTheirNumbersAndAnUnknownBranchFails) {
-    AdminProcess::Result r = internal(sell({QStringLiteral("1001"), QStringLiteral("3")}));
+    AdminProcess::Result r = internal(sell(words("1001 3")));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("Code=1 DocNo=1 DocSum=7500\n"));
 
-    const QStringList ret = sell({QStringLiteral("--return"), QStringLiteral("--of"),
-                                  QStringLiteral("1"), QStringLiteral("1001")});
+    const QStringList ret = sell(words("--return --of 1 1001"));
     r = internal(ret);
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("Code=2 DocNo=1 DocSum=2500\n"));
@@ -82,39 +77,39 @@ TEST_P(AdminInternalTest, ASaleAndItsReturnsPrintTheirNumbersAndAnUnknownBranchF
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("Code=2 DocNo=1 DocSum=2500\nReplaced=1\n"));
 
-    r = internal({QStringLiteral("sell"), QStringLiteral("--branch"), QStringLiteral("999"),
-                  QStringLiteral("1001")});
+    r = internal(words("sell --branch 999 1001"));
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(r.err.contains("no branch 999"));
     EXPECT_TRUE(r.out.isEmpty());
 }
 
 TEST_P(AdminInternalTest, SendPrintsTheFileAndReceivePrintsTheCounts) {
-    ASSERT_EQ(internal(sell({QStringLiteral("1001")})).exitCode, 0);
-    ASSERT_EQ(internal(sell({QStringLiteral("1001")})).exitCode, 0);
+    for (int sale = 0; sale < 2; ++sale) {
+        ASSERT_EQ(internal(sell(words("1001"))).exitCode, 0);
+    }
     const QStringList send{QStringLiteral("send"), QStringLiteral("--branch"), branch,
                            QStringLiteral("--out"), file()};
-    AdminProcess::Result r = internal(send + QStringList{QStringLiteral("2")});
+    AdminProcess::Result r = internal(send + words("2"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QDir::toNativeSeparators(file()) + QStringLiteral("\t1\n"));
-    r = internal(send + QStringList{QStringLiteral("--all-unsent")});
+    r = internal(send + words("--all-unsent"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QDir::toNativeSeparators(file()) + QStringLiteral("\t1\n"));
-    r = internal(send + QStringList{QStringLiteral("--all-unsent")});
+    r = internal(send + words("--all-unsent"));
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(
         QString::fromUtf8(r.err).contains(QStringLiteral("هيچ موردي براي ارسال انتخاب نشده است")));
-    r = internal(send + QStringList{QStringLiteral("99")});
+    r = internal(send + words("99"));
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(QString::fromUtf8(r.err).contains(QStringLiteral("no internal sale 99")));
 
-    r = internal({QStringLiteral("receive"), file()});
+    r = internal(words("receive") << file());
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("received 1, already here 0\n"));
-    r = internal({QStringLiteral("receive"), file()});
+    r = internal(words("receive") << file());
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_EQ(r.outText(), QStringLiteral("received 0, already here 1\n"));
-    r = internal({QStringLiteral("receive"), QDir(dir()).filePath(QStringLiteral("x.txt"))});
+    r = internal(words("receive") << QDir(dir()).filePath(QStringLiteral("x.txt")));
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(r.out.isEmpty());
     EXPECT_TRUE(QString::fromUtf8(r.err).contains(QStringLiteral("not named RptFactors.txt")));

@@ -22,4 +22,9 @@ public:
     static Result run(const QStringList& args);
 };
 
+// The words of a command line written as one text, split at its blanks.
+inline QStringList words(const char* text) {
+    return QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
+}
+
 }  // namespace sandogh

@@ -38,14 +38,14 @@ protected:
 };
 
 TEST_P(AdminReceiptTest, PrintsTheCompanionCommandOrWritesThePdf) {
-    const AdminProcess::Result r = receipt({QStringLiteral("5")});
+    const AdminProcess::Result r = receipt(words("5"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(),
               QStringLiteral("mnuRptFish,RptFish.rpt,فروشگاه نمونه,,,,5,3,1404/01/01,,,25000,0,,"
                              "0,,بيست و پنج هزار تومان,,\n"));
 
     const QString pdf = QDir(dir()).filePath(QStringLiteral("r.pdf"));
-    const AdminProcess::Result p = receipt({QStringLiteral("5"), QStringLiteral("--pdf"), pdf});
+    const AdminProcess::Result p = receipt(words("5 --pdf") << pdf);
     ASSERT_EQ(p.exitCode, 0) << p.err.toStdString();
     QFile file(pdf);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -54,8 +54,7 @@ TEST_P(AdminReceiptTest, PrintsTheCompanionCommandOrWritesThePdf) {
 
     // The ESC/POS printer's picture, 384 dots wide (IHDR width, big-endian).
     const QString png = QDir(dir()).filePath(QStringLiteral("r.png"));
-    const AdminProcess::Result i = receipt({QStringLiteral("5"), QStringLiteral("--png"), png,
-                                            QStringLiteral("--dots"), QStringLiteral("384")});
+    const AdminProcess::Result i = receipt((words("5 --png") << png) + words("--dots 384"));
     ASSERT_EQ(i.exitCode, 0) << i.err.toStdString();
     QFile image(png);
     ASSERT_TRUE(image.open(QIODevice::ReadOnly));
@@ -66,21 +65,19 @@ TEST_P(AdminReceiptTest, PrintsTheCompanionCommandOrWritesThePdf) {
 
 TEST_P(AdminReceiptTest, AMissingDocumentOrABadKeyPrintsNothing) {
     const struct {
-        QStringList words;
+        const char* words;
         int exitCode;
         const char* err;
     } cases[] = {
-        {{QStringLiteral("6")}, 1, "فاكتور مورد نظر يافت نشد."},
-        {{QStringLiteral("6"), QStringLiteral("--pdf"), QStringLiteral("x.pdf")},
-         1,
-         "فاكتور مورد نظر يافت نشد."},
-        {{QStringLiteral("five")}, 2, "positive whole number"},
-        {{}, 2, "exactly one document key"},
-        {{QStringLiteral("5"), QStringLiteral("--pdf")}, 2, "--pdf"},
+        {"6", 1, "فاكتور مورد نظر يافت نشد."},
+        {"6 --pdf x.pdf", 1, "فاكتور مورد نظر يافت نشد."},
+        {"five", 2, "positive whole number"},
+        {"", 2, "exactly one document key"},
+        {"5 --pdf", 2, "--pdf"},
     };
     for (const auto& c : cases) {
-        const AdminProcess::Result r = receipt(c.words);
-        EXPECT_EQ(r.exitCode, c.exitCode) << c.words.join(u' ').toStdString();
+        const AdminProcess::Result r = receipt(words(c.words));
+        EXPECT_EQ(r.exitCode, c.exitCode) << c.words;
         EXPECT_TRUE(r.out.isEmpty()) << r.outText().toStdString();
         EXPECT_TRUE(QString::fromUtf8(r.err).contains(QString::fromUtf8(c.err)))
             << r.err.toStdString();

@@ -40,11 +40,11 @@ protected:
                             {QStringLiteral(":sum"), received + 1000},
                             {QStringLiteral(":r"), received}}));
     }
-    void expectUsageErrors(const QList<QStringList>& words) {
-        for (const QStringList& bad : words) {
-            const AdminProcess::Result r = admin(bad);
-            EXPECT_EQ(r.exitCode, 2) << bad.join(u' ').toStdString();
-            EXPECT_TRUE(r.err.contains("usage:")) << bad.join(u' ').toStdString();
+    void expectUsageErrors(std::initializer_list<const char*> lines) {
+        for (const char* bad : lines) {
+            const AdminProcess::Result r = admin(words(bad));
+            EXPECT_EQ(r.exitCode, 2) << bad;
+            EXPECT_TRUE(r.err.contains("usage:")) << bad;
         }
     }
 };
@@ -53,8 +53,7 @@ TEST_P(AdminReportTest, DailyPrintsTheSummaryOfTheDayAskedOrOfToday) {
     addHeader(1, 2, QStringLiteral("1404/01/05"), 125000);
     addHeader(2, 2, QStringLiteral("1404/01/05"), 5000);
     addHeader(3, 3, QStringLiteral("1404/01/05"), 7000);
-    const AdminProcess::Result r =
-        admin({QStringLiteral("report"), QStringLiteral("daily"), QStringLiteral("1404/1/5")});
+    const AdminProcess::Result r = admin(words("report daily 1404/1/5"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     const QStringList lines = r.outText().split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 3) << r.outText().toStdString();
@@ -63,17 +62,13 @@ TEST_P(AdminReportTest, DailyPrintsTheSummaryOfTheDayAskedOrOfToday) {
     EXPECT_TRUE(lines[1].endsWith(QStringLiteral(" 130,000")));
     EXPECT_TRUE(lines[2].endsWith(QStringLiteral(" 7,000")));
 
-    const AdminProcess::Result today = admin({QStringLiteral("report"), QStringLiteral("daily")});
+    const AdminProcess::Result today = admin(words("report daily"));
     ASSERT_EQ(today.exitCode, 0) << today.err.toStdString();
     EXPECT_TRUE(today.outText().startsWith(todayJalali()));
     EXPECT_TRUE(today.outText().trimmed().endsWith(QStringLiteral(" 0")));
 
     expectUsageErrors(
-        {{QStringLiteral("report")},
-         {QStringLiteral("report"), QStringLiteral("weekly")},
-         {QStringLiteral("report"), QStringLiteral("daily"), QStringLiteral("1404/13/01")},
-         {QStringLiteral("report"), QStringLiteral("daily"), QStringLiteral("1404/01/01"),
-          QStringLiteral("x")}});
+        {"report", "report weekly", "report daily 1404/13/01", "report daily 1404/01/01 x"});
 }
 
 TEST_P(AdminReportTest, StockRepairPrintsHowManyArticlesItRepaired) {
@@ -84,27 +79,22 @@ TEST_P(AdminReportTest, StockRepairPrintsHowManyArticlesItRepaired) {
     execAll({"INSERT INTO Whs_QTYDocD (Code, EAN_Code, Qty) VALUES (1, '111', 7), (1, '222', 5)"});
 
     // Scoped: the article named is repaired; an unknown barcode is named and not counted.
-    const AdminProcess::Result scoped =
-        admin({QStringLiteral("stock-repair"), QStringLiteral("111"), QStringLiteral("999")});
+    // What a repair writes is the procedure's (tested under data).
+    const AdminProcess::Result scoped = admin(words("stock-repair 111 999"));
     ASSERT_EQ(scoped.exitCode, 0) << scoped.err.toStdString();
     EXPECT_EQ(scoped.outText().trimmed(), QStringLiteral("1"));
     EXPECT_TRUE(scoped.err.contains("999"));
-    EXPECT_EQ(count(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = '111'")), 7);
-    EXPECT_EQ(count(QStringLiteral("SELECT COUNT(*) FROM Stock WHERE Barcode = '222'")), 0);
 
-    const AdminProcess::Result all = admin({QStringLiteral("stock-repair")});
+    const AdminProcess::Result all = admin(words("stock-repair"));
     ASSERT_EQ(all.exitCode, 0) << all.err.toStdString();
     EXPECT_EQ(all.outText().trimmed(), QStringLiteral("2"));
-    EXPECT_EQ(count(QStringLiteral("SELECT Stock FROM Stock WHERE Barcode = '222'")), 5);
-    EXPECT_EQ(admin({QStringLiteral("stock-repair"), QStringLiteral("--x")}).exitCode, 2);
+    expectUsageErrors({"stock-repair --x"});
 }
 
 TEST_P(AdminReportTest, RangeReportsPrintEveryDayOrWriteAFile) {
     addHeader(1, 2, QStringLiteral("1404/01/05"), 125000);
     addHeader(2, 3, QStringLiteral("1404/01/07"), 7000);
-    const AdminProcess::Result r =
-        admin({QStringLiteral("report"), QStringLiteral("sales"), QStringLiteral("--from"),
-               QStringLiteral("1404/1/5"), QStringLiteral("--to"), QStringLiteral("1404/01/07")});
+    const AdminProcess::Result r = admin(words("report sales --from 1404/1/5 --to 1404/01/07"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     const QStringList lines = r.outText().split(u'\n', Qt::SkipEmptyParts);
     // Title, range, column titles and one line per day, the empty day included.
@@ -115,23 +105,15 @@ TEST_P(AdminReportTest, RangeReportsPrintEveryDayOrWriteAFile) {
 
     const QString csv = QDir(dir()).filePath(QStringLiteral("desks.csv"));
     const AdminProcess::Result file =
-        admin({QStringLiteral("report"), QStringLiteral("desks"), QStringLiteral("--from"),
-               QStringLiteral("1404/01/01"), QStringLiteral("--to"), QStringLiteral("1404/01/31"),
-               QStringLiteral("--csv"), csv});
+        admin(words("report desks --from 1404/01/01 --to 1404/01/31 --csv") << csv);
     ASSERT_EQ(file.exitCode, 0) << file.err.toStdString();
     QFile written(csv);
     ASSERT_TRUE(written.open(QIODevice::ReadOnly));
     EXPECT_EQ(written.readAll().count("\r\n"), 2);  // the column titles and the one desk
 
-    expectUsageErrors(
-        {{QStringLiteral("report"), QStringLiteral("sales"), QStringLiteral("--from"),
-          QStringLiteral("1404/02/31x")},
-         {QStringLiteral("report"), QStringLiteral("stock"), QStringLiteral("--csv"),
-          QStringLiteral("a"), QStringLiteral("--pdf"), QStringLiteral("b")},
-         {QStringLiteral("report"), QStringLiteral("top"), QStringLiteral("--from"),
-          QStringLiteral("1404/02/01"), QStringLiteral("--to"), QStringLiteral("1404/01/01")},
-         {QStringLiteral("report"), QStringLiteral("desks"), QStringLiteral("--station"),
-          QStringLiteral("one")}});
+    expectUsageErrors({"report sales --from 1404/02/31x", "report stock --csv a --pdf b",
+                       "report top --from 1404/02/01 --to 1404/01/01",
+                       "report desks --station one"});
 }
 
 SANDOGH_INSTANTIATE_BACKENDS(AdminReportTest);

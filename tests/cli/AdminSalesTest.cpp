@@ -37,27 +37,24 @@ protected:
 };
 
 TEST_P(AdminSalesTest, ListsDeletesAndReprints) {
-    AdminProcess::Result r = sales({QStringLiteral("list")});
+    AdminProcess::Result r = sales(words("list"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("2\t1404/01/02\t\t4000\t\t0\t7\t0\t0\n"
                                           "1\t1404/01/02\t\t3000\t\t0\t6\t0\t0\n"
                                           "1\t1404/01/01\tرضا کریمی\t25000\tB-1\t0\t5\t0\t40\n"));
-    r = sales({QStringLiteral("list"), QStringLiteral("--first"), QStringLiteral("--customer"),
-               QStringLiteral("كريمي"), QStringLiteral("--date"), QStringLiteral("1404/01/01")});
+    r = sales(words("list --first --customer كريمي --date 1404/01/01"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_TRUE(r.outText().startsWith(QStringLiteral("1\t1404/01/01\t")));
     EXPECT_EQ(r.outText().count(u'\n'), 1);
 
-    r = sales({QStringLiteral("reprint"), QStringLiteral("--number"), QStringLiteral("1")});
+    r = sales(words("reprint --number 1"));
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(QString::fromUtf8(r.err).contains(QStringLiteral("--date")));
-    r = sales({QStringLiteral("reprint"), QStringLiteral("--number"), QStringLiteral("1"),
-               QStringLiteral("--date"), QStringLiteral("1404/01/02")});
+    r = sales(words("reprint --number 1 --date 1404/01/02"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_TRUE(r.outText().contains(QStringLiteral(",چاپ مجدد,6,")));
 
-    r = sales({QStringLiteral("delete"), QStringLiteral("--number"), QStringLiteral("2"),
-               QStringLiteral("--date"), QStringLiteral("1404/01/02")});
+    r = sales(words("delete --number 2 --date 1404/01/02"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_TRUE(QString::fromUtf8(r.err).contains(QStringLiteral("عمليات حذف با موفقيت انجام شد")));
     EXPECT_EQ(db().session().scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 2);
@@ -71,12 +68,11 @@ TEST_P(AdminSalesTest, TheInternalSwitchListsAndDeletesInternalDocuments) {
                                       "CompanyID, DocDate, DocSum) VALUES (1, '1', 2, :b, "
                                       "'1404/01/01', 700)"),
                        {{QStringLiteral(":b"), branch}}));
-    AdminProcess::Result r = sales({QStringLiteral("list"), QStringLiteral("--internal")});
+    AdminProcess::Result r = sales(words("list --internal"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(),
               QStringLiteral("1\t1404/01/01\tشعبه ۲\t700\t\t0\t1\t0\t%1\n").arg(branch));
-    r = sales({QStringLiteral("delete"), QStringLiteral("--internal"), QStringLiteral("--number"),
-               QStringLiteral("1")});
+    r = sales(words("delete --internal --number 1"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocHInternal")), 0);
     EXPECT_EQ(s.scalarInt64(QStringLiteral("SELECT COUNT(*) FROM Whs_QTYDocH")), 3);
@@ -84,21 +80,16 @@ TEST_P(AdminSalesTest, TheInternalSwitchListsAndDeletesInternalDocuments) {
 
 TEST_P(AdminSalesTest, BadArgumentsAreRefused) {
     const struct {
-        QStringList words;
+        const char* words;
         const char* err;
     } cases[] = {
-        {{}, "expected one of"},
-        {{QStringLiteral("list"), QStringLiteral("--kind"), QStringLiteral("5")}, "--kind"},
-        {{QStringLiteral("list"), QStringLiteral("--all"), QStringLiteral("--first")}, "one of"},
-        {{QStringLiteral("delete"), QStringLiteral("--number"), QStringLiteral("1")}, "--date"},
-        {{QStringLiteral("reprint")}, "--number"},
-        {{QStringLiteral("list"), QStringLiteral("--internal"), QStringLiteral("--kind"),
-          QStringLiteral("1")},
-         "--kind 2 or 3"},
+        {"", "expected one of"},          {"list --kind 5", "--kind"},
+        {"list --all --first", "one of"}, {"delete --number 1", "--date"},
+        {"reprint", "--number"},          {"list --internal --kind 1", "--kind 2 or 3"},
     };
     for (const auto& c : cases) {
-        const AdminProcess::Result r = sales(c.words);
-        EXPECT_EQ(r.exitCode, 2) << c.words.join(u' ').toStdString();
+        const AdminProcess::Result r = sales(words(c.words));
+        EXPECT_EQ(r.exitCode, 2) << c.words;
         EXPECT_TRUE(QString::fromUtf8(r.err).contains(QString::fromUtf8(c.err)))
             << r.err.toStdString();
     }

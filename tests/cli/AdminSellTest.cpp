@@ -28,17 +28,13 @@ protected:
     AdminProcess::Result sell(const QStringList& words) {
         return runCommand(QStringLiteral("sell"), words);
     }
-    AdminProcess::Result save(const QStringList& words) {
-        return sell(QStringList{QStringLiteral("--user"), QStringLiteral("cashier"),
-                                QStringLiteral("--station"), QStringLiteral("1")} +
-                    words);
+    AdminProcess::Result save(const char* line) {
+        return sell(words("--user cashier --station 1") + words(line));
     }
 };
 
 TEST_P(AdminSellTest, ADryRunPrintsTheLinesAndTheTotal) {
-    const AdminProcess::Result r =
-        sell({QStringLiteral("--dry-run"), QStringLiteral("6261234567890"), QStringLiteral("3"),
-              QStringLiteral("1001"), QStringLiteral("10'01")});
+    const AdminProcess::Result r = sell(words("--dry-run 6261234567890 3 1001 10'01"));
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText(), QStringLiteral("6261234567890\t3\t10000\t9\t32700\n"
                                           "1001\t2\t2500\t0\t5000\n"
@@ -47,9 +43,7 @@ TEST_P(AdminSellTest, ADryRunPrintsTheLinesAndTheTotal) {
 }
 
 TEST_P(AdminSellTest, SavingPrintsTheKeyNumberAndTotal) {
-    AdminProcess::Result r =
-        save({QStringLiteral("--discount"), QStringLiteral("10000"),
-              QStringLiteral("--discount-type"), QStringLiteral("1"), QStringLiteral("3003")});
+    AdminProcess::Result r = save("--discount 10000 --discount-type 1 3003");
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     const qint64 code = count(QStringLiteral("SELECT MAX(Code) FROM Whs_QTYDocH"));
     EXPECT_EQ(r.outText(), QStringLiteral("Code=%1 DocNo=1 DocSum=100000\n").arg(code));
@@ -57,9 +51,7 @@ TEST_P(AdminSellTest, SavingPrintsTheKeyNumberAndTotal) {
                                    "AND Discount = 10000 AND PayType = 1 AND StationID = 1")),
               1);
 
-    r = save({QStringLiteral("--received"), QStringLiteral("2000"), QStringLiteral("--pay-type"),
-              QStringLiteral("2"), QStringLiteral("--repeat"), QStringLiteral("2"),
-              QStringLiteral("1001")});
+    r = save("--received 2000 --pay-type 2 --repeat 2 1001");
     ASSERT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.outText().count(QStringLiteral("DocSum=2500\n")), 2);
     EXPECT_TRUE(r.outText().contains(QStringLiteral(" DocNo=3 ")));
@@ -69,11 +61,8 @@ TEST_P(AdminSellTest, SavingPrintsTheKeyNumberAndTotal) {
 }
 
 TEST_P(AdminSellTest, WithoutEntriesOrWithABadSalesTypeItIsAUsageError) {
-    for (const QStringList& words :
-         {QStringList{}, QStringList{QStringLiteral("--dry-run")},
-          QStringList{QStringLiteral("--dry-run"), QStringLiteral("--sales-type"),
-                      QStringLiteral("3"), QStringLiteral("1001")}}) {
-        EXPECT_EQ(sell(words).exitCode, 2) << words.join(u' ').toStdString();
+    for (const char* line : {"", "--dry-run", "--dry-run --sales-type 3 1001"}) {
+        EXPECT_EQ(sell(words(line)).exitCode, 2) << line;
     }
 }
 

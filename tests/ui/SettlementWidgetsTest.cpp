@@ -81,12 +81,9 @@ TEST(SaleTotalsPanelFlow, TheTotalChangingRecomputesAndANewSaleEmptiesEverything
     panel.show();
     panel.showTotal(QStringLiteral("50,000"));
     typeAmount(child<AmountEdit>(panel, "txtReceivedPrice"), QStringLiteral("50000"));
-    EXPECT_EQ(child<QLabel>(panel, "lblReturnCalculator")->text(), SettlementTexts::settled());
-    // Another line rung up: still to receive.
+    // Another line rung up: recomputed (the figures and states are the calculator's).
     panel.showTotal(QStringLiteral("70,000"));
     EXPECT_EQ(child<AmountEdit>(panel, "txtSumReceived")->text(), QStringLiteral("70,000"));
-    EXPECT_EQ(child<AmountEdit>(panel, "txtReturn")->text(), QStringLiteral("20,000"));
-    EXPECT_EQ(child<QLabel>(panel, "lblReturnCalculator")->text(), SettlementTexts::toReceive());
 
     typeAmount(child<AmountEdit>(panel, "txtDiscount"), QStringLiteral("7000"));
     child<QComboBox>(panel, "cmbDiscountType")

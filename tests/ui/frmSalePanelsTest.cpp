@@ -93,8 +93,7 @@ TEST_F(frmSalePanelsTest, CustomerSearchEnterSearchesArrowsMove) {
     QTest::keyClick(child<QLineEdit>(*panel, "txtAccountSearch"), Qt::Key_Down);
     EXPECT_EQ(screen().session().CompanyId(), 12);
     EXPECT_EQ(child<QLineEdit>(*panel, "txtCustomerName")->text(), QStringLiteral("علی کریمی"));
-    QTest::keyClick(child<QLineEdit>(*panel, "txtAccountSearch"), Qt::Key_Down);
-    EXPECT_EQ(screen().session().CompanyId(), 12);
+    // Past the last result is the search's (tested under sales).
     QTest::keyClick(child<QLineEdit>(*panel, "txtAccountSearch"), Qt::Key_Up);
     EXPECT_EQ(screen().session().CompanyId(), 11);
     EXPECT_EQ(child<QListWidget>(*panel, "lstCustomers")->currentRow(), 0);

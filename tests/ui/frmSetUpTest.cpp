@@ -126,7 +126,6 @@ TEST_F(frmSetUpTest, LoadingShowsTheKeptValueOrTheDefault) {
     // shows it, or the default when nothing is kept.
     const LoadCase cases[] = {
         {"IsActiveCashDraw", "Enable", "2", "1"},
-        {"Scale", "IsActiveMizan", "abc", "0"},
         {"SaleOptions", "QuickEntry", nullptr, "1"},  // default on
         {"PrinterPort", "USB", "false", "0"},         // a "True"/"False" switch
         {"PortNo", "Saman", "4", "4"},

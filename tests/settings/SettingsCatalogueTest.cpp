@@ -1,5 +1,3 @@
-#include <set>
-
 #include <gtest/gtest.h>
 
 #include <QSet>
@@ -10,13 +8,6 @@
 
 namespace sandogh {
 namespace {
-
-const SettingGroup allGroups[] = {
-    SettingGroup::Session,  SettingGroup::Ports,     SettingGroup::Display,
-    SettingGroup::Drawer,   SettingGroup::Scale,     SettingGroup::Sale,
-    SettingGroup::Receipt,  SettingGroup::Customers, SettingGroup::Messaging,
-    SettingGroup::Branches, SettingGroup::System,    SettingGroup::Appearance,
-};
 
 TEST(SettingsCatalogue, EachKeyIsListedOnce) {
     QSet<QString> seen;

@@ -98,8 +98,7 @@ const char* const awkwardTexts[] = {
     "تعدادي از کالاهاي موجود در فاکتور مورد نظر در سيستم موجود نيستند,لطفا ابتدا برنامه انتقال "
     "کالا را اجرا نماييد.",
     "مقدار اين فيلد نمي تواند خالي باشد\r\nلطفآ مقدار را مشخص نمائيد",
-    "ش فاکتور: 1404/01/05",
-};
+    "ش فاکتور: 1404/01/05"};
 
 TEST_F(QSettingsStoreTest, AwkwardTextSurvivesTheFileAfterReopening) {
     const QString written = iniPath();

@@ -45,7 +45,7 @@ TEST_P(PurchaseSaverTest, HeaderLinesAndVoucherAreWrittenAsTheFormHoldsThem) {
     purchase().header().warehouseCode = 3;
     purchase().header().base = QStringLiteral("ref");
     purchase().header().note = QStringLiteral("note");
-    m_clock.set(QDateTime(QDate(2025, 3, 21), QTime(9, 5, 42)));
+    clock.set(QDateTime(QDate(2025, 3, 21), QTime(9, 5, 42)));
     const PurchaseSaveResult r = save();
     ASSERT_TRUE(r.saved);
     // (10000 - 1000) * 1.09 = 9810 a unit; 4 units and 2 * 5000.

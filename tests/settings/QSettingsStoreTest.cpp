@@ -6,14 +6,22 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-#include "SettingsTestSupport.h"
 #include "settings/QSettingsStore.h"
 
 namespace sandogh {
 namespace {
 
-using testing::fileText;
-using testing::writeFile;
+// The whole text of a file, or empty text when it cannot be read.
+QString fileText(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+bool writeFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+           file.write(bytes) == bytes.size();
+}
 
 class QSettingsStoreTest : public ::testing::Test {
 protected:

@@ -37,10 +37,13 @@ protected:
     }
 };
 
-TEST_P(LoginServiceTest, HashedPasswordsDecideTheLogin) {
+// A refused login, hashed or plain-text password, leaves the user's row as it was.
+TEST_P(LoginServiceTest, PasswordsDecideTheLoginAndARefusalChangesNothing) {
     addUser(QStringLiteral("sara"), PasswordHasher::hash(QStringLiteral("s3cret")), 2, 1,
             QStringLiteral("سارا"));
     addUser(QStringLiteral("old"), PasswordHasher::hash(QStringLiteral("gone")), 1, 0);
+    addUser(QStringLiteral("ali"), QStringLiteral("abcd"));
+    addUser(QStringLiteral("past"), QStringLiteral("pw"), 2, 0);
     const struct {
         const char* userName;
         const char* password;
@@ -54,12 +57,18 @@ TEST_P(LoginServiceTest, HashedPasswordsDecideTheLogin) {
         {"", "s3cret", Outcome::UnknownUser},
         {"old", "gone", Outcome::Inactive},
         {"old", "wrong", Outcome::WrongPassword},
+        {"ali", "ABCD", Outcome::WrongPassword},
+        {"ali", "abc", Outcome::WrongPassword},
+        {"past", "pw", Outcome::Inactive},  // inactive: not rehashed
     };
     for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.userName) + " / " + c.password);
+        const QString stored = storedPassword(QString::fromLatin1(c.userName).trimmed());
         const LoginService::Result r =
             login(QString::fromLatin1(c.userName), QString::fromLatin1(c.password));
-        EXPECT_EQ(r.outcome, c.outcome) << c.userName << " / " << c.password;
-        EXPECT_EQ(r.accepted(), r.user.isValid()) << c.userName;
+        EXPECT_EQ(r.outcome, c.outcome);
+        EXPECT_EQ(r.accepted(), r.user.isValid());
+        EXPECT_EQ(storedPassword(QString::fromLatin1(c.userName).trimmed()), stored);
     }
     const LoginService::Result sara = login(QStringLiteral("Sara"), QStringLiteral("s3cret"));
     EXPECT_EQ(sara.user.userName, QStringLiteral("sara"));
@@ -77,8 +86,7 @@ TEST_P(LoginServiceTest, APlainTextPasswordIsAcceptedOnceAndReplacedByItsHash) {
     EXPECT_TRUE(first.passwordRehashed);
     EXPECT_EQ(first.user.level, PermissionLevel::Administrator);
     const QString stored = storedPassword(QStringLiteral("reza"));
-    EXPECT_TRUE(stored.startsWith(QLatin1String("$argon2id$"))) << stored.toStdString();
-    EXPECT_TRUE(PasswordHasher::verify(stored, QStringLiteral("1234")));
+    EXPECT_TRUE(PasswordHasher::verify(stored, QStringLiteral("1234"))) << stored.toStdString();
 
     const LoginService::Result again = login(QStringLiteral("reza"), QStringLiteral("1234"));
     EXPECT_TRUE(again.accepted());
@@ -86,26 +94,6 @@ TEST_P(LoginServiceTest, APlainTextPasswordIsAcceptedOnceAndReplacedByItsHash) {
     EXPECT_EQ(storedPassword(QStringLiteral("reza")), stored);
     // The hash itself typed as the password is not the password.
     EXPECT_EQ(login(QStringLiteral("reza"), stored).outcome, Outcome::WrongPassword);
-}
-
-TEST_P(LoginServiceTest, ARefusedPlainTextPasswordLeavesTheRowAsItWas) {
-    addUser(QStringLiteral("ali"), QStringLiteral("abcd"));
-    addUser(QStringLiteral("past"), QStringLiteral("pw"), 2, 0);
-    const struct {
-        const char* userName;
-        const char* password;
-        Outcome outcome;
-        const char* stored;
-    } cases[] = {
-        {"ali", "ABCD", Outcome::WrongPassword, "abcd"},
-        {"ali", "abc", Outcome::WrongPassword, "abcd"},
-        {"past", "pw", Outcome::Inactive, "pw"},  // inactive: not rehashed
-    };
-    for (const auto& c : cases) {
-        const QString user = QString::fromLatin1(c.userName);
-        EXPECT_EQ(login(user, QString::fromLatin1(c.password)).outcome, c.outcome) << c.password;
-        EXPECT_EQ(storedPassword(user), QString::fromLatin1(c.stored)) << c.password;
-    }
 }
 
 TEST_P(LoginServiceTest, AnEmptyShopGetsAnAdministratorThatCanLogIn) {

@@ -8,6 +8,7 @@
 #include "app/DemoShop.h"
 #include "app/ShopDatabaseSetup.h"
 #include "data/ErrorLog.h"
+#include "data/schema/ShopSchema.h"
 #include "support/AppTestContext.h"
 
 namespace sandogh {

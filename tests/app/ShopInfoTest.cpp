@@ -11,7 +11,7 @@ namespace {
 
 class ShopInfoTest : public test::ShopBackendTest {};
 
-TEST_P(ShopInfoTest, TheShopNameFallsBackWhenCompanyHasNone) {
+TEST_P(ShopInfoTest, TextsFallBackOnlyWhereTheTablesHoldNone) {
     ShopInfo shop(db());
     EXPECT_EQ(shop.shopName(), ShopInfo::defaultShopName());  // no row
 
@@ -26,10 +26,7 @@ TEST_P(ShopInfoTest, TheShopNameFallsBackWhenCompanyHasNone) {
     exec(QStringLiteral("UPDATE Company SET Company_Name = :name"),
          {{QStringLiteral(":name"), QStringLiteral(" فروشگاه شهر ")}});
     EXPECT_EQ(shop.shopName(), QStringLiteral("فروشگاه شهر"));
-}
 
-TEST_P(ShopInfoTest, TheGreetingIsWelcomeOnlyWithoutARow) {
-    ShopInfo shop(db());
     EXPECT_EQ(shop.displayGreeting(), QStringLiteral("Welcome"));
 
     exec(QStringLiteral("INSERT INTO Display (Display) VALUES (NULL)"));
@@ -38,13 +35,10 @@ TEST_P(ShopInfoTest, TheGreetingIsWelcomeOnlyWithoutARow) {
     exec(QStringLiteral("UPDATE Display SET Display = :text"),
          {{QStringLiteral(":text"), QStringLiteral("Good day")}});
     EXPECT_EQ(shop.displayGreeting(), QStringLiteral("Good day"));
-}
 
-TEST_P(ShopInfoTest, AStationIsNamedByItsId) {
     exec(QStringLiteral("INSERT INTO Stations (Station_Name) VALUES (:name)"),
          {{QStringLiteral(":name"), QStringLiteral("صندوق ۱ ")}});
     const qint64 id = count(QStringLiteral("SELECT MAX(ID) FROM Stations"));
-    ShopInfo shop(db());
     EXPECT_EQ(shop.stationName(static_cast<int>(id)), QStringLiteral("صندوق ۱"));
     EXPECT_EQ(shop.stationName(static_cast<int>(id) + 1), QString());
 }

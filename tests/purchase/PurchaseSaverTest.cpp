@@ -45,7 +45,7 @@ TEST_P(PurchaseSaverTest, HeaderLinesAndVoucherAreWrittenAsTheFormHoldsThem) {
     purchase().header().warehouseCode = 3;
     purchase().header().base = QStringLiteral("ref");
     purchase().header().note = QStringLiteral("note");
-    m_clock.set(QDateTime(QDate(2025, 3, 21), QTime(9, 5, 42)));
+    clock.set(QDateTime(QDate(2025, 3, 21), QTime(9, 5, 42)));
     const PurchaseSaveResult r = save();
     ASSERT_TRUE(r.saved);
     // (10000 - 1000) * 1.09 = 9810 a unit; 4 units and 2 * 5000.
@@ -127,18 +127,18 @@ TEST_P(PurchaseSaverTest, StockFollowsAPurchaseAndItsReturnAndGoodsStayAsTheyWer
     EXPECT_EQ(goodsRows(), goods);
 }
 
-TEST_P(PurchaseSaverTest, SupplierWithoutAnAccountLeavesNothingWritten) {
+TEST_P(PurchaseSaverTest, RefusalOrFailureLeavesNothingAndTheSamePurchaseSavesNext) {
     fill(false, {{"1111", 1, 1000, 0, 0}}, kSupplierWithoutAccount);
-    const PurchaseSaveResult r = save();
-    EXPECT_FALSE(r.saved);
-    EXPECT_EQ(r.refusedBy, PurchaseCheck::SupplierAccount);
+    const PurchaseSaveResult refused = save();
+    EXPECT_FALSE(refused.saved);
+    EXPECT_EQ(refused.refusedBy, PurchaseCheck::SupplierAccount);
     EXPECT_EQ(messages().countOf(PurchaseTexts::supplierWithoutAccount()), 1);
     expectNothingWritten();
     EXPECT_EQ(purchase().lines().lineCount(), 1);
-}
 
-TEST_P(PurchaseSaverTest, FailureInsideTheSaveLeavesNothingAndTheSamePurchaseSavesNext) {
+    // A failure inside the save leaves nothing either, and the same purchase saves next.
     fill(false, {{"1111", 3, 1000, 0, 0}});
+    messages().clear();
     refuse(QStringLiteral("Whs_QTYDocD"), QStringLiteral("INSERT"));
     const PurchaseSaveResult failed = save();
     EXPECT_FALSE(failed.saved);

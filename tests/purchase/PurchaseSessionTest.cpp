@@ -101,33 +101,26 @@ TEST_P(PurchaseSessionTest, ChecksRefuseInTheirOrderWithTheirMessages) {
     struct Case {
         int supplier;
         bool group;
-        QString docNo;
+        const char* docNo;
         bool lines;
         PurchaseCheck refused;
         QString message;
     };
     const QList<Case> cases = {
-        {0, false, {}, false, PurchaseCheck::Supplier, PurchaseTexts::noSupplier()},
-        {kSupplier,
-         false,
-         {},
-         false,
-         PurchaseCheck::AccountingGroup,
+        {0, false, "", false, PurchaseCheck::Supplier, PurchaseTexts::noSupplier()},
+        {kSupplier, false, "", false, PurchaseCheck::AccountingGroup,
          PurchaseTexts::noAccountingGroup()},
-        {kSupplier, true, QStringLiteral(" "), false, PurchaseCheck::DocNo,
-         PurchaseTexts::noDocNo()},
-        {kSupplier, true, QStringLiteral("5"), false, PurchaseCheck::Lines,
-         PurchaseTexts::noLines()},
-        {kSupplier, true, QStringLiteral("5a"), true, PurchaseCheck::DocNo,
-         PurchaseTexts::docNoNotANumber()},
-        {kSupplier, true, QStringLiteral("5"), true, PurchaseCheck::None, {}},
+        {kSupplier, true, " ", false, PurchaseCheck::DocNo, PurchaseTexts::noDocNo()},
+        {kSupplier, true, "5", false, PurchaseCheck::Lines, PurchaseTexts::noLines()},
+        {kSupplier, true, "5a", true, PurchaseCheck::DocNo, PurchaseTexts::docNoNotANumber()},
+        {kSupplier, true, "5", true, PurchaseCheck::None, {}},
     };
     for (const Case& c : cases) {
         purchase().newDocument(false);
         messages().clear();
         purchase().header().supplier = c.supplier;
         purchase().header().accountingGroupId = c.group ? account(301) : 0;
-        purchase().header().docNo = c.docNo;
+        purchase().header().docNo = QString::fromLatin1(c.docNo);
         if (c.lines) {
             ASSERT_TRUE(purchase().addBarcode(QStringLiteral("2222")));
         }

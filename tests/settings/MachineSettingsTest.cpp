@@ -117,22 +117,7 @@ TEST_F(MachineSettingsTest, ReceiptOutputNamesAnyCase) {
     }
 }
 
-TEST_F(MachineSettingsTest, KeysOfAnotherApplicationAreNeitherReadNorWritten) {
-    keep("FC", "ShowPrice", QStringLiteral("2"));
-    EXPECT_EQ(m_settings.integer(k::TransferShowPrice), 1);
-    EXPECT_FALSE(m_settings.write(k::TransferShowPrice, QStringLiteral("2")));
-    EXPECT_FALSE(m_settings.reset(k::TransferShowPrice));
-
-    QSettingsStore transferStore(QStringLiteral("Factortransfer"),
-                                 dir_.filePath(QStringLiteral("Factortransfer.ini")));
-    ASSERT_TRUE(
-        transferStore.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("5")));
-    MachineSettings wrongStore(transferStore);
-    EXPECT_EQ(wrongStore.portNo(), 0);
-    EXPECT_FALSE(wrongStore.setNumber(k::PortNo, 3));
-}
-
-TEST_F(MachineSettingsTest, BranchTransferKeepsShowPriceUnderItsOwnApplication) {
+TEST_F(MachineSettingsTest, ShowPriceLivesUnderTheTransferApplicationOnly) {
     QSettingsStore transferStore(QStringLiteral("Factortransfer"),
                                  dir_.filePath(QStringLiteral("Factortransfer.ini")));
     BranchTransferSettings transfer(transferStore);
@@ -143,10 +128,19 @@ TEST_F(MachineSettingsTest, BranchTransferKeepsShowPriceUnderItsOwnApplication) 
               QStringLiteral("2"));
     EXPECT_EQ(m_store.read(QStringLiteral("FC"), QStringLiteral("ShowPrice")), QString());
 
-    BranchTransferSettings onRetail(m_store);
+    // Keys of another application are neither read nor written, by either reader.
     keep("FC", "ShowPrice", QStringLiteral("2"));
+    BranchTransferSettings onRetail(m_store);
     EXPECT_EQ(onRetail.showPrice(), 1);
     EXPECT_FALSE(onRetail.setShowPrice(2));
+    EXPECT_EQ(m_settings.integer(k::TransferShowPrice), 1);
+    EXPECT_FALSE(m_settings.write(k::TransferShowPrice, QStringLiteral("2")));
+    EXPECT_FALSE(m_settings.reset(k::TransferShowPrice));
+    ASSERT_TRUE(
+        transferStore.write(QStringLiteral("PortNo"), QStringLiteral("No"), QStringLiteral("5")));
+    MachineSettings wrongStore(transferStore);
+    EXPECT_EQ(wrongStore.portNo(), 0);
+    EXPECT_FALSE(wrongStore.setNumber(k::PortNo, 3));
 }
 
 }  // namespace

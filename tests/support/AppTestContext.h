@@ -17,8 +17,6 @@
 
 #include "app/AppContext.h"
 #include "data/Database.h"
-#include "data/schema/Migrator.h"
-#include "data/schema/ShopSchema.h"
 #include "settings/QSettingsStore.h"
 #include "support/FixedClock.h"
 #include "support/LaunchRecorder.h"
@@ -69,12 +67,5 @@ public:
     RawPrintRecorder printer;
     AppContext context;
 };
-
-// Every migration step on a test database; false (with a failure added) when one failed.
-inline bool migrateShop(Database& database) {
-    const Migrator::Result result = Migrator(database).apply(shopMigrations());
-    EXPECT_TRUE(result.ok) << result.message.toStdString();
-    return result.ok;
-}
 
 }  // namespace sandogh::test

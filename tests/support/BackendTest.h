@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <memory>
 #include <string>
 
@@ -10,6 +11,23 @@
 #include "support/TestDatabase.h"
 
 namespace sandogh::test {
+
+// Creates the test database of a backend for a test that is not a BackendTest. When it
+// cannot, reports as BackendTest does: sets skip (the caller then GTEST_SKIP()s) or adds
+// a failure.
+inline std::unique_ptr<TestDatabase> createOrReport(Backend backend, bool* skip) {
+    QString reason;
+    std::unique_ptr<TestDatabase> db = TestDatabase::create(backend, &reason);
+    *skip = !db && backend == Backend::PostgreSQL && !TestDatabase::postgresConfigured() &&
+            !TestDatabase::postgresRequired();
+    if (*skip) {
+        std::fprintf(stderr, "\n*** SKIPPED on PostgreSQL: %s ***\n\n", qPrintable(reason));
+    } else if (!db) {
+        ADD_FAILURE() << backendName(backend).toStdString()
+                      << " test database: " << reason.toStdString();
+    }
+    return db;
+}
 
 // A suite that runs once per backend on a fresh database each test:
 //
@@ -21,8 +39,16 @@ namespace sandogh::test {
 // message; with SANDOGH_REQUIRE_PG=1 (scripts/test) they fail instead.
 class BackendTest : public ::testing::TestWithParam<Backend> {
 protected:
-    void SetUp() override;
-    void TearDown() override;
+    void SetUp() override {
+        bool skip = false;
+        m_testDatabase = createOrReport(GetParam(), &skip);
+        if (skip) {
+            GTEST_SKIP() << "PostgreSQL is not configured (SANDOGH_TEST_PG_HOST); this test did "
+                            "NOT run";
+        }
+        ASSERT_NE(m_testDatabase, nullptr);
+    }
+    void TearDown() override { m_testDatabase.reset(); }
 
     Backend backend() const { return GetParam(); }
     TestDatabase& testDatabase() { return *m_testDatabase; }
@@ -33,12 +59,9 @@ private:
     std::unique_ptr<TestDatabase> m_testDatabase;
 };
 
-std::string backendParamName(const ::testing::TestParamInfo<Backend>& info);
-
-// Creates the test database of a backend for a test that is not a BackendTest. When it
-// cannot, reports as BackendTest does: sets skip (the caller then GTEST_SKIP()s) or adds
-// a failure.
-std::unique_ptr<TestDatabase> createOrReport(Backend backend, bool* skip);
+inline std::string backendParamName(const ::testing::TestParamInfo<Backend>& info) {
+    return backendName(info.param).toStdString();
+}
 
 }  // namespace sandogh::test
 

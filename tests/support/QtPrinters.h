@@ -39,35 +39,10 @@ inline void PrintTo(Backend backend, std::ostream* os) {
 }
 
 inline void PrintTo(DbErrorKind kind, std::ostream* os) {
-    switch (kind) {
-        case DbErrorKind::None:
-            *os << "None";
-            return;
-        case DbErrorKind::ConnectionLost:
-            *os << "ConnectionLost";
-            return;
-        case DbErrorKind::KeyConflict:
-            *os << "KeyConflict";
-            return;
-        case DbErrorKind::ForeignKey:
-            *os << "ForeignKey";
-            return;
-        case DbErrorKind::Busy:
-            *os << "Busy";
-            return;
-        case DbErrorKind::Permission:
-            *os << "Permission";
-            return;
-        case DbErrorKind::DiskFull:
-            *os << "DiskFull";
-            return;
-        case DbErrorKind::Damaged:
-            *os << "Damaged";
-            return;
-        case DbErrorKind::Other:
-            *os << "Other";
-            return;
-    }
+    static const char* const names[] = {"None",       "ConnectionLost", "KeyConflict",
+                                        "ForeignKey", "Busy",           "Permission",
+                                        "DiskFull",   "Damaged",        "Other"};
+    *os << names[static_cast<int>(kind)];
 }
 
 }  // namespace sandogh

@@ -115,11 +115,18 @@ TEST_P(MigratorTest, RowsSurviveALaterForeignKeyWhichIsThenEnforced) {
     ASSERT_TRUE(migrator.apply(testSteps().mid(0, 2)).ok);
     {
         Session s = db().session();
+        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO DocH (Code, DocNo, StationID, DocDate) "
+                                          "VALUES (:code, :docNo, :station, :date)"),
+                           {{QStringLiteral(":code"), 1},
+                            {QStringLiteral(":docNo"), QStringLiteral("1")},
+                            {QStringLiteral(":station"), 1},
+                            {QStringLiteral(":date"), QStringLiteral("1404/01/05")}}));
+        ASSERT_TRUE(s.exec(
+            QStringLiteral("INSERT INTO DocD (Code, EAN_Code) VALUES (:code, :ean)"),
+            {{QStringLiteral(":code"), 1}, {QStringLiteral(":ean"), QStringLiteral("626")}}));
         ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO DocH (Code, DocNo, StationID, DocDate) "
-                                  "VALUES (1, '1', 1, '1404/01/05')")));
-        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO DocD (Code, EAN_Code) VALUES (1, '626')")));
-        ASSERT_TRUE(s.exec(QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (7, 'x')").arg(plu())));
+            s.exec(QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (:id, :name)").arg(plu()),
+                   {{QStringLiteral(":id"), 7}, {QStringLiteral(":name"), QStringLiteral("x")}}));
     }
     ASSERT_TRUE(migrator.apply(testSteps()).ok);
     Session s = db().session();
@@ -166,8 +173,9 @@ TEST_P(MigratorTest, TheVendorsTablesOfAnEarlierShopAreKeptAsTheyAre) {
     ASSERT_TRUE(Migrator(db()).apply({earlier}).ok);
     {
         Session s = db().session();
-        ASSERT_TRUE(
-            s.exec(QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (7, 'Cheese')").arg(plu())));
+        ASSERT_TRUE(s.exec(
+            QStringLiteral("INSERT INTO %1 (Id, Name) VALUES (:id, :name)").arg(plu()),
+            {{QStringLiteral(":id"), 7}, {QStringLiteral(":name"), QStringLiteral("Cheese")}}));
         ASSERT_TRUE(s.exec(QStringLiteral("DROP TABLE SchemaVersion")));
     }
     const Migrator::Result result = Migrator(db()).apply(testSteps());

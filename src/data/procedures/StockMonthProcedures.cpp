@@ -1,5 +1,6 @@
 #include "data/procedures/StockMonthProcedures.h"
 
+#include "data/SqlInList.h"
 #include "data/SqlQuery.h"
 
 namespace sandogh::procedures {
@@ -133,16 +134,12 @@ bool stockMonthRebuild(Session& session, const QStringList& barcodes) {
         return session.exec(QStringLiteral("DELETE FROM StockMonth")) &&
                session.exec(stockMonthFillSql());
     }
-    SqlBinds binds;
-    QStringList names;
-    for (qsizetype i = 0; i < barcodes.size(); ++i) {
-        names << QStringLiteral(":b%1").arg(i);
-        binds.append({names.last(), barcodes.at(i)});
-    }
-    const QString list = names.join(QStringLiteral(", "));
-    return session.exec(QStringLiteral("DELETE FROM StockMonth WHERE Barcode IN (%1)").arg(list),
-                        binds) &&
-           session.exec(fill(QStringLiteral(" AND D.EAN_Code IN (%1)").arg(list)), binds);
+    const SqlInList list = SqlInList::of(barcodes);
+    return session.exec(
+               QStringLiteral("DELETE FROM StockMonth WHERE Barcode IN (%1)").arg(list.names),
+               list.binds) &&
+           session.exec(fill(QStringLiteral(" AND D.EAN_Code IN (%1)").arg(list.names)),
+                        list.binds);
 }
 
 bool stockMonthApply(Session& session, qint64 code, int sign, bool internal) {

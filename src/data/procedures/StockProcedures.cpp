@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "data/SqlInList.h"
 #include "data/SqlQuery.h"
 #include "data/Transaction.h"
 #include "data/procedures/StockMonthProcedures.h"
@@ -79,19 +80,11 @@ struct Scope {
 };
 
 Scope scopeOf(const QString& joiner, const QString& column, const QStringList& barcodes) {
-    Scope scope;
     if (barcodes.isEmpty()) {
-        return scope;
+        return {};
     }
-    QStringList names;
-    for (qsizetype i = 0; i < barcodes.size(); ++i) {
-        const QString name = QStringLiteral(":b%1").arg(i);
-        names << name;
-        scope.binds.append({name, barcodes.at(i)});
-    }
-    scope.condition =
-        QStringLiteral(" %1 %2 IN (%3)").arg(joiner, column, names.join(QStringLiteral(", ")));
-    return scope;
+    const SqlInList list = SqlInList::of(barcodes);
+    return {QStringLiteral(" %1 %2 IN (%3)").arg(joiner, column, list.names), list.binds};
 }
 
 bool repair(Session& session, const QStringList& barcodes) {

@@ -3,6 +3,7 @@
 #include <QSet>
 
 #include "data/Session.h"
+#include "data/SqlInList.h"
 #include "data/SqlQuery.h"
 
 namespace sandogh {
@@ -93,13 +94,10 @@ std::optional<QStringList> InternalTransferRepository::missingGoods(Session& ses
     QSet<QString> known;
     for (qsizetype from = 0; from < unique.size(); from += kBarcodesPerStatement) {
         const QStringList part = unique.mid(from, kBarcodesPerStatement);
-        QStringList names;
-        for (qsizetype i = 0; i < part.size(); ++i) {
-            names << QStringLiteral(":b%1").arg(i);
-        }
-        SqlQuery q(session, kKnownGoods.arg(names.join(QStringLiteral(", "))));
-        for (qsizetype i = 0; i < part.size(); ++i) {
-            q.bind(names.at(i), part.at(i));
+        const SqlInList list = SqlInList::of(part);
+        SqlQuery q(session, kKnownGoods.arg(list.names));
+        for (const auto& [name, value] : list.binds) {
+            q.bindValue(name, value);
         }
         if (!q.exec()) {
             return std::nullopt;

@@ -206,22 +206,21 @@ std::optional<int> SaleTotalsPanel::chosenKind(const QComboBox* combo) {
 }
 
 void SaleTotalsPanel::fillSettlement(SaleSettlement& settlement) const {
-    SettlementCalculator::fill(settlement, txtSum->value(), txtDiscount->value(),
-                               txtDiscountPercent->value(), txtOther->value(),
-                               txtReceivedPrice->value());
-    settlement.discountTypeId = chosenKind(cmbDiscountType);
-    settlement.overheadId = chosenKind(cmbOverhead);
+    fillAmounts(settlement, txtSum->value());
 }
 
 void SaleTotalsPanel::fillSettlement(SaleSettlement& settlement, double linesTotal) const {
-    SettlementCalculator::fill(settlement, linesTotal, txtDiscount->value(),
-                               txtDiscountPercent->value(), txtOther->value(),
-                               txtReceivedPrice->value());
-    settlement.discountTypeId = chosenKind(cmbDiscountType);
-    settlement.overheadId = chosenKind(cmbOverhead);
+    fillAmounts(settlement, linesTotal);
     if (txtSumReceived->value() > 0) {
         settlement.received = txtSumReceived->value();
     }
+}
+
+void SaleTotalsPanel::fillAmounts(SaleSettlement& settlement, double total) const {
+    SettlementCalculator::fill(settlement, total, txtDiscount->value(), txtDiscountPercent->value(),
+                               txtOther->value(), txtReceivedPrice->value());
+    settlement.discountTypeId = chosenKind(cmbDiscountType);
+    settlement.overheadId = chosenKind(cmbOverhead);
 }
 
 QString SaleTotalsPanel::payableText() const {

@@ -93,6 +93,8 @@ private:
     QPushButton* DiscountButton;
 
     void buildLayout();
+    // The amounts over a total and the chosen kinds.
+    void fillAmounts(SaleSettlement& settlement, double total) const;
     static void fillKinds(QComboBox* combo, const QList<SaleScreenLists::Item>& kinds);
 
     bool m_clearing = false;
